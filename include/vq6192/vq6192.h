@@ -1,0 +1,9 @@
+/* VQ6192 driver SDK: umbrella header. C-compatible. */
+#ifndef VQ6192_VQ6192_H
+#define VQ6192_VQ6192_H
+
+#include "vq6192/core.h"
+#include "vq6192/platform.h"
+#include "vq6192/types.h"
+
+#endif /* VQ6192_VQ6192_H */

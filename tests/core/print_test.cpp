@@ -1,0 +1,118 @@
+// Print flags: the flag table text, the setters and their refusals, and the trace point's gate.
+#include <string>
+
+#include "support/test_support.h"
+
+namespace {
+
+using vqtest::ChipTest;
+using PrintTest = ChipTest;
+
+constexpr char kFreshFlagTable[] =
+    "---------------ModuleID------------------------------\n"
+    "0 :   OFF   FLAG is  14\n"
+    "1 :   BASE   FLAG is  14\n"
+    "2 :   ATM   FLAG is  14\n"
+    "3 :   CES   FLAG is  14\n"
+    "4 :   PPP   FLAG is  14\n"
+    "5 :   ETH   FLAG is  14\n"
+    "6 :   MAC   FLAG is  14\n"
+    "7 :   TS   FLAG is  14\n"
+    "8 :   SDH   FLAG is  14\n"
+    "9 :   SAM   FLAG is  14\n"
+    "10 :   INT   FLAG is  14\n"
+    "11 :   DUMP   FLAG is  14\n"
+    "12 :   TABLE   FLAG is  14\n"
+    "13 :   REG   FLAG is  14\n"
+    "14 :   IMA   FLAG is  14\n"
+    "15 :   FRM   FLAG is  14\n"
+    "16 :   QOS_ASI   FLAG is  14\n"
+    "17 :   MLPPP_ASI   FLAG is  14\n"
+    "18 :   CPOS_ASI   FLAG is  14\n"
+    "19 :   CES_ASI   FLAG is  14\n"
+    "20 :   ATM_ASI   FLAG is  14\n"
+    "21 :   IMA_ASI   FLAG is  14\n"
+    "22 :   END   FLAG is  14\n"
+    "---------------FLAG MASK------------------------------\n"
+    "0 : PRINT OFF\n"
+    "1 : PRINT_NORMAL\n"
+    "2 : PRINT_PARA_WRONG\n"
+    "4 : PRINT_EXCEPTION1_INFO\n"
+    "8 : PRINT_EXCEPTION2_INFO\n"
+    "15 : ALL_PRINT\n";
+
+std::string flagTable(uint32_t chip) {
+    std::string buf(VQ6192_DIAG_BUF_SIZE, '\xAA');
+    EXPECT_EQ(VQ6192_Show_Printf_Flag(chip, buf.data()), 0u);
+    return buf.c_str();
+}
+
+TEST_F(PrintTest, FreshChipShowsEveryFlagAs14) {
+    EXPECT_EQ(flagTable(kChip), kFreshFlagTable);
+    EXPECT_EQ(VQ6192_Show_Printf_Flag(kChip, nullptr), 0u);
+    char buf[16];
+    EXPECT_EQ(VQ6192_Show_Printf_Flag(100000, buf), 0x00010001u);
+}
+
+TEST_F(PrintTest, SetterChangesOneModuleOrAllAndRefusesBadIds) {
+    VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_SDH, 3);
+    EXPECT_NE(flagTable(kChip).find("8 :   SDH   FLAG is  3\n"), std::string::npos);
+    EXPECT_EQ(g_vq6192[kChip].aulPrintFlag[VQ6192_MODULE_ATM], 14u);
+
+    VQ6192_Set_Printf_Flag(kChip, 22, 15);
+    for (uint32_t flag : g_vq6192[kChip].aulPrintFlag) {
+        EXPECT_EQ(flag, 15u);
+    }
+    EXPECT_TRUE(capture.logs.empty());
+
+    VQ6192_Set_Printf_Flag(kChip, 23, 0);
+    VQ6192_Set_Printf_Flag(264, 1, 0);
+    VQ6192_Set_Printf_Flag(264, 99, 0);  // the module id is checked first
+    ASSERT_EQ(capture.logs.size(), 3u);
+    EXPECT_EQ(capture.logs[0].mask, 256u);
+    EXPECT_EQ(capture.logs[0].text, "\r\nVQ6192_Set_Printf_Flag ModuleID is wrong! 23\r\n");
+    EXPECT_EQ(capture.logs[1].text, "\r\nVQ6192_Set_Printf_Flag VQ6192_CHIP_NUM is wrong! 264\r\n");
+    EXPECT_EQ(capture.logs[2].text, "\r\nVQ6192_Set_Printf_Flag ModuleID is wrong! 99\r\n");
+    for (uint32_t flag : g_vq6192[kChip].aulPrintFlag) {
+        EXPECT_EQ(flag, 15u);
+    }
+}
+
+TEST_F(PrintTest, DiagSetterReportsWithoutLookingAtTheOutcome) {
+    std::string buf(VQ6192_DIAG_BUF_SIZE, '\0');
+    EXPECT_EQ(VQ6192_Set_Diag_Printf_Flag(kChip, VQ6192_MODULE_TABLE, 8, buf.data()), 0u);
+    EXPECT_STREQ(buf.c_str(), "Diag set module TABLE flag 8 success\n");
+    EXPECT_EQ(g_vq6192[kChip].aulPrintFlag[VQ6192_MODULE_TABLE], 8u);
+
+    EXPECT_EQ(VQ6192_Set_Diag_Printf_Flag(kChip, 40, 1, buf.data()), 0u);
+    EXPECT_STREQ(buf.c_str(), "Diag set module UNKNOWN flag 1 success\n");
+    EXPECT_EQ(capture.logs.size(), 1u);
+
+    EXPECT_EQ(VQ6192_Set_Diag_Printf_Flag(kChip, VQ6192_MODULE_ATM, 0, nullptr), 1u);
+    EXPECT_EQ(g_vq6192[kChip].aulPrintFlag[VQ6192_MODULE_ATM], 0u)
+        << "the setter ran before the buffer check";
+}
+
+TEST_F(PrintTest, TracePointIsGatedByTheModuleFlag) {
+    VQ6192_Printf(kChip, VQ6192_MODULE_ATM, VQ6192_PRINT_NORMAL, "normal %d\r\n", 1);
+    VQ6192_Printf(kChip, VQ6192_MODULE_ATM, VQ6192_PRINT_EXCEPTION1_INFO, "Err. step %d\r\n", 2);
+    VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_ATM, 0);
+    VQ6192_Printf(kChip, VQ6192_MODULE_ATM, VQ6192_PRINT_EXCEPTION1_INFO, "silenced\r\n");
+    VQ6192_Printf(kChip, 23, VQ6192_PRINT_PARA_WRONG, "no such module\r\n");
+    VQ6192_Printf(100000, 1, VQ6192_PRINT_PARA_WRONG, "no such chip\r\n");
+    ASSERT_EQ(capture.traces.size(), 1u);
+    EXPECT_EQ(capture.traces[0].text, "Err. step 2\r\n");
+    EXPECT_EQ(capture.traces[0].chip, kChip);
+    EXPECT_EQ(capture.traces[0].module, uint32_t{VQ6192_MODULE_ATM});
+    EXPECT_EQ(capture.traces[0].level, VQ6192_PRINT_EXCEPTION1_INFO);
+}
+
+TEST(PrintWithoutSink, TracePointHasNoEffect) {
+    // No hooks installed: the trace point produces nothing, whatever the flags say.
+    VQ6192_Platform_SetHooks(nullptr);
+    testing::internal::CaptureStderr();
+    VQ6192_Printf(0, VQ6192_MODULE_BASE, VQ6192_PRINT_PARA_WRONG, "ParaErr.\r\n");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+}  // namespace

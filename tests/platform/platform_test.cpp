@@ -1,0 +1,209 @@
+// The platform layer: bounded functions, memory accounting and injection, semaphores, delays, the
+// virtual clock and the log.
+#include <signal.h>
+#include <sys/time.h>
+
+#include <chrono>
+#include <cstring>
+#include <string>
+
+#include "platform/osal.h"
+#include "platform/text_builder.h"
+#include "support/test_support.h"
+
+namespace {
+
+using vqtest::PlatformCapture;
+
+TEST(Bounded, FormatterTruncatesAndReportsWhatItWrote) {
+    char buf[8];
+    EXPECT_EQ(vq::snprintf_truncated_s(buf, sizeof buf, "%s", "abc"), 3);
+    EXPECT_STREQ(buf, "abc");
+    EXPECT_EQ(vq::snprintf_truncated_s(buf, sizeof buf, "%s", "abcdefghij"), 7);
+    EXPECT_STREQ(buf, "abcdefg");
+    EXPECT_EQ(vq::snprintf_truncated_s(nullptr, 8, "x"), -1);
+    EXPECT_EQ(vq::snprintf_truncated_s(buf, 0, "x"), -1);
+    EXPECT_EQ(vq::snprintf_truncated_s(buf, 1, "x"), 0);
+    EXPECT_STREQ(buf, "");
+}
+
+TEST(Bounded, MemoryAndStringCopiesRefuseOverruns) {
+    char dst[4] = {'x', 'x', 'x', 'x'};
+    EXPECT_NE(vq::memcpy_s(dst, 3, "abcd", 4), 0);
+    EXPECT_EQ(dst[0], 'x');
+    EXPECT_EQ(vq::memcpy_s(dst, 4, "abcd", 4), 0);
+    EXPECT_EQ(std::memcmp(dst, "abcd", 4), 0);
+    EXPECT_NE(vq::memset_s(dst, 3, 0, 4), 0);
+    EXPECT_EQ(vq::memset_s(dst, 4, 0, 4), 0);
+    EXPECT_EQ(vq::strncpy_s(dst, sizeof dst, "abc", 10), 0);
+    EXPECT_STREQ(dst, "abc");
+    EXPECT_NE(vq::strncpy_s(dst, sizeof dst, "abcd", 10), 0);
+    EXPECT_STREQ(dst, "");
+    EXPECT_EQ(vq::strncpy_s(dst, sizeof dst, "abcdef", 2), 0);
+    EXPECT_STREQ(dst, "ab");
+}
+
+TEST(Bounded, TextBuilderNeverPassesTheBuffer) {
+    std::string buf(64, '\xEE');
+    vq::TextBuilder text(buf.data(), 16);
+    for (int i = 0; i < 10; ++i) {
+        text.add("line %d\n", i);
+    }
+    EXPECT_EQ(text.length(), 15u);
+    EXPECT_EQ(std::string(buf.c_str()), "line 0\nline 1\nl");
+    EXPECT_EQ(buf[16], '\xEE');
+    EXPECT_FALSE(text.failed());
+    vq::TextBuilder none(nullptr);
+    none.add("ignored");
+    EXPECT_EQ(none.length(), 0u);
+    EXPECT_FALSE(none.hasBuffer());
+}
+
+TEST(Memory, AccountsPerTagAndInjectsFailures) {
+    PlatformCapture capture;
+    VQ6192_MEM_STATS before{};
+    VQ6192_Platform_GetMemStats("vq6192_test_tag", &before);
+    void *a = vq::_drv_malloc(100, "vq6192_test_tag", 1);
+    void *b = vq::_drv_malloc(28, "vq6192_test_tag", 2);
+    ASSERT_NE(a, nullptr);
+    ASSERT_NE(b, nullptr);
+    VQ6192_MEM_STATS s{};
+    VQ6192_Platform_GetMemStats("vq6192_test_tag", &s);
+    EXPECT_EQ(s.ullOutstanding - before.ullOutstanding, 2u);
+    EXPECT_EQ(s.ullBytesInUse - before.ullBytesInUse, 128u);
+
+    VQ6192_Platform_FailAllocs(1, 2);
+    void *c = vq::_drv_malloc(8, "vq6192_test_tag", 3);
+    EXPECT_NE(c, nullptr);
+    EXPECT_EQ(vq::_drv_malloc(8, "vq6192_test_tag", 4), nullptr);
+    EXPECT_EQ(vq::_drv_malloc(8, "vq6192_test_tag", 5), nullptr);
+    void *d = vq::_drv_malloc(8, "vq6192_test_tag", 6);
+    EXPECT_NE(d, nullptr);
+
+    for (void *p : {a, b, c, d}) {
+        vq::_drv_free(p);
+    }
+    vq::_drv_free(nullptr);
+    VQ6192_Platform_GetMemStats("vq6192_test_tag", &s);
+    EXPECT_EQ(s.ullOutstanding, before.ullOutstanding);
+    EXPECT_EQ(s.ullFailed - before.ullFailed, 2u);
+    EXPECT_EQ(s.ullFrees - before.ullFrees, 4u);
+}
+
+TEST(Memory, HostAllocatorIsUsedUnderTheAccounting) {
+    static int calls = 0;
+    VQ6192_PLATFORM_HOOKS hooks{};
+    hooks.pfnMalloc = [](void *, size_t n) -> void * {
+        ++calls;
+        return std::malloc(n);
+    };
+    hooks.pfnFree = [](void *, void *p) {
+        ++calls;
+        std::free(p);
+    };
+    VQ6192_Platform_SetHooks(&hooks);
+    vq::_drv_free(vq::_drv_malloc(10, "vq6192_test_host", 1));
+    VQ6192_Platform_SetHooks(nullptr);
+    EXPECT_EQ(calls, 2);
+}
+
+TEST(Semaphore, IsBinaryAndHonoursInjectedFailures) {
+    alignas(16) unsigned char block[VQ6192_SEM_BLOCK_SIZE] = {};
+    ASSERT_EQ(vq::DrvSemBCreate(block, 1), 0u);
+    EXPECT_EQ(vq::iof_sema_timewait(block, 0), 0u);
+    EXPECT_NE(vq::iof_sema_timewait(block, 0), 0u) << "held: a zero time-out fails at once";
+    EXPECT_EQ(vq::iof_sema_post(block), 0u);
+    EXPECT_EQ(vq::iof_sema_post(block), 0u) << "a second give leaves it free, not doubly free";
+    EXPECT_EQ(vq::iof_sema_timewait(block, 0), 0u);
+    EXPECT_NE(vq::iof_sema_timewait(block, 0), 0u);
+    EXPECT_EQ(vq::iof_sema_post(block), 0u);
+
+    VQ6192_Platform_FailSemTakes(1, 1);
+    EXPECT_EQ(vq::iof_sema_timewait(block, 0), 0u);
+    EXPECT_EQ(vq::iof_sema_post(block), 0u);
+    EXPECT_NE(vq::iof_sema_timewait(block, 600), 0u) << "injected, no wait";
+    VQ6192_Platform_FailSemGives(0, 1);
+    EXPECT_EQ(vq::iof_sema_timewait(block, 0), 0u);
+    EXPECT_NE(vq::iof_sema_post(block), 0u);
+    EXPECT_EQ(vq::iof_sema_timewait(block, 0), 0u) << "an injected give failure still released";
+    EXPECT_EQ(vq::iof_sema_post(block), 0u);
+    VQ6192_Platform_FailSemCreates(0, 1);
+    alignas(16) unsigned char other[VQ6192_SEM_BLOCK_SIZE] = {};
+    EXPECT_NE(vq::DrvSemBCreate(other, 1), 0u);
+    EXPECT_EQ(vq::DrvSemDelete(block), 0u);
+    EXPECT_NE(vq::iof_sema_timewait(nullptr, 0), 0u);
+}
+
+TEST(Clock, VirtualClockTotalsEveryWait) {
+    PlatformCapture capture;  // installs the virtual clock
+    auto start = std::chrono::steady_clock::now();
+    vq::DrvDelayUs(1500);
+    vq::OSK_TaskDelay(300);  // 3 s at 10 ms a tick
+    vq::DrvDelayUs(2);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 3001502u);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(100));
+    EXPECT_EQ(VQ6192_Platform_GetTickUs(), 10000u);
+    VQ6192_Platform_ResetVirtualTime();
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 0u);
+}
+
+TEST(Clock, HostDelayHooksAndTickLength) {
+    static uint64_t slept = 0;
+    static uint32_t ticks = 0;
+    VQ6192_PLATFORM_HOOKS hooks{};
+    hooks.pfnDelayUs = [](void *, uint32_t us) { slept += us; };
+    hooks.ulTickUs = 1000;
+    VQ6192_Platform_SetHooks(&hooks);
+    VQ6192_Platform_SetVirtualClock(0);
+    vq::DrvDelayUs(7);
+    vq::OSK_TaskDelay(3);  // no tick hook: through the microsecond delay at 1 ms a tick
+    EXPECT_EQ(slept, 3007u);
+    hooks.pfnTaskDelay = [](void *, uint32_t t) { ticks += t; };
+    VQ6192_Platform_SetHooks(&hooks);
+    vq::OSK_TaskDelay(5);
+    EXPECT_EQ(ticks, 5u);
+    VQ6192_Platform_SetHooks(nullptr);
+}
+
+void onAlarm(int) {}
+
+TEST(Clock, RealDelayResumesAfterASignal) {
+    // The one real sleep of the suite: 30 ms, interrupted after 5 ms by a signal whose handler does
+    // not restart system calls. The delay must still last its whole time.
+    VQ6192_Platform_SetHooks(nullptr);
+    VQ6192_Platform_SetVirtualClock(0);
+    struct sigaction sa {};
+    sa.sa_handler = onAlarm;
+    struct sigaction old {};
+    ASSERT_EQ(sigaction(SIGALRM, &sa, &old), 0);
+    itimerval timer{};
+    timer.it_value.tv_usec = 5000;
+    ASSERT_EQ(setitimer(ITIMER_REAL, &timer, nullptr), 0);
+    auto start = std::chrono::steady_clock::now();
+    vq::DrvDelayUs(30000);
+    auto elapsed = std::chrono::steady_clock::now() - start;
+    sigaction(SIGALRM, &old, nullptr);
+    EXPECT_GE(elapsed, std::chrono::milliseconds(30));
+}
+
+TEST(Log, MaskFiltersAndSinkReceivesTheFormattedLine) {
+    PlatformCapture capture;
+    VQ6192_Platform_SetLogMask(2);
+    vq::PIC_DbgLog(2, "chip %d pwe3 card out", 4);
+    vq::PIC_DbgLog(256, "filtered %d", 1);
+    VQ6192_Platform_SetLogMask(0xFFFFFFFFu);
+    vq::PIC_DbgLog(256, "passes");
+    ASSERT_EQ(capture.logs.size(), 2u);
+    EXPECT_EQ(capture.logs[0].text, "chip 4 pwe3 card out");
+    EXPECT_EQ(capture.logs[0].mask, 2u);
+    EXPECT_EQ(capture.logs[1].text, "passes");
+}
+
+TEST(Log, DefaultSinkIsStandardError) {
+    VQ6192_Platform_SetHooks(nullptr);
+    testing::internal::CaptureStderr();
+    vq::PIC_DbgLog(2, "chip %d pwe3 card out", 1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "chip 1 pwe3 card out\n");
+}
+
+}  // namespace

@@ -1,0 +1,80 @@
+#include "support/test_support.h"
+
+namespace vqtest {
+namespace {
+
+void logSink(void *ctx, uint32_t mask, const char *text) {
+    static_cast<PlatformCapture *>(ctx)->logs.push_back({mask, text});
+}
+
+void traceSink(void *ctx, uint32_t chip, uint32_t module, uint32_t level, const char *text) {
+    static_cast<PlatformCapture *>(ctx)->traces.push_back({chip, module, level, text});
+}
+
+}  // namespace
+
+PlatformCapture::PlatformCapture() {
+    VQ6192_PLATFORM_HOOKS hooks{};
+    hooks.ctx = this;
+    hooks.pfnLog = logSink;
+    hooks.pfnTrace = traceSink;
+    VQ6192_Platform_SetHooks(&hooks);
+    VQ6192_Platform_SetVirtualClock(1);
+    VQ6192_Platform_ResetVirtualTime();
+}
+
+PlatformCapture::~PlatformCapture() {
+    VQ6192_Platform_FailAllocs(0, 0);
+    VQ6192_Platform_FailSemCreates(0, 0);
+    VQ6192_Platform_FailSemTakes(0, 0);
+    VQ6192_Platform_FailSemGives(0, 0);
+    VQ6192_Platform_SetHooks(nullptr);
+}
+
+std::vector<std::string> PlatformCapture::logTexts() const {
+    std::vector<std::string> out;
+    for (const auto &l : logs) {
+        out.push_back(l.text);
+    }
+    return out;
+}
+
+std::vector<std::string> PlatformCapture::traceTexts() const {
+    std::vector<std::string> out;
+    for (const auto &t : traces) {
+        out.push_back(t.text);
+    }
+    return out;
+}
+
+void PlatformCapture::clear() {
+    logs.clear();
+    traces.clear();
+}
+
+uint64_t outstandingAllocations() {
+    VQ6192_MEM_STATS stats{};
+    VQ6192_Platform_GetMemStats(nullptr, &stats);
+    return stats.ullOutstanding;
+}
+
+void ChipTest::SetUp() {
+    baseline_ = outstandingAllocations();
+    model.attach(kChip);
+    para = model.installPara(kChip);
+    ASSERT_EQ(VQ6192_Install_SDK(&para), 0u);
+}
+
+void ChipTest::reinstall(const VQ6192_INSTALL_PARA &p) {
+    VQ6192_UnInstall_SDK(kChip);
+    para = p;
+    ASSERT_EQ(VQ6192_Install_SDK(&para), 0u);
+}
+
+void ChipTest::TearDown() {
+    EXPECT_EQ(VQ6192_UnInstall_SDK(kChip), 0u);
+    model.detach();
+    EXPECT_EQ(outstandingAllocations(), baseline_) << "allocations not given back";
+}
+
+}  // namespace vqtest

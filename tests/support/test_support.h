@@ -1,0 +1,60 @@
+// Test support: a chip installed on the chip model with the virtual clock, and capture of the
+// platform log and of the trace point.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "vq6192/core.h"
+#include "vq6192/platform.h"
+#include "vq6192/sim.h"
+
+namespace vqtest {
+
+struct LogLine {
+    uint32_t mask;
+    std::string text;
+};
+
+struct TraceLine {
+    uint32_t chip;
+    uint32_t module;
+    uint32_t level;
+    std::string text;
+};
+
+// Installs platform hooks that collect PIC_DbgLog and VQ6192_Printf lines, and the virtual clock.
+class PlatformCapture {
+  public:
+    PlatformCapture();
+    ~PlatformCapture();
+    std::vector<LogLine> logs;
+    std::vector<TraceLine> traces;
+    std::vector<std::string> logTexts() const;
+    std::vector<std::string> traceTexts() const;
+    void clear();
+};
+
+uint64_t outstandingAllocations();
+
+// A chip installed on a chip model; teardown uninstalls it and checks that every allocation was
+// given back.
+class ChipTest : public ::testing::Test {
+  protected:
+    static constexpr uint32_t kChip = 3;
+    void SetUp() override;
+    void TearDown() override;
+    // Reinstalls the chip with the given record (after uninstalling it).
+    void reinstall(const VQ6192_INSTALL_PARA &para);
+
+    PlatformCapture capture;
+    vq6192::sim::ChipModel model;
+    VQ6192_INSTALL_PARA para{};
+
+  private:
+    uint64_t baseline_ = 0;
+};
+
+}  // namespace vqtest
