@@ -2,36 +2,14 @@
 // beside a raw volatile 16-bit access and an uncontended semaphore take and give, in one run.
 #include <benchmark/benchmark.h>
 
-#include <vector>
-
+#include "bench_support.h"
 #include "platform/osal.h"
-#include "vq6192/sim.h"
-#include "vq6192/vq6192.h"
 
 namespace {
 
-constexpr uint32_t kChip = 0;
-
-struct MappedChip {
-    std::vector<uint16_t> space = std::vector<uint16_t>(0x10000, 0);
-    MappedChip() {
-        VQ6192_INSTALL_PARA p{};
-        p.ulChipId = kChip;
-        p.ulBaseAddr = reinterpret_cast<uintptr_t>(space.data());
-        VQ6192_Install_SDK(&p);
-    }
-    ~MappedChip() { VQ6192_UnInstall_SDK(kChip); }
-};
-
-struct ModelChip {
-    vq6192::sim::ChipModel model;
-    ModelChip() {
-        model.attach(kChip);
-        VQ6192_INSTALL_PARA p = model.installPara(kChip);
-        VQ6192_Install_SDK(&p);
-    }
-    ~ModelChip() { VQ6192_UnInstall_SDK(kChip); }
-};
+using vqbench::kChip;
+using vqbench::MappedChip;
+using vqbench::ModelChip;
 
 void RawVolatileRead(benchmark::State &state) {
     std::vector<uint16_t> space(0x10000, 0x1234);

@@ -4,6 +4,8 @@
 
 #include "vq6192/core.h"
 #include "vq6192/platform.h"
+#include "vq6192/ppp.h"
+#include "vq6192/table.h"
 #include "vq6192/types.h"
 
 #endif /* VQ6192_VQ6192_H */

@@ -8,14 +8,7 @@ namespace {
 
 using vqtest::ChipTest;
 
-class LockTest : public ChipTest {
-  protected:
-    std::vector<uint32_t> counters() {
-        uint32_t c[4] = {};
-        VQ6192_Get_RegFailInfo(kChip, c);
-        return {c[0], c[1], c[2], c[3]};
-    }
-};
+using LockTest = ChipTest;
 
 TEST_F(LockTest, SemaphoreTakeFailureSkipsTheAccess) {
     model.poke(0x10, 0x1234);
@@ -25,7 +18,7 @@ TEST_F(LockTest, SemaphoreTakeFailureSkipsTheAccess) {
     VQ6192_WriteReg(kChip, 0x10, 0x55);
     EXPECT_TRUE(model.trace().empty());
     EXPECT_EQ(model.peek(0x10), 0x1234);
-    EXPECT_EQ(counters(), (std::vector<uint32_t>{0, 2, 0, 0}));
+    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 2, 0, 0}));
     EXPECT_EQ(model.arbitrationsTaken(), 0u);
     EXPECT_EQ(capture.logTexts(),
               (std::vector<std::string>{
@@ -63,7 +56,7 @@ TEST_F(LockTest, SemaphoreGiveFailureIsCountedAndLogged) {
     VQ6192_Platform_FailSemGives(0, 1);
     EXPECT_EQ(VQ6192_WriteRegDirect(kChip, 0x10, 0x4321), 8u);
     EXPECT_EQ(model.peek(0x10), 0x4321);
-    EXPECT_EQ(counters(), (std::vector<uint32_t>{0, 0, 2, 0}));
+    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 2, 0}));
     EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{
                                       "chip 3 pwe3 write reg give sem fail,addr 0x10,val 0x1234",
                                       "chip 3 pwe3 write reg give sem fail,addr 0x10,val 0x4321",
@@ -97,7 +90,7 @@ TEST_F(LockTest, RefusedArbitrationGivesTheSemaphoreBack) {
     model.refuseArbitration(1);
     EXPECT_EQ(VQ6192_ReadReg(kChip, 0x10), 0u);
     EXPECT_TRUE(model.trace().empty());
-    EXPECT_EQ(counters(), (std::vector<uint32_t>{2, 0, 0, 0}));
+    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{2, 0, 0, 0}));
     EXPECT_EQ(capture.logTexts()[0], "chip 3 pwe3 write reg get attrb fail,addr 0x10,val 0x20");
     EXPECT_EQ(capture.logTexts()[1], "chip 3 pwe3 write reg get attrb fail,addr 0x10,val 0x0");
     // The semaphore was given back each time: a table-style zero time-out take succeeds at once.
@@ -119,7 +112,7 @@ TEST_F(LockTest, AbsentCardSkipsTheAccessAndReleasesOnce) {
     EXPECT_EQ(model.arbitrationsGiven(), 3u);
     model.setCardPresent(true);
     EXPECT_EQ(VQ6192_ReadReg(kChip, 0x10), 0x1234u);
-    EXPECT_EQ(counters(), (std::vector<uint32_t>{0, 0, 0, 0}));
+    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 0, 0}));
     EXPECT_TRUE(capture.logs.empty());
 }
 

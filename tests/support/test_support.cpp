@@ -71,6 +71,12 @@ void ChipTest::reinstall(const VQ6192_INSTALL_PARA &p) {
     ASSERT_EQ(VQ6192_Install_SDK(&para), 0u);
 }
 
+std::vector<uint32_t> ChipTest::failCounters() const {
+    uint32_t c[4] = {};
+    VQ6192_Get_RegFailInfo(kChip, c);
+    return {c[0], c[1], c[2], c[3]};
+}
+
 void ChipTest::TearDown() {
     EXPECT_EQ(VQ6192_UnInstall_SDK(kChip), 0u);
     model.detach();

@@ -48,6 +48,9 @@ class ChipTest : public ::testing::Test {
     void TearDown() override;
     // Reinstalls the chip with the given record (after uninstalling it).
     void reinstall(const VQ6192_INSTALL_PARA &para);
+    // The chip's four failure counters: arbitration refusals, semaphore take and give failures, table
+    // time-outs.
+    std::vector<uint32_t> failCounters() const;
 
     PlatformCapture capture;
     vq6192::sim::ChipModel model;

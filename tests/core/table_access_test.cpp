@@ -1,0 +1,354 @@
+// Table access on the chip model: every table round-trips through its block, the exact register
+// sequences, busy time-outs, lock failures and an absent card.
+#include <string>
+#include <vector>
+
+#include "support/test_support.h"
+#include "vq6192/table.h"
+
+namespace {
+
+using vq6192::sim::BusAccess;
+using vq6192::sim::BusOp;
+using vq6192::sim::TableEngine;
+using vqtest::ChipTest;
+
+constexpr uint32_t kPri = 1;  // Atmpwe3pritab: block 0x5000, select 38, depth 32, 10 data registers
+
+class TableTest : public ChipTest {
+  protected:
+    // True when the chip lock is free: both the arbitration hook and the semaphore were given back.
+    bool lockFree() {
+        if (model.arbitrationsTaken() != model.arbitrationsGiven()) {
+            return false;
+        }
+        if (VQ6192_SemP(kChip, 0, 0) != 0) {
+            return false;
+        }
+        VQ6192_SemV(kChip, 0, 0);
+        return true;
+    }
+    uint64_t busyPolls(uint32_t busyAddr) {
+        uint64_t n = 0;
+        for (const BusAccess &a : model.trace()) {
+            n += a.op == BusOp::FieldRead && a.addr == busyAddr;
+        }
+        return n;
+    }
+};
+
+// Every chip table: a pattern written through the driver lands in the model's memory of the table's
+// block, under its select code and at the entry's address, and reads back.
+TEST_F(TableTest, EveryTableRoundTripsThroughItsBlock) {
+    for (uint32_t id = 0; id < VQ6192_CHIP_TABLE_NUM; ++id) {
+        SCOPED_TRACE(testing::Message() << "table " << id << " " << g_astVQ6192TblEntryList[id].pszName);
+        const VQ6192_CHIP_TABLE_INFO_S &info = g_VQ6192_CHIP_TABLE_INFO[id];
+        const uint32_t index = (id * 37 + 5) % info.ulDepth;
+        uint32_t entry[VQ6192_TBL_MAX_WORDS];
+        for (uint32_t w = 0; w < VQ6192_TBL_MAX_WORDS; ++w) {
+            entry[w] = 0x9E3779B9u * (id + 1) + 0x01010101u * w;
+        }
+        ASSERT_EQ(VQ6192_Write_Table(kChip, id, index, entry), 0u);
+
+        // The select field keeps its own width of the code: three tables have codes that do not fit.
+        const uint32_t select = info.stSelect.usValue1 & ((1u << info.stSelect.usWidth) - 1);
+        const TableEngine::Entry stored = model.tables().entry(info.ulBlockBase, select, index);
+        for (uint32_t k = 0; k < info.usData16; ++k) {
+            const uint16_t half = static_cast<uint16_t>(k % 2 == 0 ? entry[k / 2] : entry[k / 2] >> 16);
+            EXPECT_EQ(stored[k], half) << "data register " << k;
+        }
+
+        uint32_t back[VQ6192_TBL_MAX_WORDS];
+        std::fill(std::begin(back), std::end(back), 0xA5A5A5A5u);
+        ASSERT_EQ(VQ6192_Read_Table(kChip, id, index, back), 0u);
+        for (uint32_t k = 0; k < info.usData16; ++k) {
+            const uint16_t half = static_cast<uint16_t>(k % 2 == 0 ? back[k / 2] : back[k / 2] >> 16);
+            EXPECT_EQ(half, stored[k]) << "data register " << k;
+        }
+        if (info.usData16 % 2 == 1) {
+            EXPECT_EQ(back[info.usData16 / 2] >> 16, 0xA5A5u) << "the odd half keeps the caller's bits";
+        }
+        if (info.usData16 < 2 * VQ6192_TBL_MAX_WORDS - 1) {
+            EXPECT_EQ(back[(info.usData16 + 1) / 2], 0xA5A5A5A5u) << "nothing past the entry";
+        }
+    }
+    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 0, 0}));
+    EXPECT_TRUE(lockFree());
+}
+
+// Table 38 (select 67) shares the 0x5000 block's six-bit select field with table 3 (67 & 0x3F), and
+// the CES clock-recovery tables 103 and 104 (select 255) reach code 31 of the five-bit CES field.
+TEST_F(TableTest, SelectCodesWiderThanTheirFieldAreCutToIt) {
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {0x1357};
+    ASSERT_EQ(VQ6192_Write_Table(kChip, 38, 1, entry), 0u);
+    EXPECT_EQ(model.tables().entry(0x5000, 3, 1)[0], 0x1357);
+    uint32_t back[VQ6192_TBL_MAX_WORDS] = {};
+    ASSERT_EQ(VQ6192_Read_Table(kChip, 12, 1, back), 0u);  // Atmswpolst: select 3
+    EXPECT_EQ(back[0], 0x1357u);
+    ASSERT_EQ(VQ6192_Write_Table(kChip, 103, 2, entry), 0u);
+    EXPECT_EQ(model.tables().entry(0xa000, 31, 2)[0], 0x1357);
+}
+
+TEST_F(TableTest, WriteSequenceAndCost) {
+    uint32_t entry[5] = {0x00011000, 0x00030002, 0x00050004, 0x00070006, 0x00090008};
+    model.setTrace(true);
+    ASSERT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0u);
+
+    std::vector<BusAccess> expected = {
+        {BusOp::FieldRead, 0xA006, 0, 0, 1},    // idle
+        {BusOp::FieldWrite, 0xA000, 38, 0, 6},  // select
+        {BusOp::FieldWrite, 0xA002, 5, 0, 16},  // entry address
+    };
+    for (uint32_t k = 0; k < 10; ++k) {
+        expected.push_back({BusOp::FieldWrite, 0xA020 + 2 * k, k == 0 ? 0x1000u : k, 0, 16});
+    }
+    expected.push_back({BusOp::FieldWrite, 0xA004, 0, 0, 2});  // command value1
+    expected.push_back({BusOp::FieldWrite, 0xA004, 2, 0, 2});  // command value2: write
+    expected.push_back({BusOp::FieldRead, 0xA006, 0, 0, 1});   // done
+    expected.push_back({BusOp::FieldWrite, 0xA004, 0, 0, 2});  // back to idle
+    EXPECT_EQ(model.trace(), expected);
+    EXPECT_EQ(model.counters().fieldWrites, 10u + 5u) << "data16 + 5 field writes";
+    EXPECT_EQ(model.counters().fieldReads, 2u) << "two busy polls";
+    EXPECT_EQ(model.counters().reads + model.counters().writes, 0u);
+    EXPECT_EQ(model.tables().writesExecuted(0x5000), 1u);
+    EXPECT_EQ(model.arbitrationsTaken(), 1u);
+    EXPECT_TRUE(lockFree());
+}
+
+TEST_F(TableTest, ReadSequenceAndCost) {
+    TableEngine::Entry stored{};
+    for (uint32_t k = 0; k < 10; ++k) {
+        stored[k] = static_cast<uint16_t>(0x100 + k);
+    }
+    model.tables().setEntry(0x5000, 38, 7, stored);
+    model.setTrace(true);
+    uint32_t entry[5] = {};
+    ASSERT_EQ(VQ6192_Read_Table(kChip, kPri, 7, entry), 0u);
+    EXPECT_EQ(entry[0], 0x01010100u);
+    EXPECT_EQ(entry[4], 0x01090108u);
+
+    std::vector<BusAccess> expected = {
+        {BusOp::FieldRead, 0xA006, 0, 0, 1},   {BusOp::FieldWrite, 0xA000, 38, 0, 6},
+        {BusOp::FieldWrite, 0xA002, 7, 0, 16}, {BusOp::FieldWrite, 0xA004, 0, 0, 2},
+        {BusOp::FieldWrite, 0xA004, 3, 0, 2},  {BusOp::FieldRead, 0xA006, 0, 0, 1},
+    };
+    for (uint32_t k = 0; k < 10; ++k) {
+        expected.push_back({BusOp::FieldRead, 0xA040 + 2 * k, 0x100 + k, 0, 16});
+    }
+    expected.push_back({BusOp::FieldWrite, 0xA004, 0, 0, 2});
+    EXPECT_EQ(model.trace(), expected);
+    EXPECT_EQ(model.counters().fieldWrites, 5u);
+    EXPECT_EQ(model.counters().fieldReads, 10u + 2u) << "data16 reads + two busy polls";
+}
+
+TEST_F(TableTest, IndexChecksAndNullBuffers) {
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
+    model.setTrace(true);
+    EXPECT_EQ(VQ6192_Read_Table(kChip, 20, 8192, entry), 0x030C0001u);
+    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, 20, 8192, entry), 0x030C0002u);
+    EXPECT_EQ(VQ6192_Read_Table(kChip, 20, 0, nullptr), 0x030C0002u);
+    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, 20, 0, nullptr), 0x030C0002u);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, nullptr), 0x030C0002u);
+    // Ids outside the catalogue or the registry are refused untouched.
+    EXPECT_EQ(VQ6192_Read_Table(kChip, 217, 0, entry), 0x030C0001u);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, 5000, 0, entry), 0x030C0001u);
+    EXPECT_EQ(VQ6192_Read_Table_Pro(264, 1, 0, entry), 0x080C0001u);
+    EXPECT_EQ(VQ6192_Write_Table(264, 1, 0, entry), 0x080C0001u);
+    EXPECT_TRUE(model.trace().empty());
+    EXPECT_EQ(model.arbitrationsTaken(), 0u);
+    EXPECT_EQ(capture.traceTexts(), (std::vector<std::string>{
+                                        "Err. VQ6192_Write_Table(3,1,5)       ErrCode[0x30c0002]\r\n",
+                                        "ParaErr.\r\n",
+                                        "ParaErr.\r\n",
+                                    }));
+
+    EXPECT_EQ(VQ6192_Read_Table(kChip, 20, 8191, entry), 0u);
+    // The write keeps the address field's bits of the index.
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_Write_Table(kChip, 20, 0x12345, entry), 0u);
+    EXPECT_EQ(model.trace()[2], (BusAccess{BusOp::FieldWrite, 0xA002, 0x2345, 0, 16}));
+}
+
+TEST_F(TableTest, SingleRegisterTablesFillOnlyTheLowHalf) {
+    TableEngine::Entry stored{};
+    stored[0] = 0xBEEF;
+    model.tables().setEntry(0x10ab, 1, 100, stored);
+    uint32_t entry[1] = {0x12345678};
+    ASSERT_EQ(VQ6192_Read_Table(kChip, 117, 100, entry), 0u);
+    EXPECT_EQ(entry[0], 0x1234BEEFu);
+}
+
+TEST_F(TableTest, BusyTimeOutAfterExactly500Polls) {
+    const uint32_t busy = 0x5003 * 2;
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
+    model.setTrace(true);
+
+    // 499 busy polls: the 500th finds the block idle.
+    model.tables().holdBusy(0x5000, 499);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0u);
+
+    model.clearTrace();
+    model.tables().holdBusy(0x5000, TableEngine::kForever);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0x030C0003u);
+    EXPECT_EQ(busyPolls(busy), 500u);
+    EXPECT_EQ(model.trace().size(), 500u) << "nothing but polls";
+    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 5, entry), 0x030C0003u);
+    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 0, 2}));
+    EXPECT_TRUE(lockFree());
+    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{
+                                      "chip 3 pwe3 write table timeout,table 0x1,index 0x5",
+                                      "chip 3 pwe3 read table timeout,table 0x1,index 0x5",
+                                  }));
+    EXPECT_EQ(capture.traceTexts(), (std::vector<std::string>{
+                                        "Err. VQ6192_Write_Table(3,1,5)       ErrCode[TimeOut]\r\n",
+                                        "Err. VQ6192_Read_Table(3,1,5)       ErrCode[TimeOut]\r\n",
+                                    }));
+}
+
+TEST_F(TableTest, BusyTimeOutAfterTheCommand) {
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
+    model.tables().setCommandBusy(0x5000, TableEngine::kForever);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 6, entry), 0x030C0003u);
+    model.tables().holdBusy(0x5000, 0);
+    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 6, entry), 0x030C0003u);
+    EXPECT_EQ(model.tables().writesExecuted(0x5000), 1u) << "a write that timed out may have reached the RAM";
+    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 0, 2}));
+    EXPECT_TRUE(lockFree());
+    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{
+                                      "chip 3 pwe3 write table timeout1,table 0x1,index 0x6",
+                                      "chip 3 pwe3 read table timeout1,table 0x1,index 0x6",
+                                  }));
+    EXPECT_EQ(capture.traceTexts()[0], "Err. VQ6192_Write_Table(3,1,6)      Step7 ErrCode[TimeOut]\r\n");
+    EXPECT_EQ(capture.traceTexts()[1], "Err. VQ6192_Read_Table(3,1,6)       ErrCode[TimeOut]\r\n");
+}
+
+TEST_F(TableTest, FailingReleaseAfterATimeOutIsALockFailure) {
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
+    model.tables().holdBusy(0x5000, TableEngine::kForever);
+    VQ6192_Platform_FailSemGives(0, 1);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0x030C0008u);
+    model.tables().holdBusy(0x5000, 0);
+    model.tables().setCommandBusy(0x5000, TableEngine::kForever);
+    VQ6192_Platform_FailSemGives(0, 1);
+    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 5, entry), 0x030C0008u);
+    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 2, 0})) << "not counted as time-outs";
+    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{
+                                      "chip 3 pwe3 write table give sem1 fail,table 0x1,index 0x5",
+                                      "chip 3 pwe3 read table give sem2 fail,table 0x1,index 0x5",
+                                  }));
+}
+
+TEST_F(TableTest, LockFailures) {
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
+    model.setTrace(true);
+    VQ6192_Platform_FailSemTakes(0, 2);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0x030C0008u);
+    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 5, entry), 0x030C0008u);
+    model.refuseArbitration(2);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0x030C0008u);
+    VQ6192_Platform_FailSemGives(0, 1);
+    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 5, entry), 0x030C0008u);
+    EXPECT_TRUE(model.trace().empty());
+    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{2, 2, 1, 0}));
+    EXPECT_TRUE(lockFree());
+    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{
+                                      "chip 3 pwe3 write table get sem fail,table 0x1,index 0x5",
+                                      "chip 3 pwe3 read table get sem fail,table 0x1,index 0x5",
+                                      "chip 3 pwe3 write table get attrb fail,table 0x1,index 0x5",
+                                      "chip 3 pwe3 read table get attrb fail,table 0x1,index 0x5",
+                                      "chip 3 pwe3 read table give sem fail,table 0x1,index 0x5",
+                                  }));
+}
+
+TEST_F(TableTest, FailingFinalReleaseStillMovesTheData) {
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {0x1234};
+    VQ6192_Platform_FailSemGives(0, 1);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 9, entry), 0x030C0008u);
+    EXPECT_EQ(model.tables().entry(0x5000, 38, 9)[0], 0x1234);
+    uint32_t back[VQ6192_TBL_MAX_WORDS] = {};
+    VQ6192_Platform_FailSemGives(0, 1);
+    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 9, back), 0x030C0008u);
+    EXPECT_EQ(back[0], 0x1234u) << "the buffer is filled all the same";
+    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{
+                                      "chip 3 pwe3 write table give sem3 fail,table 0x1,index 0x9",
+                                      "chip 3 pwe3 read table give sem3 fail,table 0x1,index 0x9",
+                                  }));
+    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 2, 0}));
+}
+
+TEST_F(TableTest, AbsentCardBeforeTheCommand) {
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {0xAAAA};
+    model.setCardPresent(false);
+    model.setTrace(true);
+    model.tables().holdBusy(0x5000, 1);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0u);
+    model.tables().holdBusy(0x5000, 1);
+    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 5, entry), 0u);
+    EXPECT_EQ(entry[0], 0xAAAAu);
+    EXPECT_EQ(model.trace().size(), 2u) << "one busy poll each, then nothing";
+    EXPECT_EQ(model.tables().writesExecuted(0x5000), 0u);
+    EXPECT_TRUE(lockFree());
+    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{"chip 3 pwe3 card out", "chip 3 pwe3 card out"}));
+}
+
+TEST_F(TableTest, AbsentCardAfterTheCommand) {
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {0x5555};
+    model.tables().setCommandBusy(0x5000, 1);
+    model.setCardPresent(false);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0u);
+    uint32_t back[VQ6192_TBL_MAX_WORDS] = {0x7777};
+    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 5, back), 0u);
+    EXPECT_EQ(back[0], 0x7777u) << "the caller's buffer stays as it was";
+    EXPECT_TRUE(lockFree());
+    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{"chip 3 pwe3 card out"}))
+        << "the read's completion wait leaves silently";
+}
+
+// Semaphore hooks that record the time-outs the table operations ask for.
+std::vector<uint32_t> g_timeouts;
+
+TEST_F(TableTest, QuietReadWaitsBrieflyAndNeverLogs) {
+    VQ6192_PLATFORM_HOOKS hooks{};
+    hooks.pfnSemTake = [](void *, void *, uint32_t timeout) -> uint32_t {
+        g_timeouts.push_back(timeout);
+        return 0;
+    };
+    hooks.pfnSemGive = [](void *, void *) -> uint32_t { return 0; };
+    VQ6192_Platform_SetHooks(&hooks);
+    g_timeouts.clear();
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
+    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 1, entry), 0u);
+    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, kPri, 1, entry), 0u);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 1, entry), 0u);
+    EXPECT_EQ(g_timeouts, (std::vector<uint32_t>{600, 10, 600}));
+    VQ6192_Platform_SetHooks(nullptr);
+
+    // Failures of the quiet read: counted, never logged or traced, lock always released.
+    vqtest::PlatformCapture quiet;
+    model.tables().holdBusy(0x5000, TableEngine::kForever);
+    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, kPri, 1, entry), 0x030C0003u);
+    model.tables().holdBusy(0x5000, 0);
+    model.tables().setCommandBusy(0x5000, TableEngine::kForever);
+    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, kPri, 1, entry), 0x030C0003u);
+    VQ6192_Platform_FailSemTakes(0, 1);
+    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, kPri, 1, entry), 0x030C0008u);
+    model.refuseArbitration(1);
+    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, kPri, 1, entry), 0x030C0008u);
+    model.setCardPresent(false);
+    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, kPri, 1, entry), 0u);
+    EXPECT_TRUE(quiet.logs.empty());
+    EXPECT_TRUE(quiet.traces.empty());
+    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{1, 1, 0, 2}));
+    EXPECT_TRUE(lockFree());
+}
+
+TEST_F(TableTest, TestWriteSetsThePriorities) {
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {0xFFFFFFFFu};
+    ASSERT_EQ(VQ6192_Write_Table(kChip, kPri, 4, entry), 0u);
+    EXPECT_EQ(VQ6192_Wt_Test(kChip, 4), 0u);
+    EXPECT_EQ(model.tables().entry(0x5000, 38, 4)[0], 0xB47F) << "bits 6..14 := 0xD1, the rest kept";
+    model.tables().holdBusy(0x5000, TableEngine::kForever);
+    EXPECT_EQ(VQ6192_Wt_Test(kChip, 4), 0x030C0003u);
+}
+
+}  // namespace

@@ -1,0 +1,71 @@
+// PPP channel numbering against the VC-4 PPP enable register.
+#include "support/test_support.h"
+#include "vq6192/ppp.h"
+
+namespace {
+
+using PppNumbering = vqtest::ChipTest;
+
+constexpr uint32_t kVc4Enable = 0x10048;
+
+TEST_F(PppNumbering, EnabledVc4ChannelsLiveAtMultiplesOf512) {
+    struct Case {
+        uint16_t enables;
+        uint32_t channel, inner;
+    };
+    const Case cases[] = {
+        {0x2, 1, 0x200}, {0x0, 1, 1},     {0x1, 0, 0},    {0x0, 0, 0},     {0xF, 3, 0x600},
+        {0xF, 4, 4},     {0xF, 511, 511}, {0xFFF0, 2, 2}, {0x4, 2, 0x400},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(testing::Message() << "enables " << c.enables << " channel " << c.channel);
+        model.poke(kVc4Enable, c.enables);
+        for (uint32_t dir : {0u, 1u, 2u}) {
+            EXPECT_EQ(VQ6192_PPP_CalcPppChnl(kChip, c.channel, dir), c.inner);
+        }
+    }
+}
+
+TEST_F(PppNumbering, InverseGivesBackTheCallersNumber) {
+    struct Case {
+        uint16_t enables;
+        uint32_t inner, channel;
+    };
+    const Case cases[] = {
+        {0x2, 0x200, 1},     {0x0, 0x200, 0x200}, {0x8, 0x600, 3}, {0x8, 0x601, 0x601},
+        {0xF, 0x800, 0x800}, {0xF, 0x100, 0x100}, {0xF, 5, 5},     {0x1, 0, 0},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(testing::Message() << "enables " << c.enables << " inner " << c.inner);
+        model.poke(kVc4Enable, c.enables);
+        EXPECT_EQ(VQ6192_PPP_ReCalcPppChnl(kChip, c.inner, 0), c.channel);
+    }
+    // Round trip over the whole channel space with all four VC-4 channels enabled.
+    model.poke(kVc4Enable, 0xF);
+    for (uint32_t ch = 0; ch < VQ6192_NONE_SCH_PPP_MAX; ++ch) {
+        EXPECT_EQ(VQ6192_PPP_ReCalcPppChnl(kChip, VQ6192_PPP_CalcPppChnl(kChip, ch, 0), 0), ch);
+    }
+}
+
+TEST_F(PppNumbering, ReadsTheEnableRegisterEveryTime) {
+    model.setTrace(true);
+    VQ6192_PPP_CalcPppChnl(kChip, 1, 0);
+    VQ6192_PPP_ReCalcPppChnl(kChip, 0x200, 0);
+    ASSERT_EQ(model.trace().size(), 2u);
+    EXPECT_EQ(model.trace()[0].addr, kVc4Enable);
+    EXPECT_EQ(model.trace()[1].addr, kVc4Enable);
+}
+
+TEST_F(PppNumbering, EgressTraceForOrdinaryChannels) {
+    VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_PPP, VQ6192_PRINT_ALL);
+    model.poke(kVc4Enable, 0x1);
+    VQ6192_PPP_CalcPppChnl(kChip, 0, 1);  // VC-4 channel: no trace
+    VQ6192_PPP_CalcPppChnl(kChip, 7, 1);
+    VQ6192_PPP_CalcPppChnl(kChip, 7, 0);
+    VQ6192_PPP_ReCalcPppChnl(kChip, 7, 1);
+    EXPECT_EQ(capture.traceTexts(),
+              (std::vector<std::string>{"VQ6192_PPP_CalcPppChnl bSpecialChnl TRUE!\n",
+                                        "VQ6192_PPP_ReCalcPppChnl bSpecialChnl TRUE!\n"}));
+}
+
+}  // namespace
