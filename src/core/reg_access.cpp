@@ -13,8 +13,25 @@ uint32_t scaledAddr(const VQ6192_CHIP_RECORD &rec, uint32_t addr) {
     return rec.ulAddrMultiple == 0 ? addr : addr * rec.ulAddrMultiple;
 }
 
+// A chip without a register window (base address 0: never installed, or installed for host functions
+// only) has nothing to map; its memory-mapped accesses read 0 and write nothing instead of touching
+// the host's address 0.
 volatile uint16_t *mappedReg(uint32_t chip, uint32_t addr) {
+    if (g_vq6192[chip].ulBaseAddr == 0) {
+        return nullptr;
+    }
     return reinterpret_cast<volatile uint16_t *>(VQ6192_Calc_AbsAddr(chip, addr));
+}
+
+uint16_t loadMapped(uint32_t chip, uint32_t addr) {
+    volatile uint16_t *reg = mappedReg(chip, addr);
+    return reg != nullptr ? *reg : 0;
+}
+
+void storeMapped(uint32_t chip, uint32_t addr, uint32_t value) {
+    if (volatile uint16_t *reg = mappedReg(chip, addr)) {
+        *reg = static_cast<uint16_t>(value);
+    }
 }
 
 int asInt(uint32_t v) {
@@ -168,7 +185,7 @@ VQ6192_API uint32_t VQ6192_WriteRegDirect(uint32_t chip, uint32_t addr, uint32_t
     if (g_p6192WriteRegPtr[chip] != nullptr) {
         g_p6192WriteRegPtr[chip](chip, addr, value);
     } else {
-        *vq::mappedReg(chip, addr) = static_cast<uint16_t>(value);
+        vq::storeMapped(chip, addr, value);
     }
     return VQ6192_GiveArbitrateFunc(chip, addr, value);
 }
@@ -192,7 +209,7 @@ VQ6192_API uint32_t VQ6192_ReadRegDirect(uint32_t chip, uint32_t addr) {
         VQ6192_GiveArbitrateFunc(chip, addr, value);
         return value;
     }
-    uint32_t value = *vq::mappedReg(chip, addr);
+    uint32_t value = vq::loadMapped(chip, addr);
     if (VQ6192_GiveArbitrateFunc(chip, addr, value) != 0) {
         vq::PIC_DbgLog(
             2, "ReadRegdirect  GiveArbitrateFunc chip %d pwe3 write reg get sem fail,addr 0x%x,val 0x%x",
@@ -286,8 +303,7 @@ VQ6192_API void VQ6192_WriteRegFieldBDirect(uint32_t chip, uint32_t addr, uint32
         g_p6192WriteRegFieldBDirecr[chip](chip, addr, value, startBit, width);
         return;
     }
-    volatile uint16_t *reg = vq::mappedReg(chip, addr);
-    *reg = static_cast<uint16_t>(vq::fieldMerge(*reg, value, startBit, width));
+    vq::storeMapped(chip, addr, vq::fieldMerge(vq::loadMapped(chip, addr), value, startBit, width));
 }
 
 VQ6192_API uint32_t VQ6192_ReadRegFieldBDirect(uint32_t chip, uint32_t addr, uint32_t startBit,
@@ -298,7 +314,7 @@ VQ6192_API uint32_t VQ6192_ReadRegFieldBDirect(uint32_t chip, uint32_t addr, uin
     if (g_p6192ReadRegFieldBDirect[chip] != nullptr) {
         return g_p6192ReadRegFieldBDirect[chip](chip, addr, startBit, width);
     }
-    return vq::fieldGet(*vq::mappedReg(chip, addr), startBit, width);
+    return vq::fieldGet(vq::loadMapped(chip, addr), startBit, width);
 }
 
 VQ6192_API void VQ6192_WriteRegFieldBIndirect(uint32_t chip, uint32_t addr, uint32_t value, uint32_t startBit,

@@ -68,6 +68,21 @@ TEST_F(MappedTest, FieldWritesKeepTheOtherBits) {
     EXPECT_EQ(VQ6192_ReadRegField(kChip, 0x40, 4, 2), 1u);
 }
 
+TEST_F(MappedTest, ChipWithoutARegisterWindowReadsZeroAndWritesNothing) {
+    // Installed without a base address and without host functions (or never installed at all): the
+    // accesses are dropped instead of reaching the host's address 0.
+    install(0, 0);
+    VQ6192_UnInstall_SDK(kChip);
+    VQ6192_INSTALL_PARA p{};
+    p.ulChipId = kChip;
+    ASSERT_EQ(VQ6192_Install_SDK(&p), 0u);
+    VQ6192_WriteReg(kChip, 0x10, 1);
+    VQ6192_WriteRegFieldB(kChip, 0x10, 1, 0, 1);
+    EXPECT_EQ(VQ6192_ReadReg(kChip, 0x10), 0u);
+    EXPECT_EQ(VQ6192_ReadRegFieldB(kChip, 0x10, 0, 16), 0u);
+    EXPECT_EQ(VQ6192_ReadReg(200, 0x10), 0u) << "never installed";
+}
+
 // ---- Field arithmetic at the edges ----------------------------------------------------------------
 
 TEST(FieldArithmetic, MasksReadsAndMergesAtTheEdges) {

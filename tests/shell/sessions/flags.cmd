@@ -1,0 +1,1 @@
+VQ6192_Show_Printf_Flag 0
