@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <typeindex>
 #include <unordered_map>
 #include <vector>
 
@@ -36,6 +37,14 @@ struct BusCounters {
 };
 
 class ChipModel;
+
+// A block model: a part of the chip (DDR controller, framers, ...) that contributes register
+// behaviours and state to a chip model. Every block is created with the model (sim/blocks.cpp lists
+// them) and reached with ChipModel::block<T>().
+class ChipBlock {
+public:
+    virtual ~ChipBlock() = default;
+};
 
 // The chip's ten indirect table-access blocks and the table memories behind them. Memories are keyed
 // by block (its base register number), select code and entry address, and hold one entry as up to 32
@@ -134,6 +143,16 @@ class ChipModel {
 
     TableEngine &tables() { return tables_; }
 
+    // The block model of type T (created with the model).
+    template <typename T>
+    T &block() {
+        auto it = blocks_.find(std::type_index(typeid(T)));
+        if (it == blocks_.end()) {
+            it = blocks_.emplace(std::type_index(typeid(T)), std::make_unique<T>(*this)).first;
+        }
+        return static_cast<T &>(*it->second);
+    }
+
     // The hooks as host functions, found by chip id or handle.
     static uint32_t hookGetArbitrate(uint32_t chip);
     static uint32_t hookGiveArbitrate(uint32_t chip);
@@ -180,6 +199,10 @@ class ChipModel {
     uint64_t cardPresentAsked_ = 0;
 
     TableEngine tables_;
+    std::unordered_map<std::type_index, std::unique_ptr<ChipBlock>> blocks_;
 };
+
+// Creates every block model of a chip model (called by its constructor).
+void installBlocks(ChipModel &model);
 
 }  // namespace vq6192::sim

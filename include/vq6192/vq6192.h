@@ -5,6 +5,9 @@
 #include "vq6192/core.h"
 #include "vq6192/platform.h"
 #include "vq6192/ppp.h"
+#include "vq6192/chip.h"
+#include "vq6192/sdh.h"
+#include "vq6192/framer.h"
 #include "vq6192/table.h"
 #include "vq6192/types.h"
 
