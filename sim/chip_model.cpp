@@ -16,7 +16,9 @@ uint32_t maskOf(uint32_t startBit, uint32_t width) {
 
 }  // namespace
 
-ChipModel::ChipModel() : tables_(*this) { installBlocks(*this); }
+ChipModel::ChipModel() : tables_(*this) {
+    installBlocks(*this);
+}
 
 ChipModel::~ChipModel() {
     detach();

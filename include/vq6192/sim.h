@@ -42,7 +42,7 @@ class ChipModel;
 // behaviours and state to a chip model. Every block is created with the model (sim/blocks.cpp lists
 // them) and reached with ChipModel::block<T>().
 class ChipBlock {
-public:
+  public:
     virtual ~ChipBlock() = default;
 };
 

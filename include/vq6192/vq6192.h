@@ -2,12 +2,12 @@
 #ifndef VQ6192_VQ6192_H
 #define VQ6192_VQ6192_H
 
+#include "vq6192/chip.h"
 #include "vq6192/core.h"
+#include "vq6192/framer.h"
 #include "vq6192/platform.h"
 #include "vq6192/ppp.h"
-#include "vq6192/chip.h"
 #include "vq6192/sdh.h"
-#include "vq6192/framer.h"
 #include "vq6192/table.h"
 #include "vq6192/types.h"
 

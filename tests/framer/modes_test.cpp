@@ -1,0 +1,176 @@
+// TDM mode, frame modes with the multiframe search, reframe and channel resets.
+#include "support/test_support.h"
+#include "vq6192/framer.h"
+#include "vq6192/sim/framers.h"
+
+namespace {
+
+using vq6192::sim::BusAccess;
+using vq6192::sim::BusOp;
+using vq6192::sim::Framers;
+using vqtest::ChipTest;
+
+constexpr uint32_t kParaErr = 0x030E0001;
+
+class FramerTest : public ChipTest {
+  protected:
+    Framers &framers() { return model.block<Framers>(); }
+    uint16_t ingress(uint32_t e1, uint32_t word = Framers::kIngMode) {
+        return model.peek(Framers::ingressAddr(e1, word));
+    }
+    uint16_t egress(uint32_t e1, uint32_t word = Framers::kEgMode) {
+        return model.peek(Framers::egressAddr(e1, word));
+    }
+    void tdm(uint32_t mode) { ASSERT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, mode), 0u); }
+    bool anyWrite() {
+        for (const BusAccess &a : model.trace()) {
+            if (a.op == BusOp::Write) {
+                return true;
+            }
+        }
+        return false;
+    }
+};
+
+TEST_F(FramerTest, TdmModeSetsBothBitsAndReadsBit1) {
+    model.poke(0x000E, 0xFFF9);
+    tdm(1);
+    EXPECT_EQ(model.peek(0x000E), 0xFFFF);
+    tdm(0);
+    EXPECT_EQ(model.peek(0x000E), 0xFFF9);
+    model.poke(0x000E, 0x0002);
+    uint32_t mode = 9;
+    ASSERT_EQ(VQ6192_Framer_GetFrmTDMMode(kChip, &mode), 0u);
+    EXPECT_EQ(mode, 1u);
+    EXPECT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, 2), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_GetFrmTDMMode(kChip, nullptr), kParaErr);
+}
+
+TEST_F(FramerTest, FrameModeFieldsPerDirection) {
+    tdm(0);
+    struct Case {
+        uint32_t dir, mode;
+        int ingressField, egressField;  // -1: untouched (stays 3)
+    };
+    const Case cases[] = {
+        {0, 0, 0, -1}, {0, 1, 1, -1}, {0, 3, 3, -1}, {1, 0, -1, 0}, {1, 1, -1, 1},
+        {1, 3, -1, 2}, {2, 0, 0, 0},  {2, 1, 1, 1},  {2, 3, 3, 2},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(testing::Message() << "dir " << c.dir << " mode " << c.mode);
+        const uint32_t e1 = 200;
+        model.poke(Framers::ingressAddr(e1, Framers::kIngMode), 0xFFF3);
+        model.poke(Framers::egressAddr(e1, Framers::kEgMode), 0xFFF3);
+        ASSERT_EQ(VQ6192_Framer_SetFrmMode(kChip, e1, c.dir, c.mode), 0u);
+        EXPECT_EQ(ingress(e1), 0xFFF0 | (c.ingressField < 0 ? 3 : c.ingressField));
+        EXPECT_EQ(egress(e1), 0xFFF0 | (c.egressField < 0 ? 3 : c.egressField));
+        uint32_t got = 99;
+        ASSERT_EQ(VQ6192_Framer_GetFrmMode(kChip, e1, c.dir == 1 ? 1 : 0, &got), 0u);
+        EXPECT_EQ(got, c.mode);
+    }
+    // Egress field 3 reads as mode 4; ingress 3 with egress 2 reads as 3 for both directions.
+    model.poke(Framers::egressAddr(5, Framers::kEgMode), 3);
+    uint32_t got = 0;
+    ASSERT_EQ(VQ6192_Framer_GetFrmMode(kChip, 5, 1, &got), 0u);
+    EXPECT_EQ(got, 4u);
+    ASSERT_EQ(VQ6192_Framer_SetFrmMode(kChip, 6, 2, 3), 0u);
+    ASSERT_EQ(VQ6192_Framer_GetFrmMode(kChip, 6, 2, &got), 0u);
+    EXPECT_EQ(got, 3u);
+    ASSERT_EQ(VQ6192_Framer_SetFrmMode(kChip, 6, 1, 1), 0u);
+    EXPECT_EQ(VQ6192_Framer_GetFrmMode(kChip, 6, 2, &got), 0xE0007u);
+    EXPECT_EQ(
+        capture.traceTexts().back(),
+        "Err. VQ6192_Framer_GetFrmMode(6) ucFramerDirect == VQ6192_BASE_SRV_DIRECT_BOTH && usEgFrmMode != "
+        "usIngFrmMode     ErrCode[0xe0007]\r\n");
+}
+
+TEST_F(FramerTest, MultiframeSearchSetsEgressFromWhatTheReceiverFound) {
+    tdm(0);
+    for (bool found : {false, true}) {
+        for (uint32_t dir : {0u, 2u}) {
+            SCOPED_TRACE(testing::Message() << "found " << found << " dir " << dir);
+            const uint32_t e1 = 77;
+            framers().setMultiframeFound(e1, found);
+            const uint32_t before = framers().reframes(e1);
+            ASSERT_EQ(VQ6192_Framer_SetFrmMode(kChip, e1, dir, 2), 0u);
+            EXPECT_EQ(ingress(e1) & 3, 2);
+            EXPECT_EQ(framers().reframes(e1), before + 1);
+            EXPECT_EQ(egress(e1) & 3, found ? 0 : 1);
+        }
+    }
+    // Egress alone cannot search; T1 has no multiframe mode (refused without chip bits).
+    model.setTrace(true);
+    EXPECT_EQ(VQ6192_Framer_SetFrmMode(kChip, 77, 1, 2), kParaErr);
+    tdm(1);
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_Framer_SetFrmMode(kChip, 77, 0, 2), 0xE0001u);
+    EXPECT_EQ(VQ6192_Framer_SetFrmMode(kChip, 77, 1, 2), 0xE0001u);
+    EXPECT_FALSE(anyWrite());
+    EXPECT_EQ(capture.traceTexts().back(),
+              "Err. VQ6192_Framer_SetFrmMode.enTDMMode(1) eFramerMode(2)       ErrCode[0xe0001]\r\n");
+}
+
+TEST_F(FramerTest, ReframePulseSequence) {
+    // e1 100: VC-4 1, TUG-3 1, TUG-2 2, TU 2 -> register channel 16.
+    const uint32_t addr = Framers::ingressAddr(1, 1, 2, 2, Framers::kIngMode);
+    EXPECT_EQ(addr, 0x24010u + 0x800 + 0x200 + 0x10 * 16);
+    model.poke(addr, 0x0011);
+    model.setTrace(true);
+    ASSERT_EQ(VQ6192_Framer_ReFrmFrame(kChip, 100), 0u);
+    const std::vector<BusAccess> expected = {
+        {BusOp::Read, addr, 0x0011, 0, 16}, {BusOp::Write, addr, 0x0011, 0, 16},  // := 0
+        {BusOp::Read, addr, 0x0011, 0, 16}, {BusOp::Write, addr, 0x0015, 0, 16},  // := 1
+        {BusOp::Read, addr, 0x0015, 0, 16},                                       // read once
+        {BusOp::Read, addr, 0x0015, 0, 16}, {BusOp::Write, addr, 0x0011, 0, 16},  // := 0
+    };
+    EXPECT_EQ(model.trace(), expected);
+    EXPECT_EQ(VQ6192_Framer_ReFrmFrame(kChip, 336), kParaErr);
+}
+
+TEST_F(FramerTest, ChannelResets) {
+    ASSERT_EQ(VQ6192_Framer_ReSetFrmChnl(kChip, 335, 2, 1), 0u);
+    EXPECT_EQ(ingress(335), 0x8);
+    EXPECT_EQ(egress(335), 0x4);
+    ASSERT_EQ(VQ6192_Framer_ReSetFrmChnl(kChip, 335, 1, 0), 0u);
+    EXPECT_EQ(ingress(335), 0x8);
+    EXPECT_EQ(egress(335), 0x0);
+    model.setTrace(true);
+    EXPECT_EQ(VQ6192_Framer_ReSetFrmChnl(kChip, 335, 3, 0), 0u) << "direction 3: nothing, success";
+    EXPECT_FALSE(anyWrite());
+    EXPECT_EQ(VQ6192_Framer_ReSetFrmChnl(kChip, 336, 0, 1), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_ReSetFrmChnl(kChip, 0, 0, 2), kParaErr);
+
+    // Standard coordinates, register channel TUG-2 + 7 * TU (a T1 channel of TU 3 here).
+    ASSERT_EQ(VQ6192_Framer_ReSetFrmChnlStd(kChip, 77, 2, 1, 6, 3, 0, 1), 0u);
+    EXPECT_EQ(model.peek(Framers::ingressAddr(2, 1, 6, 3, Framers::kIngMode)), 0x8);
+    EXPECT_EQ(VQ6192_Framer_ReSetFrmChnlStd(kChip, 0, 0, 0, 0, 336, 0, 1), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_CalcTug12ToTu12Chnl(kChip, 6, 3), 27);
+}
+
+TEST_F(FramerTest, StandardCoordinatesOfAChannel) {
+    uint8_t untouched = 0x5A;
+    uint16_t v = 0, k = 0, l = 0, m = 0;
+    ASSERT_EQ(VQ6192_Framer_RvCaclMapChnl(kChip, 62, &untouched, &v, &k, &l, &m), 0u);
+    EXPECT_EQ((std::vector<uint16_t>{v, k, l, m}), (std::vector<uint16_t>{0, 2, 6, 2}));
+    EXPECT_EQ(untouched, 0x5A);
+    EXPECT_EQ(VQ6192_Framer_RvCaclMapChnl(kChip, 62, nullptr, &v, &k, &l, &m), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_RvCaclMapChnl(kChip, 62, &untouched, &v, &k, &l, nullptr), kParaErr);
+}
+
+TEST_F(FramerTest, OutOfRangeArgumentsWriteNothing) {
+    model.setTrace(true);
+    uint32_t out = 0;
+    EXPECT_EQ(VQ6192_Framer_SetFrmMode(kChip, 336, 0, 0), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SetFrmMode(kChip, 0, 3, 0), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SetFrmMode(kChip, 0, 0, 4), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_GetFrmMode(kChip, 336, 0, &out), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_GetFrmMode(kChip, 0, 3, &out), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_GetFrmMode(kChip, 0, 0, nullptr), kParaErr);
+    EXPECT_TRUE(model.trace().empty());
+    // Parameter errors print under the framer's print module.
+    ASSERT_FALSE(capture.traces.empty());
+    EXPECT_EQ(capture.traces[0].module, uint32_t{VQ6192_MODULE_FRM});
+    EXPECT_EQ(capture.traces[0].text, "ParaErr.\r\n");
+}
+
+}  // namespace

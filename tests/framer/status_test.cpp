@@ -1,0 +1,223 @@
+// Overhead insertion, alarm and counter readers, clock selectors, clock gates, SOH bypass and the AU
+// pointer bytes.
+#include <cstring>
+
+#include "support/test_support.h"
+#include "vq6192/framer.h"
+#include "vq6192/sim/framers.h"
+
+namespace {
+
+using vq6192::sim::BusOp;
+using vq6192::sim::Framers;
+using vqtest::ChipTest;
+
+constexpr uint32_t kParaErr = 0x030E0001;
+
+using FramerStatus = ChipTest;
+
+TEST_F(FramerStatus, OverheadInsertionModes) {
+    struct Case {
+        uint32_t ohType, insMode, value, enable;
+        uint16_t w2Before, w4Before, w2After, w4After;
+    };
+    const Case cases[] = {
+        // RAI: value into bit 3, insertion mode bits, enable into bit 5 and carried into +4 bit 5.
+        {0, 1, 1, 1, 0x0000, 0x0000, 0x0038, 0x0038},
+        {0, 0, 1, 1, 0xFFFF, 0xFFFF, 0x7FEF, 0xFFB7},
+        {0, 2, 0, 0, 0x0000, 0x0000, 0x8000, 0x0040},
+        // Type 1: mode 0 leaves both words; mode 1 sets +2 bit 7 and +4 bit 1 with the enable in bit 0.
+        {1, 0, 1, 1, 0x1234, 0x5678, 0x1234, 0x5678},
+        {1, 1, 0, 1, 0x0000, 0x0000, 0x00C0, 0x0043},
+        // Type 2: value into bit 0 in mode 1, never touches +4; mode 2 writes nothing.
+        {2, 1, 1, 1, 0x0000, 0x0000, 0x0007, 0x0000},
+        {2, 0, 1, 0, 0x00FF, 0x00FF, 0x00F9, 0x00FF},
+        {2, 2, 1, 1, 0x0000, 0x0000, 0x0000, 0x0000},
+    };
+    const uint32_t e1 = 300;
+    for (const Case &c : cases) {
+        SCOPED_TRACE(testing::Message() << "type " << c.ohType << " mode " << c.insMode << " value "
+                                        << c.value << " enable " << c.enable);
+        model.poke(Framers::egressAddr(e1, Framers::kEgOverhead), c.w2Before);
+        model.poke(Framers::egressAddr(e1, Framers::kEgOverhead2), c.w4Before);
+        ASSERT_EQ(VQ6192_Framer_SetET1OhInsMode(kChip, e1, c.ohType, c.insMode, c.value, c.enable), 0u);
+        EXPECT_EQ(model.peek(Framers::egressAddr(e1, Framers::kEgOverhead)), c.w2After);
+        EXPECT_EQ(model.peek(Framers::egressAddr(e1, Framers::kEgOverhead2)), c.w4After);
+    }
+    uint16_t word = 0;
+    ASSERT_EQ(VQ6192_Framer_GetE1OvhInsRegVal(kChip, e1, &word), 0u);
+    EXPECT_EQ(word, model.peek(Framers::egressAddr(e1, Framers::kEgOverhead)));
+    EXPECT_EQ(VQ6192_Framer_SetET1OhInsMode(kChip, e1, 3, 0, 0, 0), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SetET1OhInsMode(kChip, e1, 0, 3, 0, 0), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SetET1OhInsMode(kChip, e1, 0, 0, 0, 2), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SetET1OhInsMode(kChip, 336, 0, 0, 0, 0), kParaErr);
+}
+
+TEST_F(FramerStatus, OverheadAndRaiBits) {
+    const uint32_t e1 = 12;
+    ASSERT_EQ(VQ6192_Framer_SetET1OhInsEn(kChip, e1, 1), 0u);
+    EXPECT_EQ(model.peek(Framers::egressAddr(e1, Framers::kEgOverhead)), 0x4000);
+    EXPECT_EQ(model.peek(Framers::egressAddr(e1, Framers::kEgOverhead2)), 0x0020);
+    ASSERT_EQ(VQ6192_Framer_SetE1RaiInsEn(kChip, e1, 1), 0u);
+    ASSERT_EQ(VQ6192_Framer_SetE1RaiInsSelEn(kChip, e1, 1), 0u);
+    ASSERT_EQ(VQ6192_Framer_SetE1RaiInsValue(kChip, e1, 1), 0u);
+    EXPECT_EQ(model.peek(Framers::egressAddr(e1, Framers::kEgOverhead)), 0x4038);
+    ASSERT_EQ(VQ6192_Framer_SetE1RaiInsSelEn(kChip, e1, 0), 0u);
+    EXPECT_EQ(model.peek(Framers::egressAddr(e1, Framers::kEgOverhead)), 0x4028);
+    EXPECT_EQ(VQ6192_Framer_SetE1RaiInsValue(kChip, e1, 2), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SetET1OhInsEn(kChip, 336, 1), kParaErr);
+    uint16_t w = 0;
+    EXPECT_EQ(VQ6192_Framer_GetE1OvhInsRegVal(kChip, e1, nullptr), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_GetE1OvhInsRegVal(kChip, 336, &w), kParaErr);
+}
+
+TEST_F(FramerStatus, E1AlarmsAndCounters) {
+    const uint32_t e1 = 140;  // VC-4 2, TUG-3 0, TUG-2 0, TU 2
+    model.poke(Framers::ingressAddr(e1, Framers::kIngAlarms), VQ6192_FRAMER_AIS | VQ6192_FRAMER_BFOOF);
+    uint16_t ais = 9, rai = 9, bfoof = 9, mfoof = 9, word = 0;
+    ASSERT_EQ(VQ6192_Framer_GetFrmAlms(kChip, e1, &ais, &rai, &bfoof, &mfoof), 0u);
+    EXPECT_EQ((std::vector<uint16_t>{ais, rai, bfoof, mfoof}), (std::vector<uint16_t>{1, 0, 1, 0}));
+    ASSERT_EQ(VQ6192_Framer_GetE1AlmRegVal(kChip, e1, &word), 0u);
+    EXPECT_EQ(word, VQ6192_FRAMER_AIS | VQ6192_FRAMER_BFOOF);
+    EXPECT_EQ(VQ6192_Framer_GetFrmAlms(kChip, e1, &ais, &rai, nullptr, &mfoof), kParaErr);
+
+    model.poke(Framers::ingressAddr(e1, Framers::kIngE1Crc), 11);
+    model.poke(Framers::ingressAddr(e1, Framers::kIngE1Febe), 22);
+    model.poke(Framers::ingressAddr(e1, Framers::kIngT1Crc), 33);
+    model.poke(Framers::ingressAddr(e1, Framers::kIngT1Ferr), 44);
+    struct Case {
+        uint32_t tdm, type, status, count;
+    };
+    const Case cases[] = {
+        {0, VQ6192_FRM_CRCERR, 0, 11}, {0, VQ6192_FRM_FERR, kParaErr, 0}, {0, VQ6192_FRM_FEBE, 0, 22},
+        {1, VQ6192_FRM_CRCERR, 0, 33}, {1, VQ6192_FRM_FERR, 0, 44},       {1, VQ6192_FRM_FEBE, kParaErr, 0},
+    };
+    for (const Case &c : cases) {
+        ASSERT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, c.tdm), 0u);
+        uint32_t count = 99;
+        EXPECT_EQ(VQ6192_Framer_GetE1FrmCntStd(kChip, 2, 0, 0, 2, c.type, &count), c.status);
+        EXPECT_EQ(count, c.count) << "tdm " << c.tdm << " type " << c.type;
+    }
+    uint32_t count = 0;
+    EXPECT_EQ(VQ6192_Framer_GetE1FrmCntStd(kChip, 4, 0, 0, 0, 0, &count), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_GetE1FrmCntStd(kChip, 0, 0, 7, 0, 0, &count), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_GetE1FrmCntStd(kChip, 0, 0, 0, 4, 0, &count), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_GetE1FrmCntStd(kChip, 0, 0, 0, 0, 3, &count), kParaErr);
+}
+
+TEST_F(FramerStatus, Et3AlarmRecordFlagByFlag) {
+    // Record order: register and bit of every flag.
+    struct Flag {
+        Framers::Et3Reg reg;
+        uint32_t bit;
+    };
+    const Flag flags[32] = {
+        {Framers::kS0, 3},  {Framers::kS0, 2},  {Framers::kS0, 1},  {Framers::kS0, 0},  {Framers::kS1, 6},
+        {Framers::kS1, 5},  {Framers::kS1, 3},  {Framers::kS1, 2},  {Framers::kS1, 1},  {Framers::kS1, 0},
+        {Framers::kE3A, 3}, {Framers::kE3A, 2}, {Framers::kE3A, 1}, {Framers::kE3A, 0}, {Framers::kE3D, 3},
+        {Framers::kE3D, 2}, {Framers::kE3D, 1}, {Framers::kE3D, 0}, {Framers::kT3A, 6}, {Framers::kT3A, 5},
+        {Framers::kT3A, 4}, {Framers::kT3A, 3}, {Framers::kT3A, 2}, {Framers::kT3A, 1}, {Framers::kT3A, 0},
+        {Framers::kT3D, 6}, {Framers::kT3D, 5}, {Framers::kT3D, 4}, {Framers::kT3D, 3}, {Framers::kT3D, 2},
+        {Framers::kT3D, 1}, {Framers::kT3D, 0},
+    };
+    const uint32_t e3 = 11;
+    for (uint32_t i = 0; i < 32; ++i) {
+        model.reset();
+        model.poke(Framers::et3Addr(e3, flags[i].reg), static_cast<uint16_t>(1u << flags[i].bit));
+        VQ6192_FRM_ET3_ALARM_S alarms;
+        ASSERT_EQ(VQ6192_Framer_GetFrmET3Alms(kChip, e3, &alarms), 0u);
+        const auto *bytes = reinterpret_cast<const uint8_t *>(&alarms);
+        for (uint32_t j = 0; j < 32; ++j) {
+            EXPECT_EQ(bytes[j], i == j ? 1 : 0) << "raised flag " << i << ", looking at " << j;
+        }
+    }
+    VQ6192_FRM_ET3_ALARM_S alarms;
+    EXPECT_EQ(VQ6192_Framer_GetFrmET3Alms(kChip, 12, &alarms), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_GetFrmET3Alms(kChip, 0, nullptr), kParaErr);
+}
+
+TEST_F(FramerStatus, T3ErrorCounters) {
+    for (uint32_t i = 0; i < 5; ++i) {
+        model.poke(Framers::t3CounterAddr(7, false) + 2 * i, static_cast<uint16_t>(100 + i));
+        model.poke(Framers::t3CounterAddr(7, true) + 2 * i, static_cast<uint16_t>(200 + i));
+    }
+    VQ6192_FRM_T3_ERR_S c{};
+    ASSERT_EQ(VQ6192_Framer_GetT3ErrorStat(kChip, 7, &c), 0u);
+    EXPECT_EQ(
+        (std::vector<uint16_t>{c.usAT3Ferrcnt, c.usAT3Merrcnt, c.usAT3Pcnt, c.usAT3Cpcnt, c.usAT3Febecnt,
+                               c.usDT3Ferrcnt, c.usDT3Merrcnt, c.usDT3Pcnt, c.usDT3Cpcnt, c.usDT3Febecnt}),
+        (std::vector<uint16_t>{100, 101, 102, 103, 104, 200, 201, 202, 203, 204}));
+    EXPECT_EQ(VQ6192_Framer_GetT3ErrorStat(kChip, 0, nullptr), kParaErr);
+}
+
+TEST_F(FramerStatus, ClockSelectorsGatesBypassAndAuPointer) {
+    struct Selector {
+        uint32_t (*set)(uint32_t, uint32_t, uint32_t);
+        uint32_t index, value, addr, mask;
+        bool ok;
+    };
+    const Selector selectors[] = {
+        {VQ6192_Framer_SetFrmClkSource, 335, 40, 0x2166 + 2 * 335, 0x3F, true},
+        {VQ6192_Framer_SetFrmClkSource, 336, 1, 0, 0, false},
+        {VQ6192_Framer_SetFrmClkSource, 0, 41, 0, 0, false},
+        {VQ6192_Framer_SetFrmET3TxClkSource, 11, 25, 0x243E + 22, 0x1F, true},
+        {VQ6192_Framer_SetFrmET3TxClkSource, 0, 26, 0, 0, false},
+        {VQ6192_Framer_SetFrmET3TxClkSource, 12, 0, 0, 0, false},
+        {VQ6192_HTBE_TCLK_CLKSEL, 5, 63, 0x2432 + 10, 0x3F, true},
+        {VQ6192_HTBE_TCLK_CLKSEL, 6, 0, 0, 0, false},
+        {VQ6192_HTBE_RT_CLKSEL, 1, 0x2A, 0x2428, 0x3F, true},
+        {VQ6192_HTBE_RT_CLKSEL, 2, 0, 0, 0, false},
+    };
+    for (const Selector &s : selectors) {
+        SCOPED_TRACE(testing::Message() << "index " << s.index << " value " << s.value);
+        if (s.ok) {
+            model.poke(s.addr, 0xFFC0);
+            ASSERT_EQ(s.set(kChip, s.index, s.value), 0u);
+            EXPECT_EQ(model.peek(s.addr), (0xFFC0 & ~s.mask) | s.value);
+        } else {
+            EXPECT_EQ(s.set(kChip, s.index, s.value), kParaErr);
+        }
+    }
+    uint16_t v = 0;
+    ASSERT_EQ(VQ6192_Framer_GetFrmClkSource(kChip, 335, &v), 0u);
+    EXPECT_EQ(v, 40);
+    ASSERT_EQ(VQ6192_Framer_GetFrmET3TxClkSource(kChip, 11, &v), 0u);
+    EXPECT_EQ(v, 25);
+    EXPECT_EQ(VQ6192_Framer_GetFrmClkSource(kChip, 336, &v), kParaErr);
+
+    const std::pair<uint32_t, std::pair<uint32_t, uint32_t>> gates[] = {
+        {0, {0x2080A, 7}}, {7, {0x2080A, 0}}, {8, {0x2080C, 15}}, {23, {0x2080C, 0}}};
+    for (const auto &[gate, where] : gates) {
+        model.poke(where.first, 0);
+        ASSERT_EQ(VQ6192_Framer_SetE1MapClkGate(kChip, gate, 1), 0u);
+        EXPECT_EQ(model.peek(where.first), 1u << where.second) << "gate " << gate;
+        ASSERT_EQ(VQ6192_Framer_GetE1MapClkGate(kChip, gate, &v), 0u);
+        EXPECT_EQ(v, 1);
+    }
+    EXPECT_EQ(VQ6192_Framer_SetE1MapClkGate(kChip, 24, 1), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SetE1MapClkGate(kChip, 0, 2), kParaErr);
+
+    ASSERT_EQ(VQ6192_Framer_SetSOHByPassMode(kChip, 1), 0u);
+    EXPECT_EQ(model.peek(0x257A), 1);
+    ASSERT_EQ(VQ6192_Framer_GetSOHByPassMode(kChip, &v), 0u);
+    EXPECT_EQ(v, 1);
+    EXPECT_EQ(VQ6192_Framer_SetSOHByPassMode(kChip, 2), kParaErr);
+
+    VQ6192_SDH_AU_PTR_S ptr{0x6A, 0x9B, 0x9B, 0x0A, 0xFF, 0xFF, 0x55, 0x55, 0x55};
+    ASSERT_EQ(VQ6192_Framer_SetSDHAuPtr(kChip, &ptr), 0u);
+    EXPECT_EQ((std::vector<uint16_t>{model.peek(0x214C), model.peek(0x214E), model.peek(0x2150),
+                                     model.peek(0x2152), model.peek(0x2154)}),
+              (std::vector<uint16_t>{0x6A, 0x9B, 0x0A, 0xFF, 0x55}));
+    VQ6192_SDH_AU_PTR_S back{};
+    ASSERT_EQ(VQ6192_Framer_GetSDHAuPtr(kChip, &back), 0u);
+    EXPECT_EQ(std::memcmp(&back, &ptr, sizeof ptr), 0);
+    model.setTrace(true);
+    ptr.ucH3_3 = 0x56;
+    EXPECT_EQ(VQ6192_Framer_SetSDHAuPtr(kChip, &ptr), kParaErr);
+    ptr.ucH3_3 = 0x55;
+    ptr.ucY_2 = 0;
+    EXPECT_EQ(VQ6192_Framer_SetSDHAuPtr(kChip, &ptr), kParaErr);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+}  // namespace

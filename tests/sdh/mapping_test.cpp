@@ -1,0 +1,308 @@
+// Line mode, AU-3 mapping and its read-back, the mapping's waits, loopbacks and switches.
+#include <map>
+#include <set>
+
+#include "support/test_support.h"
+#include "vq6192/sdh.h"
+#include "vq6192/sim/framers.h"
+
+namespace {
+
+using vq6192::sim::BusOp;
+using vq6192::sim::Framers;
+using vqtest::ChipTest;
+
+constexpr uint32_t kParaErr = 0x03080001;
+constexpr uint16_t x = 0xFFFF;
+
+// The mapper register field behind each column of the map configuration, from the chip's register
+// map: register, lowest bit, width, and how the slot moves it.
+struct Target {
+    uint32_t reg;
+    uint32_t bit;
+    uint32_t width;
+    enum { Chip, Vc4Bit, Au3Bit, Vc4Pair, Vc4Reg, Au3Reg, Check } how;
+    uint32_t step = 0;
+};
+
+const Target kTargets[20] = {
+    {0x24000, 8, 1, Target::Chip},    {0x24000, 0, 1, Target::Vc4Bit},
+    {0x24002, 13, 1, Target::Chip},   {0x24006, 14, 1, Target::Chip},
+    {0x2080E, 0, 1, Target::Au3Bit},  {0x2C002, 4, 1, Target::Vc4Bit},
+    {0x2C002, 0, 1, Target::Vc4Bit},  {0x20006, 0, 1, Target::Check},
+    {0x2C380, 0, 2, Target::Vc4Pair}, {0x2C040, 0, 2, Target::Vc4Reg, 0x40},
+    {0x2C000, 1, 1, Target::Chip},    {0x202C, 0, 2, Target::Vc4Reg, 2},
+    {0x2A020, 5, 3, Target::Chip},    {0x202A, 0, 1, Target::Chip},
+    {0x2400C, 0, 2, Target::Chip},    {0x2400C, 2, 2, Target::Chip},
+    {0x000E, 2, 1, Target::Check},    {0x000E, 1, 1, Target::Check},
+    {0x29282, 0, 1, Target::Au3Bit},  {0x2B602, 0, 1, Target::Au3Reg, 0x20},
+};
+
+// Registers after writing one table row on a chip whose registers were all 0 but for the modes.
+std::map<uint32_t, uint16_t> expectedRegisters(uint32_t line, uint32_t tdm, uint32_t vc4, uint32_t au3,
+                                               uint32_t type) {
+    std::map<uint32_t, uint16_t> regs;
+    regs[0x20006] = static_cast<uint16_t>(line);
+    regs[0x000E] = static_cast<uint16_t>(tdm * 6);
+    const auto &row = vc4 == 0 ? g_aausVQ6192SDHMapCfg0[type] : g_aausVQ6192SDHMapCfg123[type];
+    const uint32_t slot = 3 * vc4 + au3;
+    for (uint32_t col = 0; col < 20; ++col) {
+        const Target &t = kTargets[col];
+        if (row[col] == x || t.how == Target::Check) {
+            continue;
+        }
+        std::vector<uint32_t> addrs{t.reg};
+        uint32_t bit = t.bit;
+        switch (t.how) {
+            case Target::Vc4Bit:
+                bit += vc4;
+                break;
+            case Target::Au3Bit:
+                bit += slot;
+                break;
+            case Target::Vc4Pair:
+                bit = 2 * vc4;
+                break;
+            case Target::Vc4Reg:
+                addrs = {t.reg + t.step * vc4};
+                if (col == 9) {  // the three receive high-order blocks
+                    addrs = {0x2C040 + 0x40 * vc4, 0x2C140 + 0x40 * vc4, 0x2C240 + 0x40 * vc4};
+                }
+                break;
+            case Target::Au3Reg:
+                addrs = {t.reg + t.step * slot};
+                break;
+            default:
+                break;
+        }
+        for (uint32_t addr : addrs) {
+            regs[addr] = static_cast<uint16_t>(regs[addr] | (row[col] << bit));
+        }
+    }
+    return regs;
+}
+
+// Map type read back after setting each type on a fresh chip, per line mode, TDM mode and VC-4
+// (0, or 1..3); -1: the setter refuses it.
+const int kReadBack[2][2][2][14] = {
+    {{{0, 1, 2, -1, 4, -1, 6, -1, -1, 9, -1, -1, -1, -1},
+      {0, 1, -1, -1, 4, -1, 6, -1, -1, 9, -1, -1, -1, -1}},
+     {{0, 1, -1, 3, -1, 5, -1, 7, 8, -1, 10, -1, -1, -1},
+      {0, 1, -1, -1, -1, 5, -1, 7, 8, -1, 10, -1, -1, -1}}},
+    {{{-1, -1, 2, -1, 4, -1, -1, -1, -1, -1, -1, 11, -1, -1},
+      {-1, -1, -1, -1, 4, -1, -1, -1, -1, -1, -1, 11, -1, -1}},
+     {{-1, -1, -1, 3, -1, 5, -1, -1, -1, -1, -1, -1, 12, 13},
+      {-1, -1, -1, -1, -1, 5, -1, -1, -1, -1, -1, -1, 12, 13}}},
+};
+
+class SdhMapTest : public ChipTest {
+  protected:
+    void setModes(uint32_t line, uint32_t tdm) {
+        model.reset();
+        model.poke(0x20006, static_cast<uint16_t>(line));
+        model.poke(0x000E, static_cast<uint16_t>(tdm * 6));
+    }
+};
+
+TEST_F(SdhMapTest, EveryTypeOnEverySlotUnderEveryMode) {
+    for (uint32_t line = 0; line < 2; ++line) {
+        for (uint32_t tdm = 0; tdm < 2; ++tdm) {
+            for (uint32_t vc4 = 0; vc4 < 4; ++vc4) {
+                for (uint32_t au3 = 0; au3 < 3; ++au3) {
+                    for (uint32_t type = 0; type < 14; ++type) {
+                        SCOPED_TRACE(testing::Message() << "line " << line << " tdm " << tdm << " slot "
+                                                        << vc4 << "/" << au3 << " type " << type);
+                        setModes(line, tdm);
+                        model.setTrace(true);
+                        model.clearTrace();
+                        const int readBack = kReadBack[line][tdm][vc4 == 0 ? 0 : 1][type];
+                        const uint32_t rc = VQ6192_SDH_SetSDHMap(kChip, vc4, au3, type);
+                        std::set<uint32_t> written;
+                        for (const auto &a : model.trace()) {
+                            if (a.op == BusOp::Write) {
+                                written.insert(a.addr);
+                            }
+                        }
+                        if (readBack < 0) {
+                            ASSERT_EQ(rc, kParaErr);
+                            EXPECT_TRUE(written.empty()) << "a refused map writes nothing";
+                            continue;
+                        }
+                        ASSERT_EQ(rc, 0u);
+                        const auto expected = expectedRegisters(line, tdm, vc4, au3, type);
+                        for (uint32_t addr : written) {
+                            // T1 structures pulse the framer channel resets, which end at 0.
+                            const auto it = expected.find(addr);
+                            EXPECT_EQ(model.peek(addr), it == expected.end() ? 0 : it->second)
+                                << std::hex << addr;
+                        }
+                        for (const auto &[addr, value] : expected) {
+                            EXPECT_EQ(model.peek(addr), value) << std::hex << addr;
+                        }
+                        uint8_t got = 0;
+                        EXPECT_EQ(VQ6192_SDH_GetSDHMap(kChip, vc4, au3, &got), 0u);
+                        EXPECT_EQ(got, readBack);
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST_F(SdhMapTest, ReadBackPrefersTheHigherTypeAndReportsNoMatch) {
+    setModes(0, 1);
+    ASSERT_EQ(VQ6192_SDH_SetSDHMap(kChip, 1, 2, 8), 0u);
+    ASSERT_EQ(VQ6192_SDH_SetSDHMap(kChip, 1, 2, 7), 0u);  // leaves column 15 at 2; row 8 fails on 14
+    uint8_t type = 0;
+    ASSERT_EQ(VQ6192_SDH_GetSDHMap(kChip, 1, 2, &type), 0u);
+    EXPECT_EQ(type, 7);
+
+    // Disagreeing VT/TU types of the three receive blocks.
+    model.poke(0x2C140 + 0x40, 3);
+    EXPECT_EQ(VQ6192_SDH_GetSDHMap(kChip, 1, 0, &type), 0x03080006u);
+    EXPECT_EQ(type, NULL_MAP_PATH);
+    // Registers no row describes.
+    setModes(0, 0);
+    model.poke(0x202C, 3);
+    EXPECT_EQ(VQ6192_SDH_GetSDHMap(kChip, 0, 0, &type), 0x03080006u);
+    EXPECT_EQ(type, NULL_MAP_PATH);
+    EXPECT_EQ(capture.traceTexts(), (std::vector<std::string>{
+                                        "Err. VQ6192_SDH_GetSDHMap.VQ6192_MAP_STRUC1_ReadVttuType(1,0)       "
+                                        "ErrCode[0x3080006]\r\n",
+                                        "Err. VQ6192_SDH_GetSDHMap.reSdhMap(14)       ErrCode[0x3080006]\r\n",
+                                    }));
+}
+
+TEST_F(SdhMapTest, WaitsAfterVc4SlotThreeAndPulsesThePayloadType) {
+    setModes(0, 0);
+    std::vector<std::pair<uint16_t, uint64_t>> payloadWrites;  // value, virtual time
+    model.onWrite(0x202C + 2 * 3, [&](uint32_t, uint16_t value, uint16_t) {
+        payloadWrites.emplace_back(value, VQ6192_Platform_GetVirtualTimeUs());
+        return value;
+    });
+    VQ6192_Platform_ResetVirtualTime();
+    ASSERT_EQ(VQ6192_SDH_SetSDHMap(kChip, 3, 1, CKD_FE_SDHSONET_MAP_E1_VC12TU12TUG3_AU4), 0u);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 510u + 1u);
+    ASSERT_EQ(payloadWrites.size(), 2u);
+    EXPECT_EQ(payloadWrites[0].first, 3);
+    EXPECT_EQ(payloadWrites[1].first, 0);
+    EXPECT_EQ(payloadWrites[1].second - payloadWrites[0].second, 1u);
+
+    VQ6192_Platform_ResetVirtualTime();
+    ASSERT_EQ(VQ6192_SDH_SetSDHMap(kChip, 2, 1, CKD_FE_SDHSONET_MAP_E1_VC12TU12TUG3_AU4), 0u);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 1u) << "no settling wait below VC-4 3";
+    VQ6192_Platform_ResetVirtualTime();
+    ASSERT_EQ(VQ6192_SDH_SetSDHMap(kChip, 3, 0, SDHSONET_MAP_VC4_BYPASS), 0u);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 1u) << "no VT/TU type for a bypass";
+}
+
+TEST_F(SdhMapTest, T1StructuresPulseTheSlotsChannelResets) {
+    setModes(1, 1);
+    std::map<uint32_t, int> pulses;
+    for (uint32_t tu = 0; tu < 4; ++tu) {
+        for (uint32_t tug2 = 0; tug2 < 7; ++tug2) {
+            const uint32_t addr = Framers::ingressAddr(2, 1, tug2, tu, Framers::kIngMode);
+            model.onWrite(addr, [&pulses](uint32_t a, uint16_t value, uint16_t old) {
+                pulses[a] += ((value & 8) != 0 && (old & 8) == 0) ? 1 : 0;
+                return value;
+            });
+        }
+    }
+    ASSERT_EQ(VQ6192_SDH_SetSDHMap(kChip, 2, 1, CKD_FE_SDHSONET_MAP_DS1_VT15_STS1), 0u);
+    ASSERT_EQ(pulses.size(), 28u) << "register channels 0..27 of the slot";
+    for (const auto &[addr, n] : pulses) {
+        EXPECT_EQ(n, 1) << std::hex << addr;
+        EXPECT_EQ(model.peek(addr) & 8, 0) << "released again";
+    }
+    EXPECT_EQ(model.peek(Framers::ingressAddr(2, 2, 0, 0, Framers::kIngMode)), 0) << "other slots untouched";
+}
+
+TEST_F(SdhMapTest, LineModeAndRefusals) {
+    model.poke(0x20006, 0xABCE);
+    ASSERT_EQ(VQ6192_SDH_SetSDHSonetMode(kChip, 1), 0u);
+    EXPECT_EQ(model.peek(0x20006), 0xABCF) << "bits 15..1 kept";
+    uint8_t mode = 0;
+    ASSERT_EQ(VQ6192_SDH_GetSDHSonetMode(kChip, &mode), 0u);
+    EXPECT_EQ(mode, 1);
+
+    model.setTrace(true);
+    uint8_t out = 0;
+    EXPECT_EQ(VQ6192_SDH_SetSDHSonetMode(kChip, 2), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_GetSDHSonetMode(kChip, nullptr), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 4, 0, 6), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 0, 3, 6), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 0, 0, 14), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 1, 0, CKD_FE_SDHSONET_MAP_HTB_E1), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 3, 2, CKD_FE_SDHSONET_MAP_HTB_T1), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_GetSDHMap(kChip, 4, 0, &out), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_GetSDHMap(kChip, 0, 3, &out), kParaErr);
+    for (const auto &a : model.trace()) {
+        EXPECT_NE(a.op, BusOp::Write) << "no register changes on a parameter error";
+    }
+    EXPECT_EQ(capture.traceTexts(), std::vector<std::string>(9, "ParaErr.\r\n"));
+}
+
+TEST_F(SdhMapTest, LoopPoints) {
+    struct Case {
+        uint32_t point, vc4, au3;
+        uint32_t regA, bitA, regB, bitB;  // regB 0: no bit B
+    };
+    const Case cases[] = {
+        {0, 9, 9, 0x2C00A, 0, 0, 0},
+        {1, 2, 1, 0x26000, 7, 0x26002, 7},
+        {2, 9, 9, 0x2A020, 1, 0x2A020, 0},
+        {3, 3, 2, 0x29296 + 0x10 * 11, 2, 0x29296 + 0x10 * 11, 3},
+        {4, 1, 0, 0x2B604 + 0x20 * 3, 0, 0x2B606 + 0x20 * 3, 0},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(testing::Message() << "loop point " << c.point);
+        for (uint32_t mode = 0; mode < 3; ++mode) {
+            if (c.regB == 0 && mode == 2) {
+                EXPECT_EQ(VQ6192_SDH_SetSDHLoop(kChip, c.point, c.vc4, c.au3, 2), kParaErr);
+                continue;
+            }
+            ASSERT_EQ(VQ6192_SDH_SetSDHLoop(kChip, c.point, c.vc4, c.au3, mode), 0u);
+            EXPECT_EQ((model.peek(c.regA) >> c.bitA) & 1, mode == 1 ? 1 : 0);
+            if (c.regB != 0) {
+                EXPECT_EQ((model.peek(c.regB) >> c.bitB) & 1, mode == 2 ? 1 : 0);
+            }
+            uint8_t state = 9;
+            // The getter checks the slot for every point.
+            const uint32_t vc4 = c.vc4 > 3 ? 0 : c.vc4;
+            const uint32_t au3 = c.au3 > 2 ? 0 : c.au3;
+            ASSERT_EQ(VQ6192_SDH_GetSDHLoop(kChip, c.point, vc4, au3, &state), 0u);
+            EXPECT_EQ(state, mode);
+        }
+    }
+    uint8_t state = 0;
+    EXPECT_EQ(VQ6192_SDH_GetSDHLoop(kChip, 2, 9, 0, &state), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_SetSDHLoop(kChip, 5, 0, 0, 0), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_SetSDHLoop(kChip, 1, 0, 0, 3), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_SetSDHLoop(kChip, 3, 4, 0, 1), kParaErr);
+    // Both bits set by hand read as 3.
+    model.poke(0x26000, 1);
+    model.poke(0x26002, 1);
+    ASSERT_EQ(VQ6192_SDH_GetSDHLoop(kChip, 1, 0, 0, &state), 0u);
+    EXPECT_EQ(state, 3);
+}
+
+TEST_F(SdhMapTest, MapLoopConfigurationAndDs3FifoReset) {
+    model.poke(0x2DCBC, 0x07FF);
+    ASSERT_EQ(VQ6192_SDH_SetMapLoopCfg(kChip, 1, 0, 1), 0u);
+    EXPECT_EQ(model.peek(0x2DCBC), 0x2FFF);
+    uint8_t a = 0, b = 9, c = 0;
+    ASSERT_EQ(VQ6192_SDH_GetMapLoopCfg(kChip, &a, &b, &c), 0u);
+    EXPECT_EQ(a, 1);
+    EXPECT_EQ(b, 0);
+    EXPECT_EQ(c, 1);
+    EXPECT_EQ(VQ6192_SDH_SetMapLoopCfg(kChip, 0, 2, 0), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_GetMapLoopCfg(kChip, &a, nullptr, &c), kParaErr);
+
+    model.poke(0x2C040 + 0x40 * 2, 0x0003);
+    ASSERT_EQ(VQ6192_SDH_SetDS3RxFifoRst(kChip, 2, 1), 0u);
+    EXPECT_EQ(model.peek(0x2C0C0), 0x000B) << "beside the VT/TU type";
+    EXPECT_EQ(VQ6192_SDH_SetDS3RxFifoRst(kChip, 4, 1), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_SetDS3RxFifoRst(kChip, 0, 2), kParaErr);
+}
+
+}  // namespace

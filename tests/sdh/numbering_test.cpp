@@ -1,0 +1,145 @@
+// Tributary numbering: every conversion against its formula over the accepted range and past it.
+#include "support/test_support.h"
+#include "vq6192/sdh.h"
+
+namespace {
+
+constexpr uint32_t kChip = 2;
+constexpr uint32_t kParaErr = 0x02080001;
+
+struct Std {
+    uint32_t v, k, l, m;
+    bool operator==(const Std &) const = default;
+};
+
+// The numbering of the chip documentation: 63 tributaries per VC-4, 21 per TUG-3, TUG-2 fastest.
+uint32_t e1Of(const Std &s) {
+    return 63 * s.v + 21 * s.k + 7 * s.m + s.l;
+}
+uint32_t regOf(const Std &s) {
+    return 7 * s.m + s.l;
+}
+uint32_t hwOf(const Std &s) {
+    return 21 * s.m + 3 * s.l + s.k;
+}
+
+TEST(SdhNumbering, AllSchemesAgreeOverTheWholeRange) {
+    vqtest::PlatformCapture capture;
+    for (uint32_t v = 0; v < 6; ++v) {  // VC-4s 4 and 5 are the internal numbers 252..377
+        for (uint32_t k = 0; k < 3; ++k) {
+            for (uint32_t l = 0; l < 7; ++l) {
+                for (uint32_t m = 0; m < 3; ++m) {
+                    const Std s{v, k, l, m};
+                    const uint32_t e1 = e1Of(s);
+                    SCOPED_TRACE(testing::Message() << "e1 " << e1);
+                    Std out{};
+                    ASSERT_EQ(VQ6192_SDH_InterE1Chno2Standardno(kChip, e1, &out.v, &out.k, &out.l, &out.m),
+                              0u);
+                    EXPECT_EQ(out, s);
+                    uint32_t back = 0;
+                    ASSERT_EQ(VQ6192_SDH_Standardno2InterE1Chno(kChip, v, k, l, m, &back), 0u);
+                    EXPECT_EQ(back, e1);
+
+                    uint32_t rv = 9, rk = 9, r = 99, hv = 9, h = 99;
+                    const bool inRange = e1 < 336;
+                    EXPECT_EQ(VQ6192_SDH_InterE1Chno2RegChno(kChip, e1, &rv, &rk, &r),
+                              inRange ? 0u : kParaErr);
+                    EXPECT_EQ(VQ6192_SDH_InterE1Chno2HWChno(kChip, e1, &hv, &h), inRange ? 0u : kParaErr);
+                    if (inRange) {
+                        EXPECT_EQ(rv, v);
+                        EXPECT_EQ(rk, k);
+                        EXPECT_EQ(r, regOf(s));
+                        EXPECT_EQ(hv, v);
+                        EXPECT_EQ(h, hwOf(s));
+                    } else {
+                        EXPECT_EQ(r, 99u) << "outputs untouched on refusal";
+                        EXPECT_EQ(h, 99u);
+                    }
+                    if (v < 4) {
+                        ASSERT_EQ(VQ6192_SDH_RegChno2InterE1Chno(kChip, v, k, regOf(s), &back), 0u);
+                        EXPECT_EQ(back, e1);
+                    }
+                    ASSERT_EQ(VQ6192_SDH_HWChno2InterE1Chno(kChip, v, hwOf(s), &back), 0u);
+                    EXPECT_EQ(back, e1);
+
+                    Std viaReg{}, viaHw{};
+                    ASSERT_EQ(VQ6192_SDH_RegChno2Standardno(kChip, v, k, regOf(s), &viaReg.v, &viaReg.k,
+                                                            &viaReg.l, &viaReg.m),
+                              0u);
+                    EXPECT_EQ(viaReg, s);
+                    ASSERT_EQ(VQ6192_SDH_HWChno2Standardno(kChip, v, hwOf(s), &viaHw.v, &viaHw.k, &viaHw.l,
+                                                           &viaHw.m),
+                              0u);
+                    EXPECT_EQ(viaHw, s);
+                    uint32_t ov = 0, ok = 0;
+                    ASSERT_EQ(VQ6192_SDH_Standardno2RegChno(kChip, v, k, l, m, &ov, &ok, &r), 0u);
+                    EXPECT_EQ(r, regOf(s));
+                    ASSERT_EQ(VQ6192_SDH_Standardno2HWChno(kChip, v, k, l, m, &ov, &h), 0u);
+                    EXPECT_EQ(h, hwOf(s));
+                    ASSERT_EQ(VQ6192_SDH_HWChno2RegChno(kChip, v, hwOf(s), &ov, &ok, &r), 0u);
+                    EXPECT_EQ(r, regOf(s));
+                    ASSERT_EQ(VQ6192_SDH_RegChnoHWChno(kChip, v, k, regOf(s), &ov, &h), 0u);
+                    EXPECT_EQ(h, hwOf(s));
+                    EXPECT_EQ(ov, v);
+                }
+            }
+        }
+    }
+    for (uint32_t r = 0; r < 28; ++r) {
+        EXPECT_EQ(g_aulVQ6192InterE1no2HwnoPerTug3[r], 3 * r);
+    }
+}
+
+TEST(SdhNumbering, DocumentedExamplesAndEdges) {
+    vqtest::PlatformCapture capture;
+    uint32_t a = 0, b = 0, c = 0, d = 0, e1 = 0;
+    ASSERT_EQ(VQ6192_SDH_InterE1Chno2RegChno(kChip, 62, &a, &b, &c), 0u);
+    EXPECT_EQ((std::vector<uint32_t>{a, b, c}), (std::vector<uint32_t>{0, 2, 20}));
+    ASSERT_EQ(VQ6192_SDH_InterE1Chno2Standardno(kChip, 62, &a, &b, &c, &d), 0u);
+    EXPECT_EQ((std::vector<uint32_t>{a, b, c, d}), (std::vector<uint32_t>{0, 2, 6, 2}));
+    ASSERT_EQ(VQ6192_SDH_InterE1Chno2HWChno(kChip, 62, &a, &b), 0u);
+    EXPECT_EQ((std::vector<uint32_t>{a, b}), (std::vector<uint32_t>{0, 62}));
+    ASSERT_EQ(VQ6192_SDH_InterE1Chno2HWChno(kChip, 63, &a, &b), 0u);
+    EXPECT_EQ((std::vector<uint32_t>{a, b}), (std::vector<uint32_t>{1, 0}));
+
+    // Register channels 21..27 (T1) run into the next TUG-3's numbers.
+    ASSERT_EQ(VQ6192_SDH_RegChno2InterE1Chno(kChip, 0, 0, 21, &e1), 0u);
+    EXPECT_EQ(e1, 21u);
+    ASSERT_EQ(VQ6192_SDH_InterE1Chno2RegChno(kChip, e1, &a, &b, &c), 0u);
+    EXPECT_EQ((std::vector<uint32_t>{a, b, c}), (std::vector<uint32_t>{0, 1, 0}));
+    ASSERT_EQ(VQ6192_SDH_RegChno2InterE1Chno(kChip, 3, 2, 27, &e1), 0u);
+    EXPECT_EQ(e1, 63u * 3 + 42 + 27);
+
+    // The hardware conversions recompute the VC-4 from the internal number.
+    ASSERT_EQ(VQ6192_SDH_HWChno2RegChno(kChip, 0, 63 + 2, &a, &b, &c), 0u);
+    EXPECT_EQ((std::vector<uint32_t>{a, b, c}), (std::vector<uint32_t>{1, 0, 0}));
+
+    // The standard conversion takes 336 (VC-4 5); register and hardware ones refuse it.
+    ASSERT_EQ(VQ6192_SDH_InterE1Chno2Standardno(kChip, 336, &a, &b, &c, &d), 0u);
+    EXPECT_EQ(a, 5u);
+    EXPECT_EQ(VQ6192_SDH_InterE1Chno2RegChno(kChip, 336, &a, &b, &c), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_InterE1Chno2HWChno(kChip, 336, &a, &b), kParaErr);
+}
+
+TEST(SdhNumbering, RefusalsOfTheCheckedConversions) {
+    vqtest::PlatformCapture capture;
+    uint32_t a = 0, b = 0, c = 0, d = 0;
+    EXPECT_EQ(VQ6192_SDH_RegChno2InterE1Chno(kChip, 4, 0, 0, &a), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_RegChno2InterE1Chno(kChip, 0, 3, 0, &a), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_RegChno2InterE1Chno(kChip, 0, 0, 28, &a), kParaErr);
+    // Null outputs, one conversion after the other.
+    EXPECT_EQ(VQ6192_SDH_RegChno2InterE1Chno(kChip, 0, 0, 0, nullptr), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_InterE1Chno2RegChno(kChip, 0, &a, nullptr, &c), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_InterE1Chno2HWChno(kChip, 0, nullptr, &b), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_HWChno2InterE1Chno(kChip, 0, 0, nullptr), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_InterE1Chno2Standardno(kChip, 0, &a, &b, &c, nullptr), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_Standardno2InterE1Chno(kChip, 0, 0, 0, 0, nullptr), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_RegChno2Standardno(kChip, 0, 0, 0, nullptr, &b, &c, &d), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_Standardno2RegChno(kChip, 0, 0, 0, 0, &a, &b, nullptr), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_HWChno2Standardno(kChip, 0, 0, &a, nullptr, &c, &d), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_Standardno2HWChno(kChip, 0, 0, 0, 0, nullptr, &b), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_HWChno2RegChno(kChip, 0, 0, &a, &b, nullptr), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_RegChnoHWChno(kChip, 0, 0, 0, &a, nullptr), kParaErr);
+}
+
+}  // namespace
