@@ -1,8 +1,9 @@
-/* VQ6192 driver SDK: E1/T1 and E3/T3 framers. C-compatible.
+/* VQ6192 driver SDK: E1/T1 and E3/T3 framers, the timeslot switch and the PRBS test engines.
+ * C-compatible.
  *
  * One E1/T1 framer per tributary (internal E1 number 0..335) and one E3/T3 framer per AU-3 slot
- * (0..11). Framer status codes carry module number 14; error 1 parameter, 4 a sub-operation failed,
- * 7 inconsistent state; the framer's trace lines print under module FRM (15). */
+ * (0..11). Framer and timeslot status codes carry module number 14; error 1 parameter, 4 a sub-operation
+ * failed, 7 inconsistent state; the framer's trace lines print under module FRM (15). */
 #ifndef VQ6192_FRAMER_H
 #define VQ6192_FRAMER_H
 
@@ -137,6 +138,151 @@ VQ6192_API uint32_t VQ6192_Framer_SetSDHAuPtr(uint32_t chip, const VQ6192_SDH_AU
 VQ6192_API uint32_t VQ6192_Framer_GetSDHAuPtr(uint32_t chip, VQ6192_SDH_AU_PTR_S *ptr);
 VQ6192_API uint32_t VQ6192_Framer_GetE1FromSvrNo(uint32_t chip, uint32_t svcChnl, uint32_t dir,
                                                  uint32_t svcType, uint32_t speed, uint16_t *e1);
+
+/* ---- Timeslot switch ---------------------------------------------------------------------------
+ * Service types: 1 PPP, 2 ATM, 3 CES, 4 none. Speeds: 0 16 kbit/s, 1 32 kbit/s, 3 64 kbit/s, 4 8 kbit/s
+ * (2 is refused); readers return the raw rate field (3 64k, 2 32k, 1 16k, 0 8k). */
+#define VQ6192_TS_SPEED_MAX 5u
+#define VQ6192_TS_LOOP_POINT_ET1 0u
+#define VQ6192_TS_LOOP_POINT_ET3 1u
+
+/* Per-chip CES PRBS flag: while 1, CES timeslot entries are written with the PRBS test bit. */
+VQ6192_API extern uint32_t g_uiPrbsFlag[VQ6192_CHIP_RECORD_NUM];
+
+typedef struct {
+    uint32_t ulChipId;
+    uint16_t usDir;
+    uint16_t usE1;
+    uint16_t usTs;
+    uint16_t usSvcChnl; /* out */
+    uint8_t ucSvcType;  /* out */
+    uint32_t ulSpeed;   /* out */
+    uint8_t ucEn;       /* out */
+} VQ6192_FRM_TS_CFG_S;
+
+/* Raw table access (the entry is the low 16 bits of the word). */
+VQ6192_API uint32_t VQ6192_Framer_SetTSTab(uint32_t chip, uint32_t e1, uint32_t dir, uint32_t ts,
+                                           const uint32_t *entry);
+VQ6192_API uint32_t VQ6192_Framer_SetE3TSTab(uint32_t chip, uint32_t e3, uint32_t dir, const uint32_t *entry);
+VQ6192_API uint32_t VQ6192_Framer_SetVC4TSTab(uint32_t chip, uint32_t vc4, uint32_t dir,
+                                              const uint32_t *entry);
+VQ6192_API uint32_t VQ6192_Framer_GetE3TSTab(uint32_t chip, uint32_t e3, uint32_t dir, uint32_t *entry);
+VQ6192_API uint32_t VQ6192_Framer_GetVC4TSTab(uint32_t chip, uint32_t vc4, uint32_t dir, uint32_t *entry);
+
+/* Source selection. */
+VQ6192_API uint32_t VQ6192_Framer_SelectSrcE1(uint32_t chip, uint32_t dir, uint32_t e1, uint32_t svcChnl,
+                                              uint32_t svcType, uint32_t tsBitmap, uint32_t speed);
+VQ6192_API uint32_t VQ6192_Framer_DeleteSrcE1(uint32_t chip, uint32_t dir, uint32_t e1, uint32_t tsBitmap);
+VQ6192_API uint32_t VQ6192_Framer_SelectSrcE3(uint32_t chip, uint32_t dir, uint32_t e3, uint32_t svcChnl,
+                                              uint32_t svcType);
+VQ6192_API uint32_t VQ6192_Framer_DeleteSrcE3(uint32_t chip, uint32_t dir, uint32_t e3);
+VQ6192_API uint32_t VQ6192_Framer_SelectSrcVC4(uint32_t chip, uint32_t dir, uint32_t vc4, uint32_t svcChnl,
+                                               uint32_t svcType);
+VQ6192_API uint32_t VQ6192_Framer_DeleteSrcVC4(uint32_t chip, uint32_t dir, uint32_t vc4);
+VQ6192_API uint32_t VQ6192_Framer_SelectSrcVC4DisIngTs(uint32_t chip, uint32_t dir, uint32_t vc4,
+                                                       uint32_t svcChnl, uint32_t svcType);
+VQ6192_API uint32_t VQ6192_Framer_DeleteSrcVC4DisIngTs(uint32_t chip, uint32_t dir, uint32_t vc4);
+VQ6192_API uint32_t VQ6192_Framer_SetTsVc4En(uint32_t chip, uint32_t dir, uint32_t vc4, uint32_t en);
+VQ6192_API uint32_t VQ6192_Framer_GetTsVc4En(uint32_t chip, uint32_t dir, uint32_t vc4, uint16_t *en);
+
+/* Readers. */
+VQ6192_API uint32_t VQ6192_Framer_GetTsCfg(uint32_t chip, uint32_t dir, uint32_t e1, uint32_t ts,
+                                           uint16_t *svcChnl, uint8_t *svcType, uint32_t *speed, uint8_t *en);
+VQ6192_API uint32_t VQ6192_Framer_GetTsCfg2(VQ6192_FRM_TS_CFG_S *cfg);
+VQ6192_API uint32_t VQ6192_Framer_GetE3TsCfg(uint32_t chip, uint32_t dir, uint32_t e3, uint16_t *svcChnl,
+                                             uint8_t *svcType, uint32_t *speed, uint8_t *en);
+VQ6192_API uint32_t VQ6192_Framer_GetVC4TsCfg(uint32_t chip, uint32_t dir, uint32_t vc4, uint16_t *svcChnl,
+                                              uint8_t *svcType, uint32_t *speed, uint8_t *en);
+
+/* Switch-side controls. */
+VQ6192_API uint32_t VQ6192_Framer_SetTSSMode(uint32_t chip, uint32_t e1, uint32_t mode);
+VQ6192_API uint32_t VQ6192_Framer_GetTSSMode(uint32_t chip, uint32_t e1, uint32_t *mode);
+VQ6192_API uint32_t VQ6192_Framer_SetTSPayLoad(uint32_t chip, uint32_t vc4, uint32_t payload);
+VQ6192_API uint32_t VQ6192_Framer_GetTSPayLoad(uint32_t chip, uint32_t vc4, uint32_t *payload);
+VQ6192_API uint32_t VQ6192_Framer_SetTSSource(uint32_t chip, uint32_t dir, uint32_t src, uint32_t value);
+VQ6192_API uint32_t VQ6192_Framer_GetTSSource(uint32_t chip, uint32_t dir, uint32_t src, uint32_t *value);
+VQ6192_API uint32_t VQ6192_SetTsUxcEnable(uint32_t chip, uint32_t idx, uint32_t en);
+VQ6192_API uint32_t VQ6192_GetTsUxcEnable(uint32_t chip, uint32_t idx, uint32_t *en);
+VQ6192_API uint32_t VQ6192_GetTsUxcRegVal(uint32_t chip, uint16_t *val);
+VQ6192_API uint32_t VQ6192_Framer_SetTsEgDefaultByte(uint32_t chip, uint32_t e1, uint32_t byte);
+VQ6192_API uint32_t VQ6192_Framer_GetTsEgDefaultByte(uint32_t chip, uint32_t e1, uint8_t *byte);
+VQ6192_API uint32_t VQ6192_Framer_SetTsLoop(uint32_t chip, uint32_t loopPoint, uint32_t chnl,
+                                            uint32_t loopMode);
+VQ6192_API uint32_t VQ6192_Framer_GetTsLoop(uint32_t chip, uint32_t loopPoint, uint32_t chnl,
+                                            uint8_t *loopState);
+VQ6192_API uint32_t VQ6192_Framer_SetHTBLoop(uint32_t chip, uint32_t zero, uint32_t idx, uint32_t kind,
+                                             uint32_t loopMode);
+VQ6192_API uint32_t VQ6192_Framer_GetHTBLoop(uint32_t chip, uint32_t zero, uint32_t idx, uint32_t kind,
+                                             uint8_t *loopState);
+VQ6192_API uint32_t VQ6192_Framer_ResetRfp(uint32_t chip, uint32_t value);
+VQ6192_API uint32_t VQ6192_Framer_GetResetRfpState(uint32_t chip, uint8_t *state);
+VQ6192_API uint32_t VQ6192_Framer_SetRfpEnableOnOff(uint32_t chip, uint32_t dropIntEn, uint32_t errIntEn,
+                                                    uint32_t jitVldEn, uint32_t shiftEn);
+VQ6192_API uint32_t VQ6192_Framer_GetRfpEnableOnOff(uint32_t chip, uint8_t *dropIntEn, uint8_t *errIntEn,
+                                                    uint8_t *jitVldEn, uint8_t *shiftEn);
+VQ6192_API uint32_t VQ6192_Framer_SetRfpDelay(uint32_t chip, uint32_t delay);
+VQ6192_API uint32_t VQ6192_Framer_GetRfpDelay(uint32_t chip, uint16_t *delay);
+VQ6192_API uint32_t VQ6192_Framer_GetRfpAlm(uint32_t chip, uint8_t *a, uint8_t *b, uint8_t *c, uint8_t *d);
+VQ6192_API uint32_t VQ6192_Framer_SetMapDelayTime(uint32_t chip, uint32_t idx, uint32_t time);
+VQ6192_API uint32_t VQ6192_Framer_GetMapDelayTime(uint32_t chip, uint32_t idx, uint16_t *time);
+
+/* ---- PRBS test engines --------------------------------------------------------------------------
+ * Path types: 0 and 1 E1/T1 paths, 2 and 3 E3/T3 or VC-4 paths (0..11). */
+typedef struct {
+    uint32_t ulSel;
+    uint32_t ulMode;
+    uint32_t ulFlag;
+    uint32_t ulPattern;
+    uint16_t usPath;
+    uint8_t ucEnFlag;
+} VQ6192_FRM_PRBS_INS_ATTR_S;
+
+typedef struct {
+    uint32_t ulMode;
+    uint32_t ulFlag;
+    uint32_t ulPattern;
+    uint16_t usET3Path;
+    uint16_t usPath;
+} VQ6192_FRM_PRBS_CHK_ATTR_S;
+
+/* Mapper engine. */
+VQ6192_API uint32_t VQ6192_Framer_SetPRBSInsAttr(uint32_t chip, uint32_t pathType,
+                                                 const VQ6192_FRM_PRBS_INS_ATTR_S *gen, uint32_t enable);
+VQ6192_API uint32_t VQ6192_Framer_SetPRBSInsAttrNew(uint32_t chip, uint32_t pathType,
+                                                    const VQ6192_FRM_PRBS_INS_ATTR_S *gen, uint32_t enable);
+VQ6192_API uint32_t VQ6192_Framer_GetPRBSInsAttr(uint32_t chip, uint32_t pathType,
+                                                 VQ6192_FRM_PRBS_INS_ATTR_S *gen, uint8_t *enable);
+VQ6192_API uint32_t VQ6192_Framer_SetPRBSChkAttr(uint32_t chip, const VQ6192_FRM_PRBS_CHK_ATTR_S *chk,
+                                                 uint32_t enable);
+VQ6192_API uint32_t VQ6192_Framer_SetPRBSChkAttrNew(uint32_t chip, const VQ6192_FRM_PRBS_CHK_ATTR_S *chk,
+                                                    uint32_t enable);
+VQ6192_API uint32_t VQ6192_Framer_GetPRBSChkAttr(uint32_t chip, VQ6192_FRM_PRBS_CHK_ATTR_S *chk,
+                                                 uint8_t *enable);
+VQ6192_API uint32_t VQ6192_Framer_SetPrbsErrInsert(uint32_t chip, uint32_t mode, uint32_t rate,
+                                                   uint32_t enable);
+VQ6192_API uint32_t VQ6192_Framer_GetPrbsErrInsert(uint32_t chip, uint32_t *rate, uint8_t *enable);
+VQ6192_API uint32_t VQ6192_Framer_GetPRBSAlm(uint32_t chip, uint16_t alarms[4]);
+VQ6192_API uint32_t VQ6192_Framer_GetPRBSErrCnt(uint32_t chip, uint16_t *count);
+
+/* Timeslot engine. */
+VQ6192_API uint32_t VQ6192_Framer_SetTsPRBSInsAttr(uint32_t chip, uint32_t pathType,
+                                                   const VQ6192_FRM_PRBS_INS_ATTR_S *gen, uint32_t enable);
+VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSInsAttr(uint32_t chip, uint32_t pathType,
+                                                   VQ6192_FRM_PRBS_INS_ATTR_S *gen, uint8_t *enable);
+VQ6192_API uint32_t VQ6192_Framer_SetTsPRBSChkAttr(uint32_t chip, uint32_t pathType,
+                                                   const VQ6192_FRM_PRBS_CHK_ATTR_S *chk, uint32_t enable);
+VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSChkAttr(uint32_t chip, uint32_t pathType,
+                                                   VQ6192_FRM_PRBS_CHK_ATTR_S *chk, uint8_t *enable);
+VQ6192_API uint32_t VQ6192_Framer_SetTsPRBSIns(uint32_t chip, uint32_t mode, uint32_t rate, uint32_t enable);
+VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSIns(uint32_t chip, uint32_t *reInsRate, uint8_t *reInsEnable);
+VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSAlm(uint32_t chip, uint16_t alarms[3]);
+VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSErrCnt(uint32_t chip, uint16_t *count);
+
+/* CES timeslots under PRBS test. */
+VQ6192_API uint32_t VQ6192_Framer_SetTsCesPrbsCfg(uint32_t chip, uint32_t pathType, uint32_t dir, uint32_t e1,
+                                                  uint32_t tsMask, uint32_t cesChnl);
+VQ6192_API uint32_t VQ6192_Framer_GetTsCesPrbsCfg(uint32_t chip, uint32_t pathType, uint32_t dir, uint32_t e1,
+                                                  uint32_t *tsBitmap, uint16_t *cesChnl);
 
 VQ6192_EXTERN_C_END
 

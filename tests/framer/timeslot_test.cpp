@@ -1,0 +1,379 @@
+// The timeslot tables: entries written for every service type, speed and direction, deletion, the
+// readers' decoding, failures inside multi-timeslot writes, and the switch-side controls.
+#include <chrono>
+
+#include "support/test_support.h"
+#include "vq6192/framer.h"
+#include "vq6192/ppp.h"
+
+namespace {
+
+using vq6192::sim::BusOp;
+using vq6192::sim::TableEngine;
+using vqtest::ChipTest;
+
+constexpr uint32_t kParaErr = 0x030E0001;
+constexpr uint32_t kTsBlock = 0x10ab;
+constexpr uint32_t kIngressSelect = 0;
+constexpr uint32_t kEgressSelect = 1;
+
+class TimeslotTest : public ChipTest {
+  protected:
+    uint16_t entry(uint32_t select, uint32_t source, uint32_t ts) {
+        return model.tables().entry(kTsBlock, select, (source << 5) | ts)[0];
+    }
+    void setEntry(uint32_t select, uint32_t source, uint32_t ts, uint16_t value) {
+        TableEngine::Entry e{};
+        e[0] = value;
+        model.tables().setEntry(kTsBlock, select, (source << 5) | ts, e);
+    }
+    void TearDown() override {
+        g_uiPrbsFlag[kChip] = 0;
+        ChipTest::TearDown();
+    }
+};
+
+TEST_F(TimeslotTest, E1EntriesForEveryServiceTypeSpeedAndDirection) {
+    model.poke(0x10048, 0x2);  // VC-4 PPP channel 1 enabled: PPP channel 1 is inner 0x200
+    struct Case {
+        uint32_t svcType, svcChnl, speed;
+        uint16_t ingress, egress;  // the entries of each direction
+    };
+    const Case cases[] = {
+        {2, 7, 3, 0xB807, 0xB807},    // ATM, 64k
+        {2, 7, 4, 0xA007, 0xA007},    // ATM, 8k
+        {2, 511, 0, 0xA9FF, 0xA9FF},  // ATM, 16k
+        {2, 300, 1, 0xB12C, 0xB12C},  // ATM, 32k
+        {3, 351, 3, 0x995F, 0x995F},  // CES
+        {4, 7, 3, 0x7807, 0x7807},    // none: no En
+        {1, 1, 3, 0xDA00, 0xDA00},    // PPP through the enabled VC-4 channel
+        {1, 37, 1, 0xD025, 0xD025},   // ordinary PPP channel
+    };
+    for (const Case &c : cases) {
+        for (uint32_t dir : {0u, 1u, 2u}) {
+            SCOPED_TRACE(testing::Message() << "type " << c.svcType << " chnl " << c.svcChnl << " speed "
+                                            << c.speed << " dir " << dir);
+            model.tables().clear();
+            const uint32_t bitmap = 0x80000005u;  // timeslots 0, 2 and 31
+            ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, dir, 123, c.svcChnl, c.svcType, bitmap, c.speed), 0u);
+            for (uint32_t ts = 0; ts < 32; ++ts) {
+                const bool selected = (bitmap >> ts & 1u) != 0;
+                EXPECT_EQ(entry(kIngressSelect, 123, ts), selected && dir != 1 ? c.ingress : 0)
+                    << "ts " << ts;
+                EXPECT_EQ(entry(kEgressSelect, 123, ts), selected && dir != 0 ? c.egress : 0) << "ts " << ts;
+            }
+        }
+    }
+    // The documented example: entries 160 and 161 of both tables.
+    model.tables().clear();
+    ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 2, 0x3, 3), 0u);
+    EXPECT_EQ(model.tables().entry(kTsBlock, 0, 160)[0], 0xB807);
+    EXPECT_EQ(model.tables().entry(kTsBlock, 1, 161)[0], 0xB807);
+}
+
+TEST_F(TimeslotTest, RoutesEveryTimeslotOfEveryTributaryInUnderASecond) {
+    const auto start = std::chrono::steady_clock::now();
+    for (uint32_t e1 = 0; e1 < VQ6192_FRM_E1_NUM; ++e1) {
+        ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 0, e1, e1 % 352, 3, 0xFFFFFFFFu, 3), 0u);
+    }
+    for (uint32_t e1 = 0; e1 < VQ6192_FRM_E1_NUM; ++e1) {
+        for (uint32_t ts = 0; ts < 32; ++ts) {
+            uint16_t chnl = 0;
+            uint8_t type = 0, en = 0;
+            uint32_t speed = 0;
+            ASSERT_EQ(VQ6192_Framer_GetTsCfg(kChip, 0, e1, ts, &chnl, &type, &speed, &en), 0u);
+            ASSERT_EQ(chnl, e1 % 352);
+        }
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+}
+
+TEST_F(TimeslotTest, AllTimeslotsAndDeletionBackToTheClearedEntry) {
+    ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 335, 100, 3, 0xFFFFFFFFu, 3), 0u);
+    for (uint32_t ts = 0; ts < 32; ++ts) {
+        EXPECT_EQ(entry(kIngressSelect, 335, ts), 0x9864);
+        EXPECT_EQ(entry(kEgressSelect, 335, ts), 0x9864);
+    }
+    ASSERT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 1, 335, 0x0000FFFFu), 0u);
+    ASSERT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 3, 335, 0xFFFFFFFFu), 0u) << "direction 3 clears nothing";
+    for (uint32_t ts = 0; ts < 32; ++ts) {
+        EXPECT_EQ(entry(kIngressSelect, 335, ts), 0x9864);
+        EXPECT_EQ(entry(kEgressSelect, 335, ts), ts < 16 ? 0x7800 : 0x9864);
+    }
+    EXPECT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 4, 335, 1), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 0, 336, 1), kParaErr);
+}
+
+TEST_F(TimeslotTest, SelectionRefusalsWriteNothing) {
+    model.setTrace(true);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 2, 0x3, 2), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 2, 0x3, 5), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 336, 7, 2, 0x3, 3), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 512, 2, 0x3, 3), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 0, 0x3, 3), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 5, 0x3, 3), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 2, 12, 7, 2), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 2, 0, 7, 4), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 4, 0, 2), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 0, 4, 2), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 0, 0x300, 2), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SetTSTab(kChip, 0, 0, 0, nullptr), kParaErr);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+TEST_F(TimeslotTest, AFailingTimeslotWriteDoesNotStopTheOthers) {
+    // Egress only: one table write per timeslot. The third write cannot take the chip semaphore.
+    VQ6192_Platform_FailSemTakes(2, 1);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 1, 40, 9, 2, 0x1F, 3), 0x030E0004u);
+    for (uint32_t ts = 0; ts < 5; ++ts) {
+        EXPECT_EQ(entry(kEgressSelect, 40, ts), ts == 2 ? 0 : 0xB809) << "ts " << ts;
+    }
+    EXPECT_EQ(capture.traceTexts().back(),
+              "Err. VQ6192_Framer_SelectSrcE1.SetTSTab(3,40,1,2)       ErrCode[0x30e0004]\r\n");
+    // Both directions: the ingress write of timeslot 1 fails and its egress half is skipped.
+    model.tables().clear();
+    VQ6192_Platform_FailSemTakes(2, 1);
+    EXPECT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 2, 40, 0x3), 0x030E0004u);
+    EXPECT_EQ(entry(kIngressSelect, 40, 0), 0x7800);
+    EXPECT_EQ(entry(kEgressSelect, 40, 0), 0x7800);
+    EXPECT_EQ(entry(kIngressSelect, 40, 1), 0);
+    EXPECT_EQ(entry(kEgressSelect, 40, 1), 0) << "a direction-2 write stops at its failing half";
+}
+
+TEST_F(TimeslotTest, CesEntriesCarryThePrbsMark) {
+    g_uiPrbsFlag[kChip] = 1;
+    ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 7, 20, 3, 0x2, 3), 0u);
+    EXPECT_EQ(entry(kIngressSelect, 7, 1), 0x9A14);
+    g_uiPrbsFlag[kChip] = 0;
+    ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 7, 20, 3, 0x4, 3), 0u);
+    EXPECT_EQ(entry(kIngressSelect, 7, 2), 0x9814);
+    uint16_t chnl = 0;
+    uint8_t type = 0, en = 0;
+    uint32_t speed = 0;
+    ASSERT_EQ(VQ6192_Framer_GetTsCfg(kChip, 2, 7, 1, &chnl, &type, &speed, &en), 0u);
+    EXPECT_EQ(chnl, 20) << "the reader drops the PRBS mark";
+    EXPECT_EQ(type, 3);
+    EXPECT_EQ(speed, 3u);
+    EXPECT_EQ(en, 1);
+}
+
+TEST_F(TimeslotTest, ReadersDecodeEveryKindOfEntry) {
+    model.poke(0x10048, 0x4);  // VC-4 PPP channel 2 enabled
+    struct Case {
+        uint16_t raw;
+        uint16_t chnl;
+        uint8_t type;
+        uint32_t speed;
+        uint8_t en;
+    };
+    const Case cases[] = {
+        {0xB807, 7, 2, 3, 1},     // ATM 64k
+        {0x9A14, 20, 3, 3, 1},    // CES, PRBS mark dropped
+        {0xC400, 2, 1, 0, 1},     // PPP inner 0x400 back to VC-4 channel 2, 8k
+        {0xD0FF, 0xFF, 1, 2, 1},  // ordinary PPP channel
+        {0x7800, 0, 4, 3, 0},     // cleared
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(testing::Message() << std::hex << c.raw);
+        setEntry(kIngressSelect, 99, 17, c.raw);
+        uint16_t chnl = 0;
+        uint8_t type = 0, en = 9;
+        uint32_t speed = 9;
+        ASSERT_EQ(VQ6192_Framer_GetTsCfg(kChip, 0, 99, 17, &chnl, &type, &speed, &en), 0u);
+        EXPECT_EQ(chnl, c.chnl);
+        EXPECT_EQ(type, c.type);
+        EXPECT_EQ(speed, c.speed);
+        EXPECT_EQ(en, c.en);
+    }
+    // The record form.
+    VQ6192_FRM_TS_CFG_S cfg{kChip, 0, 99, 17, 0, 0, 0, 0};
+    ASSERT_EQ(VQ6192_Framer_GetTsCfg2(&cfg), 0u);
+    EXPECT_EQ(cfg.ucSvcType, 4);
+    EXPECT_EQ(VQ6192_Framer_GetTsCfg2(nullptr), 0x000E0001u);
+    // Direction 2 must agree; another direction answers the empty defaults.
+    setEntry(kEgressSelect, 99, 17, 0xB807);
+    uint16_t chnl = 0;
+    uint8_t type = 0, en = 9;
+    uint32_t speed = 9;
+    EXPECT_EQ(VQ6192_Framer_GetTsCfg(kChip, 2, 99, 17, &chnl, &type, &speed, &en), 0x030E0007u);
+    EXPECT_EQ(capture.traceTexts().back(),
+              "Err. VQ6192_Framer_GetTsCfg(3,99,17).aulIngData and aulEgData not equal\n");
+    ASSERT_EQ(VQ6192_Framer_GetTsCfg(kChip, 3, 99, 17, &chnl, &type, &speed, &en), 0u);
+    EXPECT_EQ((std::vector<uint32_t>{chnl, type, speed, en}), (std::vector<uint32_t>{0, 3, 0, 0}));
+    EXPECT_EQ(VQ6192_Framer_GetTsCfg(kChip, 0, 336, 0, &chnl, &type, &speed, &en), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_GetTsCfg(kChip, 0, 1, 0, &chnl, nullptr, &speed, &en), kParaErr);
+    // A table read that times out.
+    model.tables().holdBusy(kTsBlock, TableEngine::kForever);
+    EXPECT_EQ(VQ6192_Framer_GetTsCfg(kChip, 1, 99, 17, &chnl, &type, &speed, &en), 0x030E0004u);
+    ASSERT_FALSE(capture.traces.empty());
+    EXPECT_EQ(capture.traces.back().module, uint32_t{VQ6192_MODULE_CES});
+    EXPECT_EQ(capture.traces.back().text,
+              "Err. VQ6192_Framer_GetTsCfg.VQ6192_Read_Table(3,99,17)       ErrCode[0x30c0003]\r\n");
+}
+
+TEST_F(TimeslotTest, E3AndVc4Entries) {
+    model.poke(0x10048, 0x2);
+    ASSERT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 2, 4, 9, 2), 0u);
+    EXPECT_EQ(entry(kIngressSelect, 340, 0), 0xB809);
+    ASSERT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 0, 5, 9, 1), 0u);
+    EXPECT_EQ(entry(kIngressSelect, 341, 0), 0xD809);
+    ASSERT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 1, 6, 6, 3), 0u);
+    EXPECT_EQ(entry(kEgressSelect, 342, 0), 0x9800 | 342);
+    ASSERT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 7, 7, 9, 2), 0u) << "direction not tested, nothing written";
+    EXPECT_EQ(entry(kIngressSelect, 343, 0), 0);
+
+    ASSERT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 1, 2, 2), 0u);
+    EXPECT_EQ(model.tables().entry(kTsBlock, 0, 349 << 5)[0], 0xB8A8);
+    EXPECT_EQ(model.tables().entry(kTsBlock, 1, 349 << 5)[0], 0xB8A8);
+    ASSERT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 2, 1, 1), 0u);
+    EXPECT_EQ(entry(kIngressSelect, 350, 0), 0xDA00) << "VC-4 PPP channel 1 is inner 0x200";
+    ASSERT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 0, 3, 3, 3), 0u);
+    EXPECT_EQ(entry(kIngressSelect, 351, 0), 0x9800 | 351);
+
+    uint16_t chnl = 0;
+    uint8_t type = 0, en = 0;
+    uint32_t speed = 0;
+    ASSERT_EQ(VQ6192_Framer_GetVC4TsCfg(kChip, 2, 1, &chnl, &type, &speed, &en), 0u);
+    EXPECT_EQ((std::vector<uint32_t>{chnl, type, speed, en}), (std::vector<uint32_t>{168, 2, 3, 1}));
+    ASSERT_EQ(VQ6192_Framer_GetE3TsCfg(kChip, 0, 5, &chnl, &type, &speed, &en), 0u);
+    EXPECT_EQ((std::vector<uint32_t>{chnl, type}), (std::vector<uint32_t>{9, 1}));
+    EXPECT_EQ(VQ6192_Framer_GetE3TsCfg(kChip, 2, 6, &chnl, &type, &speed, &en), 0x030E0007u)
+        << "ingress empty";
+
+    ASSERT_EQ(VQ6192_Framer_DeleteSrcVC4(kChip, 2, 1), 0u);
+    EXPECT_EQ(model.tables().entry(kTsBlock, 0, 349 << 5)[0], 0x7800);
+    ASSERT_EQ(VQ6192_Framer_DeleteSrcE3(kChip, 0, 4), 0u);
+    EXPECT_EQ(entry(kIngressSelect, 340, 0), 0x7800);
+    // Reading both directions of differing entries.
+    uint32_t raw = 0;
+    EXPECT_EQ(VQ6192_Framer_GetVC4TSTab(kChip, 3, 2, &raw), 0x030E0007u);
+    EXPECT_EQ(capture.traceTexts().back(),
+              "Err. VQ6192_Framer_GetVC4TSTab(3,3,2).aulIngData and aulEgData not equal\n");
+    ASSERT_EQ(VQ6192_Framer_GetVC4TSTab(kChip, 3, 0, &raw), 0u);
+    EXPECT_EQ(raw, 0x9800u | 351);
+}
+
+TEST_F(TimeslotTest, Vc4SelectionThatLeavesTheIngressEnableAlone) {
+    setEntry(kIngressSelect, 348, 0, 0x0000);  // ingress disabled
+    setEntry(kEgressSelect, 348, 0, 0x8000);
+    ASSERT_EQ(VQ6192_Framer_SelectSrcVC4DisIngTs(kChip, 0, 0, 0x200, 3), 0u);
+    EXPECT_EQ(entry(kIngressSelect, 348, 0), 0x1800 | ((0x200 + 348) & 0x7FF));
+    EXPECT_EQ(entry(kEgressSelect, 348, 0), 0x9800 | ((0x200 + 348) & 0x7FF));
+    // Direction 1: the egress enable is set afterwards.
+    setEntry(kEgressSelect, 349, 0, 0x0000);
+    ASSERT_EQ(VQ6192_Framer_SelectSrcVC4DisIngTs(kChip, 1, 1, 1, 2), 0u);
+    EXPECT_EQ(entry(kIngressSelect, 349, 0), 0x3854);
+    EXPECT_EQ(entry(kEgressSelect, 349, 0), 0xB854);
+    uint16_t en = 0;
+    ASSERT_EQ(VQ6192_Framer_GetTsVc4En(kChip, 1, 1, &en), 0u);
+    EXPECT_EQ(en, 1);
+    // Deletion keeps the enables but for the egress one of directions 1 and 2.
+    setEntry(kIngressSelect, 349, 0, 0xB854);
+    ASSERT_EQ(VQ6192_Framer_DeleteSrcVC4DisIngTs(kChip, 2, 1), 0u);
+    EXPECT_EQ(entry(kIngressSelect, 349, 0), 0xF800);
+    EXPECT_EQ(entry(kEgressSelect, 349, 0), 0x7800);
+    // A failing read is error 4, a failing write error 7.
+    model.tables().holdBusy(kTsBlock, TableEngine::kForever);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcVC4DisIngTs(kChip, 0, 0, 0, 2), 0x030E0004u);
+    model.tables().holdBusy(kTsBlock, 0);
+    VQ6192_Platform_FailSemTakes(2, 1);  // two reads, then the ingress write
+    EXPECT_EQ(VQ6192_Framer_SelectSrcVC4DisIngTs(kChip, 0, 0, 0, 2), 0x030E0007u);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcVC4DisIngTs(kChip, 3, 0, 0, 2), kParaErr);
+}
+
+TEST_F(TimeslotTest, SwitchSideControls) {
+    // TSS mode: channel 37 is register 0x2004 bit 5.
+    ASSERT_EQ(VQ6192_Framer_SetTSSMode(kChip, 37, 1), 0u);
+    EXPECT_EQ(model.peek(0x2004), 1 << 5);
+    uint32_t v = 0;
+    ASSERT_EQ(VQ6192_Framer_GetTSSMode(kChip, 37, &v), 0u);
+    EXPECT_EQ(v, 1u);
+    EXPECT_EQ(VQ6192_Framer_SetTSSMode(kChip, 336, 1), kParaErr);
+
+    ASSERT_EQ(VQ6192_Framer_SetTSPayLoad(kChip, 3, 2), 0u);
+    EXPECT_EQ(model.peek(0x2032), 2);
+    ASSERT_EQ(VQ6192_Framer_GetTSPayLoad(kChip, 3, &v), 0u);
+    EXPECT_EQ(v, 2u);
+
+    ASSERT_EQ(VQ6192_Framer_SetTSSource(kChip, 2, 3, 1), 0u);
+    EXPECT_EQ(model.peek(0x2034), 8);
+    EXPECT_EQ(model.peek(0x2036), 8);
+    ASSERT_EQ(VQ6192_Framer_SetTSSource(kChip, 0, 3, 0), 0u);
+    EXPECT_EQ(VQ6192_Framer_GetTSSource(kChip, 2, 3, &v), 0x030E0007u);
+    EXPECT_EQ(v, 1u) << "the egress value";
+    EXPECT_EQ(capture.traceTexts().back(),
+              "Err. VQ6192_Framer_GetTSSource(3,2,3)    usIngGetVal[0] != usEgGetVal[1]\r\n");
+    ASSERT_EQ(VQ6192_SetTsUxcEnable(kChip, 1, 1), 0u);
+    uint16_t reg = 0;
+    ASSERT_EQ(VQ6192_GetTsUxcRegVal(kChip, &reg), 0u);
+    EXPECT_EQ(reg, 2);
+
+    ASSERT_EQ(VQ6192_Framer_SetTsEgDefaultByte(kChip, 3, 0x55), 0u);
+    ASSERT_EQ(VQ6192_Framer_SetTsEgDefaultByte(kChip, 300, 0xD5), 0u);
+    uint8_t byte = 0;
+    ASSERT_EQ(VQ6192_Framer_GetTsEgDefaultByte(kChip, 3, &byte), 0u);
+    EXPECT_EQ(byte, 0xD5) << "chip-wide: the second call wins";
+
+    EXPECT_EQ(VQ6192_Framer_SetMapDelayTime(kChip, 0, 19440), kParaErr);
+    ASSERT_EQ(VQ6192_Framer_SetMapDelayTime(kChip, 3, 19439), 0u);
+    EXPECT_EQ(model.peek(0x20806), 19439);
+    uint16_t t = 0;
+    ASSERT_EQ(VQ6192_Framer_GetMapDelayTime(kChip, 3, &t), 0u);
+    EXPECT_EQ(t, 19439);
+
+    ASSERT_EQ(VQ6192_Framer_ResetRfp(kChip, 1), 0u);
+    ASSERT_EQ(VQ6192_Framer_SetRfpEnableOnOff(kChip, 1, 0, 1, 0), 0u);
+    ASSERT_EQ(VQ6192_Framer_SetRfpDelay(kChip, 0x7FFF), 0u);
+    EXPECT_EQ(model.peek(0x20004), 2);
+    EXPECT_EQ(model.peek(0x20006), 4);
+    EXPECT_EQ(model.peek(0x20010), 2);
+    EXPECT_EQ(model.peek(0x20008), 0x7FFF);
+    model.poke(0x20012, 0x0012);  // bits 1 and 4
+    uint8_t a = 0, b = 0, c = 0, d = 0;
+    ASSERT_EQ(VQ6192_Framer_GetRfpAlm(kChip, &a, &b, &c, &d), 0u);
+    EXPECT_EQ((std::vector<uint8_t>{a, b, c, d}), (std::vector<uint8_t>{1, 1, 0, 0}));
+}
+
+TEST_F(TimeslotTest, TimeslotAndTelecomBusLoops) {
+    struct Case {
+        uint32_t point, chnl, inReg, inBit, outReg, outBit;  // outReg 0: none
+    };
+    const Case cases[] = {
+        {0, 22, 0x25AA, 1, 0x25A8, 1},  // internal E1 number 22: AU-3 group 1
+        {1, 11, 0x25AE, 11, 0x25AC, 11},
+        {2, 99, 0x2038, 0, 0, 0},
+        {3, 99, 0x25B0, 0, 0x25B0, 1},
+    };
+    for (const Case &c : cases) {
+        for (uint32_t mode = 0; mode < 3; ++mode) {
+            SCOPED_TRACE(testing::Message() << "point " << c.point << " mode " << mode);
+            ASSERT_EQ(VQ6192_Framer_SetTsLoop(kChip, c.point, c.chnl, mode), 0u);
+            EXPECT_EQ((model.peek(c.inReg) >> c.inBit) & 1, mode == 1 ? 1 : 0);
+            if (c.outReg != 0) {
+                EXPECT_EQ((model.peek(c.outReg) >> c.outBit) & 1, mode == 2 ? 1 : 0);
+            }
+            uint8_t state = 9;
+            ASSERT_EQ(VQ6192_Framer_GetTsLoop(kChip, c.point, c.chnl, &state), 0u);
+            EXPECT_EQ(state, c.outReg == 0 && mode == 2 ? 0 : mode);
+        }
+    }
+    EXPECT_EQ(VQ6192_Framer_SetTsLoop(kChip, 0, 336, 1), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SetTsLoop(kChip, 1, 12, 1), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SetTsLoop(kChip, 4, 0, 1), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SetTsLoop(kChip, 2, 0, 3), kParaErr);
+
+    ASSERT_EQ(VQ6192_Framer_SetHTBLoop(kChip, 0, 0, 0, 1), 0u);
+    EXPECT_EQ(model.peek(0x2A020), 2);
+    ASSERT_EQ(VQ6192_Framer_SetHTBLoop(kChip, 0, 83, 1, 2), 0u);
+    EXPECT_EQ(model.peek(0x2A080 + 0x40 * 83), 4);
+    uint8_t state = 0;
+    ASSERT_EQ(VQ6192_Framer_GetHTBLoop(kChip, 0, 83, 1, &state), 0u);
+    EXPECT_EQ(state, 2);
+    model.poke(0x2A080, 0x24);  // both loops of tributary 0
+    EXPECT_EQ(VQ6192_Framer_GetHTBLoop(kChip, 0, 0, 1, &state), 0x030E0004u);
+    EXPECT_EQ(state, 3);
+    EXPECT_EQ(VQ6192_Framer_SetHTBLoop(kChip, 1, 0, 0, 1), kParaErr);
+    EXPECT_EQ(VQ6192_Framer_SetHTBLoop(kChip, 0, 84, 1, 1), kParaErr);
+}
+
+}  // namespace
