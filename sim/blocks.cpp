@@ -1,10 +1,18 @@
 // Every block model of the chip, created with each chip model: one line per block.
 #include "vq6192/sim.h"
+#include "vq6192/sim/chip_control.h"
+#include "vq6192/sim/ddr.h"
 #include "vq6192/sim/framers.h"
+#include "vq6192/sim/interrupts.h"
+#include "vq6192/sim/ram_bist.h"
 
 namespace vq6192::sim {
 
 void installBlocks(ChipModel &model) {
+    model.block<ChipControlBlock>();
+    model.block<InterruptBlock>();
+    model.block<RamBistBlock>();
+    model.block<DdrBlock>();
     model.block<Framers>();
 }
 

@@ -146,12 +146,12 @@ TEST_F(HostPathTest, PlainAndFieldAccessesReachTheModelUnscaled) {
 }
 
 TEST_F(HostPathTest, WidthZeroStillReadsAndWrites) {
-    model.poke(0x100, 0x1234);
+    model.poke(0x300, 0x1234);
     model.setTrace(true);
-    VQ6192_WriteRegField(kChip, 0x100, 0xFFFF, 3, 0);
-    EXPECT_EQ(model.peek(0x100), 0x1234);
-    const std::vector<BusAccess> expected = {{BusOp::Read, 0x100, 0x1234, 0, 16},
-                                             {BusOp::Write, 0x100, 0x1234, 0, 16}};
+    VQ6192_WriteRegField(kChip, 0x300, 0xFFFF, 3, 0);
+    EXPECT_EQ(model.peek(0x300), 0x1234);
+    const std::vector<BusAccess> expected = {{BusOp::Read, 0x300, 0x1234, 0, 16},
+                                             {BusOp::Write, 0x300, 0x1234, 0, 16}};
     EXPECT_EQ(model.trace(), expected);
 }
 

@@ -85,7 +85,7 @@ TEST_F(ShellSession, BadInputGetsOneLineErrors) {
         EXPECT_EQ(err.str(), c.error) << c.line;
     }
     // A failing command does not stop the others on the line.
-    EXPECT_EQ(run("nosuch; rr 0 2", false), "0x00000002 = 0x0000\n");
+    EXPECT_EQ(run("nosuch; rr 0 0x300", false), "0x00000300 = 0x0000\n");
 }
 
 TEST_F(ShellSession, HelpAndQuit) {

@@ -1,0 +1,289 @@
+// DDR controller: the 9-step scan, statistics, FIFO flags, CRC counters and the 64-byte block access.
+#include <cstddef>
+#include <cstring>
+
+#include "chip_fixture.h"
+
+namespace {
+
+using namespace chiptest;
+using Ddr = ChipFixture;
+constexpr uint16_t kPattern[4] = {0x5555, 0xAAAA, 0x5555, 0xAAAA};
+
+TEST_F(Ddr, NineStepScanPassesAfterOneWait) {
+    uint8_t failed = 9;
+    VQ6192_Platform_ResetVirtualTime();
+    const auto t = writes(traced([&] { EXPECT_EQ(VQ6192_Base_DDR9StepTest(kChip, kPattern, &failed), 0u); }));
+    EXPECT_EQ(failed, 0);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 250000u);
+    EXPECT_EQ(t, (std::vector<BusAccess>{wr(0xC000, 1), wr(0xC020, 0), wr(0xC026, 0x5555), wr(0xC028, 0xAAAA),
+                                         wr(0xC02A, 0x5555), wr(0xC02C, 0xAAAA), wr(0xC022, 0x0FFF),
+                                         wr(0xC024, 0xFFFF), wr(0xC020, 1), wr(0xC020, 0), wr(0xC000, 0)}));
+    EXPECT_EQ(ddr().scansStarted(), 1u);
+    EXPECT_EQ(ddr().scanMaxAddr(), g_ulVq6192Ddr9StepTestMaxAddr);
+    EXPECT_EQ(ddr().scanPattern(), (std::array<uint16_t, 4>{0x5555, 0xAAAA, 0x5555, 0xAAAA}));
+}
+
+TEST_F(Ddr, NineStepScanVerdicts) {
+    struct Case {
+        const char *name;
+        uint32_t polls;
+        bool scanError;
+        uint32_t rc;
+        uint8_t failed;
+        uint64_t us;
+        std::string text;
+    };
+    const Case cases[] = {
+        {"done at the fourth poll", 4, false, 0, 0, 1000000, ""},
+        {"done at the last poll", 20, false, 0, 0, 5000000, ""},
+        {"never done", vq6192::sim::DdrBlock::kForever, false, kBaseFailed, 1, 5000000,
+         "Err. VQ6192_Base_DDR9StepTest.  Don't finish ErrCode[0x3010007]\r\n"},
+        {"scan error", 1, true, kBaseFailed, 1, 250000,
+         "Err. VQ6192_Base_DDR9StepTest.  ScanErr[0x53] ErrCode[0x3010007]\r\n"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        ddr().setScanPolls(c.polls);
+        if (c.scanError) {
+            ddr().failScan(0x01234560, 5, {1, 2, 3, 4});
+        } else {
+            ddr().passScan();
+        }
+        for (bool newForm : {false, true}) {
+            capture.clear();
+            VQ6192_Platform_ResetVirtualTime();
+            VQ6192_DDR9STEP_RESULT r{};
+            uint8_t failed = 9;
+            const uint32_t rc = newForm ? VQ6192_Base_DDR9StepTestNew(kChip, kPattern, &r)
+                                        : VQ6192_Base_DDR9StepTest(kChip, kPattern, &failed);
+            EXPECT_EQ(rc, c.rc);
+            EXPECT_EQ(newForm ? r.ucStatus : failed, c.failed);
+            EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), c.us);
+            EXPECT_EQ(capture.traceTexts(),
+                      c.text.empty() ? std::vector<std::string>{} : std::vector{c.text});
+            EXPECT_FALSE(ddr().scanRunning());
+            EXPECT_EQ(model.peek(0xC020) & 1, 0);
+            EXPECT_EQ(model.peek(0xC000) & 1, 0);
+            if (newForm && c.scanError) {
+                EXPECT_EQ(r.wScanErrAddrHigh, 0x0123);
+                EXPECT_EQ(r.wScanErrAddrLow, 0x4560);
+                EXPECT_EQ(std::vector<uint16_t>(r.awScanErrRData, r.awScanErrRData + 4),
+                          (std::vector<uint16_t>{1, 2, 3, 4}));
+                EXPECT_EQ(std::vector<uint16_t>(r.awScanExpRData, r.awScanExpRData + 4),
+                          (std::vector<uint16_t>{0x5555, 0xAAAA, 0x5555, 0xAAAA}));
+            }
+        }
+    }
+}
+
+TEST_F(Ddr, TestStatisticsAfterAScanError) {
+    ddr().failScan(0x0ABCDEF0, 6, {9, 8, 7, 6});
+    uint8_t failed = 0;
+    EXPECT_EQ(VQ6192_Base_DDR9StepTest(kChip, kPattern, &failed), kBaseFailed);
+    model.poke(0xC036, static_cast<uint16_t>(0xA700 | model.peek(0xC036)));
+    model.poke(0xC102, 0xFFFF);
+    model.poke(0xC104, 0x0123);
+    VQ6192_DDR_TEST_STATS s{};
+    EXPECT_EQ(VQ6192_Base_GetDDRTestStats(kChip, &s), 0u);
+    EXPECT_EQ(s.wDdr2cTestCurrSt, 7);
+    EXPECT_EQ(s.wDdr2cTestNextSt, 0xA);
+    EXPECT_EQ(s.wDdr2cRrCurrSt, 0x7FF);
+    EXPECT_EQ(s.wDdr2cRrNextSt, 0x123);
+    EXPECT_EQ(s.dwScanErrAddr, 0x0ABCDEF0u);
+    EXPECT_EQ(s.wScanErrStep, 6);
+    EXPECT_EQ(std::vector<uint16_t>(s.awScanErrRData, s.awScanErrRData + 4),
+              (std::vector<uint16_t>{9, 8, 7, 6}));
+    EXPECT_EQ(std::vector<uint16_t>(s.awScanExpRData, s.awScanExpRData + 4),
+              (std::vector<uint16_t>{0x5555, 0xAAAA, 0x5555, 0xAAAA}));
+}
+
+TEST_F(Ddr, BlockWriteAndReadRoundTripWithAndWithoutSwap) {
+    uint16_t data[32];
+    for (uint16_t k = 0; k < 32; ++k) {
+        data[k] = static_cast<uint16_t>(0x1000 + k);
+    }
+    const uint32_t addr = 0x00123400;
+    auto t = writes(traced([&] { EXPECT_EQ(VQ6192_Base_WriteDdr64Bytes(kChip, addr, data, 64), 0u); }));
+    std::vector<BusAccess> expected = {wr(0xC068, 63), wr(0xC064, 0x0012), wr(0xC066, 0x3400)};
+    for (uint32_t k = 0; k < 32; ++k) {
+        expected.push_back(wr(0xC080 + 2 * k, data[k]));
+    }
+    expected.insert(expected.end(), {wr(0xC062, 0), wr(0xC062, 1), wr(0xC062, 0)});
+    EXPECT_EQ(t, expected);
+    for (uint32_t k = 0; k < 32; ++k) {
+        EXPECT_EQ(ddr().word(addr + 2 * k), data[k]) << k;
+    }
+    EXPECT_EQ(ddr().blockWrites(), 1u);
+
+    uint16_t out[32] = {};
+    EXPECT_EQ(VQ6192_Base_ReadDdr64Bytes(kChip, addr, out, 0, 64), 0u);
+    EXPECT_EQ(std::vector<uint16_t>(out, out + 32), std::vector<uint16_t>(data, data + 32));
+    EXPECT_EQ(VQ6192_Base_ReadDdr64Bytes(kChip, addr, out, 1, 64), 0u);
+    for (uint32_t j = 0; j < 8; ++j) {
+        for (uint32_t i = 0; i < 4; ++i) {
+            EXPECT_EQ(out[4 * j + i], data[4 * j + 3 - i]) << j << " " << i;
+        }
+    }
+    EXPECT_EQ(model.peek(0xC062), 0);
+}
+
+TEST_F(Ddr, BlockLengthIsCountLessOne) {
+    uint16_t data[32];
+    for (uint16_t k = 0; k < 32; ++k) {
+        data[k] = static_cast<uint16_t>(0xA000 + k);
+    }
+    struct Case {
+        uint32_t count;
+        uint16_t length;
+        uint32_t words;
+    };
+    for (const Case &c : {Case{0, 63, 32}, Case{64, 63, 32}, Case{16, 15, 8}, Case{8, 7, 4}, Case{1, 0, 1}}) {
+        SCOPED_TRACE(c.count);
+        ddr().clearMemory();
+        EXPECT_EQ(VQ6192_Base_WriteDdr64Bytes(kChip, 0x400, data, c.count), 0u);
+        EXPECT_EQ(model.peek(0xC068) & 0x3F, c.length);
+        for (uint32_t k = 0; k < 32; ++k) {
+            EXPECT_EQ(ddr().word(0x400 + 2 * k), k < c.words ? data[k] : 0) << k;
+        }
+    }
+}
+
+TEST_F(Ddr, BusyTableTimesOut) {
+    uint16_t data[32] = {};
+    ddr().setCommandBusy(2);
+    VQ6192_Platform_ResetVirtualTime();
+    EXPECT_EQ(VQ6192_Base_WriteDdr64Bytes(kChip, 0, data, 64), 0u);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 20000u);  // two busy polls, 10 ms each
+    EXPECT_TRUE(capture.traceTexts().empty());
+
+    ddr().setCommandBusy(vq6192::sim::DdrBlock::kForever);
+    VQ6192_Platform_ResetVirtualTime();
+    EXPECT_EQ(VQ6192_Base_WriteDdr64Bytes(kChip, 0, data, 64), kBaseFailed);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 90000u);  // 3 x 3 polls
+    EXPECT_EQ(model.peek(0xC062) & 1, 0);
+    EXPECT_EQ(
+        capture.traceTexts(),
+        (std::vector<std::string>{"Err. VQ6192_Base_GetDdrTabWBusy. DDR Write Tab Is Busy! TimeOut \r\n",
+                                  "Err. VQ6192_Base_WriteDdr64Bytes.VQ6192_Base_GetDdrTabWBusy DDR Tab Is "
+                                  "Always Busy! Write Failed! "
+                                  "\r\n"}));
+    capture.clear();
+    uint16_t out[32] = {};
+    EXPECT_EQ(VQ6192_Base_ReadDdr64Bytes(kChip, 0, out, 0, 64), kBaseFailed);
+    EXPECT_EQ(model.peek(0xC062) & 0x10, 0);
+    EXPECT_EQ(
+        capture.traceTexts(),
+        (std::vector<std::string>{
+            "Err. VQ6192_Base_GetDdrTabWBusy. DDR Tab Read Is Busy! TimeOut \r\n",
+            "Err. VQ6192_Base_ReadDdr64Bytes.VQ6192_Base_GetDdrTabRBusy DDR Tab Is Always Busy! Read Failed! "
+            "\r\n"}));
+    // The busy wait alone, with fewer wait rounds.
+    g_ulVQ6192DDRRWWaitTimes = 1;
+    VQ6192_Platform_ResetVirtualTime();
+    EXPECT_EQ(VQ6192_Base_GetDdrTabWBusy(kChip), kBaseTimeout);
+    EXPECT_EQ(VQ6192_Base_GetDdrTabRBusy(kChip), kBaseTimeout);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 60000u);
+    g_ulVQ6192DDRRWWaitTimes = 3;
+}
+
+TEST_F(Ddr, FifoFlagsLandInTheirNamedFields) {
+    struct Case {
+        uint32_t reg, bit;
+        size_t field;  // offset in the record, or SIZE_MAX for a bit the record does not hold
+    };
+    using F = VQ6192_DDR_FIFO_STAT;
+    const Case cases[] = {
+        {0xC004, 10, offsetof(F, bddr2cmpicrcerr)},
+        {0xC004, 0, offsetof(F, bddr2catmcrcerr)},
+        {0xC004, 6, offsetof(F, bddr2cpppicrcerr)},
+        {0xC060, 1, offsetof(F, btabrfull)},
+        {0xC060, 0, offsetof(F, btabwfull)},
+        {0xC100, 3, offsetof(F, brrecfiforerr)},
+        {0xC126, 0, offsetof(F, btabcfifowerr)},
+        {0xC12E, 5, offsetof(F, batmrdfiforerr)},
+        {0xC136, 2, offsetof(F, bpwe3wdfifowerr)},
+        {0xC13E, 1, offsetof(F, bimacfiforerr)},
+        {0xC146, 4, offsetof(F, bcesirdfifowerr)},
+        {0xC14E, 3, offsetof(F, bcesewdfiforerr)},
+        {0xC156, 0, offsetof(F, bcrpcfifowerr)},
+        {0xC15E, 5, offsetof(F, bpppirdfiforerr)},
+        {0xC166, 3, offsetof(F, bpktwdfiforerr)},
+        {0xC166, 0, offsetof(F, bpktcfifowerr)},
+        {0xC16E, 5, offsetof(F, bppperdfiforerr)},
+        {0xC16E, 0, offsetof(F, bpppecfifowerr)},
+        {0xC176, 5, offsetof(F, bppurdfiforerr)},
+        {0xC176, 4, offsetof(F, bppurdfifowerr)},
+        {0xC176, 1, offsetof(F, bppucfiforerr)},
+        {0xC176, 0, offsetof(F, bppucfifowerr)},
+        {0xC176, 2, SIZE_MAX},
+        {0xC004, 11, SIZE_MAX},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(testing::Message() << std::hex << c.reg << " bit " << std::dec << c.bit);
+        model.poke(c.reg, static_cast<uint16_t>(1u << c.bit));
+        F f;
+        std::memset(&f, 7, sizeof f);
+        EXPECT_EQ(VQ6192_Base_GetDDRFifoStats(kChip, &f), 0u);
+        const auto *bytes = reinterpret_cast<const uint8_t *>(&f);
+        for (size_t k = 0; k < sizeof f; ++k) {
+            EXPECT_EQ(bytes[k], k == c.field ? 1 : 0) << k;
+        }
+        model.poke(c.reg, 0);
+    }
+}
+
+TEST_F(Ddr, CrcCountersEightBytesApart) {
+    for (uint16_t k = 0; k < 9; ++k) {
+        model.poke(0xC128 + 8u * k, static_cast<uint16_t>(100 + k));
+    }
+    VQ6192_DDR_CRC_CNT c{};
+    EXPECT_EQ(VQ6192_Base_GetDDRCntStats(kChip, &c), 0u);
+    EXPECT_EQ(c.wDDR2CIMACRCERRCNT, 100);
+    EXPECT_EQ(c.wDDR2CPWE3CRCERRCNT, 101);
+    EXPECT_EQ(c.wDDR2CATMCRCERRCNT, 102);
+    EXPECT_EQ(c.wDDR2CCESICRCERRCNT, 103);
+    EXPECT_EQ(c.wDDR2CCESECRCERRCNT, 104);
+    EXPECT_EQ(c.wDDR2CCRPCRCERRCNT, 105);
+    EXPECT_EQ(c.wDDR2CPPPICRCERRCNT, 106);
+    EXPECT_EQ(c.wDDR2CPKTCRCERRCNT, 107);
+    EXPECT_EQ(c.wDDR2CPPPECRCERRCNT, 108);
+}
+
+TEST_F(Ddr, ParameterErrors) {
+    uint16_t data[32] = {};
+    uint8_t failed = 0;
+    VQ6192_DDR9STEP_RESULT r;
+    const struct {
+        const char *name;
+        std::function<uint32_t()> op;
+    } cases[] = {
+        {"write null", [&] { return VQ6192_Base_WriteDdr64Bytes(kChip, 0, nullptr, 64); }},
+        {"read null", [&] { return VQ6192_Base_ReadDdr64Bytes(kChip, 0, nullptr, 0, 64); }},
+        {"read swap 2", [&] { return VQ6192_Base_ReadDdr64Bytes(kChip, 0, data, 2, 64); }},
+        {"scan null pattern", [&] { return VQ6192_Base_DDR9StepTest(kChip, nullptr, &failed); }},
+        {"scan null result", [&] { return VQ6192_Base_DDR9StepTest(kChip, kPattern, nullptr); }},
+        {"new scan null", [&] { return VQ6192_Base_DDR9StepTestNew(kChip, kPattern, nullptr); }},
+        {"new scan null pattern", [&] { return VQ6192_Base_DDR9StepTestNew(kChip, nullptr, &r); }},
+        {"stats null", [&] { return VQ6192_Base_GetDDRTestStats(kChip, nullptr); }},
+        {"fifo null", [&] { return VQ6192_Base_GetDDRFifoStats(kChip, nullptr); }},
+        {"counters null", [&] { return VQ6192_Base_GetDDRCntStats(kChip, nullptr); }},
+        {"3-step null status",
+         [&] {
+             VQ6192_DDR3STEP_CTX ctx;
+             return VQ6192_Base_DDR3StepTest(kChip, nullptr, &ctx);
+         }},
+        {"3-step null ctx",
+         [&] {
+             uint8_t st[VQ6192_DDR3STEP_STATUS_NUM];
+             return VQ6192_Base_DDR3StepTest(kChip, st, nullptr);
+         }},
+    };
+    for (const auto &c : cases) {
+        expectRefused(c.name, kBasePara, c.op);
+    }
+    expectRefused(
+        "busy chip 264", 0x08010001, [&] { return VQ6192_Base_GetDdrTabWBusy(264); }, true);
+}
+
+}  // namespace

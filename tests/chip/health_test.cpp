@@ -1,0 +1,314 @@
+// Chip identity, the register test, die id, ECC state, clock selections, PLL and service power.
+#include "chip_fixture.h"
+
+namespace {
+
+using namespace chiptest;
+using Service = vq6192::sim::ChipControlBlock::Service;
+using Health = ChipFixture;
+
+TEST_F(Health, VersionTextAndRegister) {
+    char buf[64] = {};
+    EXPECT_EQ(VQ6192_Base_GetVersion(kChip, buf, 40), 0u);
+    EXPECT_STREQ(buf, "VQ6192V0210 DRV REL 2.5.600  \n");
+    control().setVersion(0xABCD, 0x0001);
+    EXPECT_EQ(VQ6192_Base_GetVersion(kChip, buf, sizeof buf), 0u);
+    EXPECT_STREQ(buf, "VQabcdV0001 DRV REL 2.5.600  \n");
+    uint32_t reg = 0;
+    EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_Base_GetVersionReg(kChip, &reg), 0u); }),
+              (std::vector<BusAccess>{rd(0x00, 0xABCD), rd(0x02, 0x0001)}));
+    EXPECT_EQ(reg, 0xABCD0001u);
+}
+
+TEST_F(Health, RegisterTestReportsTheStepAndTheBitsThatDidNotInvert) {
+    struct Case {
+        const char *name;
+        uint16_t nonInverting, stuckMask, stuckValue;
+        uint32_t rc;
+        uint16_t written, read;
+        uint32_t fail0, fail1;
+    };
+    const Case cases[] = {
+        {"healthy", 0, 0, 0, 0, 0xAAAA, 0x5555, 0, 0},
+        {"no inversion", 0xFFFF, 0, 0, kBaseFailed, 0x5555, 0x5555, 0xFFFF, 0},
+        {"bit 0 follows", 0x0001, 0, 0, kBaseFailed, 0x5555, 0xAAAB, 0x0001, 0},
+        {"bit 15 stuck at 1", 0, 0x8000, 0x8000, kBaseFailed, 0xAAAA, 0xD555, 0, 0x8000},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        model.clearStuckBits();
+        control().setNonInvertingBits(c.nonInverting);
+        if (c.stuckMask != 0) {
+            model.stickBits(0x04, c.stuckMask, c.stuckValue);
+        }
+        uint8_t failed = 9;
+        uint16_t readVal = 0, writeVal = 0;
+        EXPECT_EQ(VQ6192_Base_GetChipStatus(kChip, &failed, &readVal, &writeVal), c.rc);
+        EXPECT_EQ(failed, c.rc != 0 ? 1 : 0);
+        if (c.rc != 0) {
+            EXPECT_EQ(readVal, c.read);
+            EXPECT_EQ(writeVal, c.written);
+        }
+        uint16_t written = 0, read = 0;
+        EXPECT_EQ(VQ6192_Base_ChipRWTest(kChip, &written, &read), c.rc);
+        EXPECT_EQ(written, c.written);
+        EXPECT_EQ(read, c.read);
+        uint32_t fail[2] = {7, 7};
+        EXPECT_EQ(VQ6192_Base_GetChipStatus_Test(kChip, fail), c.rc);
+        EXPECT_EQ(fail[0], c.fail0);
+        EXPECT_EQ(fail[1], c.fail1);
+    }
+    model.clearStuckBits();
+    control().setNonInvertingBits(0);
+    uint32_t fail[2];
+    EXPECT_EQ(
+        traced([&] { VQ6192_Base_GetChipStatus_Test(kChip, fail); }),
+        (std::vector<BusAccess>{wr(0x04, 0x5555), rd(0x04, 0xAAAA), wr(0x04, 0xAAAA), rd(0x04, 0x5555)}));
+}
+
+TEST_F(Health, DieIdRecord) {
+    vq6192::sim::ChipControlBlock::DieId id;
+    id.ctrl = 0x9;   // read protect, write done
+    id.crc = 0x0A7;  // CRC wrong, CRC 0xA7
+    id.words = {1, 2, 3, 4, 5, 6, 0xFFFF, 0xFFFF};
+    control().setDieId(id);
+    VQ6192_DIE_ID die{};
+    static_assert(sizeof die == VQ6192_DIE_ID_SIZE);
+    EXPECT_EQ(VQ6192_Base_GetDieID(kChip, &die), 0u);
+    EXPECT_EQ(die.byRead_protect_out, 1);
+    EXPECT_EQ(die.byWrite_protect_out, 0);
+    EXPECT_EQ(die.byDieId_read_done, 0);
+    EXPECT_EQ(die.byDieId_write_done, 1);
+    EXPECT_EQ(die.byDieId_crc_right, 0);
+    EXPECT_EQ(die.byDieId_crc, 0xA7);
+    const uint16_t words[8] = {die.byDieId_out_0, die.byDieId_out_1, die.byDieId_out_2, die.byDieId_out_3,
+                               die.byDieId_out_4, die.byDieId_out_5, die.byDieId_out_6, die.byDieId_out_7};
+    const uint16_t expected[8] = {1, 2, 3, 4, 5, 6, 0xFFFF, 0x3F};
+    for (int k = 0; k < 8; ++k) {
+        EXPECT_EQ(words[k], expected[k]) << k;
+    }
+}
+
+TEST_F(Health, EccStateReadsBitsSevenToFourAndClearsThem) {
+    ddr().raiseEcc(0xA0);
+    uint16_t a = 9, b = 9, c = 9, d = 9;
+    const auto t = traced([&] { EXPECT_EQ(VQ6192_Base_GetEccState(kChip, &a, &b, &c, &d), 0u); });
+    EXPECT_EQ((std::vector<uint16_t>{a, b, c, d}), (std::vector<uint16_t>{1, 0, 1, 0}));
+    EXPECT_EQ(writes(t),
+              (std::vector<BusAccess>{wr(0xD00C, 0xF0), wr(0xD00E, 0), wr(0xD00C, 0), wr(0xD00E, 0)}));
+    EXPECT_EQ(VQ6192_Base_GetEccState(kChip, &a, &b, &c, &d), 0u);
+    EXPECT_EQ((std::vector<uint16_t>{a, b, c, d}), (std::vector<uint16_t>{0, 0, 0, 0}));
+}
+
+TEST_F(Health, FramePulseState) {
+    struct Case {
+        uint16_t reg;
+        uint32_t a, b;
+    };
+    for (const Case &c : {Case{0x18, 1, 1}, Case{0x08, 1, 0}, Case{0x10, 0, 1}, Case{0xFFE7, 0, 0}}) {
+        model.poke(0x20012, c.reg);
+        uint32_t a = 9, b = 9;
+        EXPECT_EQ(VQ6192_GetFpState(kChip, &a, &b), 0u);
+        EXPECT_EQ(a, c.a) << c.reg;
+        EXPECT_EQ(b, c.b) << c.reg;
+    }
+}
+
+TEST_F(Health, ClockPllCheckClearsLatchedAlarmsAndReportsLastingOnes) {
+    uint8_t alarm = 9;
+    irq().raise(0x100, 0x63F);  // alarms that have gone away
+    const auto t = traced([&] { EXPECT_EQ(VQ6192_Base_CheckClkPll(kChip, &alarm), 0u); });
+    EXPECT_EQ(t, (std::vector<BusAccess>{wr(0xC2, 0x63F), wr(0x100, 0x63F), rd(0x100, 0)}));
+    EXPECT_EQ(alarm, 0);
+    irq().setActive(0x100, 1u << 1);  // PLL1 out of lock
+    EXPECT_EQ(VQ6192_Base_CheckClkPll(kChip, &alarm), 0u);
+    EXPECT_EQ(alarm, 1);
+    irq().clearActive(0x100, 1u << 1);
+    irq().setActive(0x100, 1u << 6);  // not one of the clock alarms
+    EXPECT_EQ(VQ6192_Base_CheckClkPll(kChip, &alarm), 0u);
+    EXPECT_EQ(alarm, 0);
+}
+
+TEST_F(Health, ClockSelectionsWriteTheirBit) {
+    using Set = uint32_t (*)(uint32_t, uint32_t);
+    using Get = uint32_t (*)(uint32_t, uint32_t *);
+    struct Case {
+        const char *name;
+        Set set;
+        Get get;
+        uint32_t addr, bit;
+    };
+    const Case cases[] = {
+        {"E3 out", VQ6192_Base_SetE3OutClkSel, VQ6192_Base_GetE3OutClkSel, 0x240, 1},
+        {"MAC", VQ6192_Base_SetMacClkSel, VQ6192_Base_GetMacClkSel, 0x240, 15},
+        {"detect", VQ6192_Base_SetClkDetectSel, VQ6192_Base_GetClkDetectSel, 0x240, 0},
+        {"SerDes tx", VQ6192_Base_SetSdsTxclkSel, VQ6192_Base_GetSdsTxclkSel, 0x08, 13},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        model.poke(0x240, 0x1234);
+        model.poke(0x08, 0x1234);
+        auto t = writes(traced([&] { EXPECT_EQ(c.set(kChip, CDK_FE_VQ6192_MAC_CLK_PLL), 0u); }));
+        ASSERT_FALSE(t.empty());
+        EXPECT_EQ(t[0], wr(c.addr, 0x1234u | 1u << c.bit));
+        uint32_t sel = 9;
+        EXPECT_EQ(c.get(kChip, &sel), 0u);
+        EXPECT_EQ(sel, 1u);
+        EXPECT_EQ(c.set(kChip, CDK_FE_VQ6192_CLK_DETECT_SERDES), 0u);
+        EXPECT_EQ(c.get(kChip, &sel), 0u);
+        EXPECT_EQ(sel, 0u);
+        EXPECT_EQ(model.peek(c.addr), 0x1234u & ~(1u << c.bit));
+        expectRefused("selection 2", kBasePara, [&] { return c.set(kChip, 2); });
+        expectRefused("null out", kBasePara, [&] { return c.get(kChip, nullptr); });
+    }
+    // The SerDes transmit clock selection is mirrored into reg 0x240 bit 14.
+    model.poke(0x240, 0);
+    EXPECT_EQ(VQ6192_Base_SetSdsTxclkSel(kChip, 1), 0u);
+    EXPECT_EQ(model.peek(0x240), 0x4000);
+}
+
+TEST_F(Health, PllPowerDownBits) {
+    const uint32_t regs[4] = {0x2A, 0x4A, 0x6A, 0x8A};
+    for (uint32_t pll = 0; pll < 4; ++pll) {
+        SCOPED_TRACE(pll);
+        model.poke(regs[pll], 0xFFFF);
+        const uint16_t cfg[5] = {1, 0, 1, 0, 1};  // VCO, post divider, phase, DSM, whole PLL
+        const auto t = traced([&] { EXPECT_EQ(VQ6192_Base_SetPLLPowerDown(kChip, pll, cfg), 0u); });
+        EXPECT_EQ(t, (std::vector<BusAccess>{rd(regs[pll], 0xFFFF), wr(regs[pll], 0xFFEB)}));
+        VQ6192_PLL_PD_CFG back{};
+        EXPECT_EQ(VQ6192_Base_GetPLLPowerDown(kChip, pll, &back.wSysPllVcoPd), 0u);
+        EXPECT_EQ((std::vector<uint16_t>{back.wSysPllVcoPd, back.wSysPllPdivPd, back.wSysPllPhasePd,
+                                         back.wSysPllDsmPd, back.wSysPllPd}),
+                  (std::vector<uint16_t>{1, 0, 1, 0, 1}));
+        const uint16_t none[5] = {0, 0, 0, 0, 0};
+        EXPECT_EQ(VQ6192_Base_SetPLLPowerDown(kChip, pll, none), 0u);
+        EXPECT_EQ(model.peek(regs[pll]), 0xFFC2);
+    }
+    model.poke(0x4A, 0x0100);
+    EXPECT_EQ(VQ6192_Base_SetPLL1TotalPowerDown(kChip), 0u);
+    EXPECT_EQ(model.peek(0x4A), 0x0141);
+    const uint16_t bad[5] = {0, 0, 2, 0, 0};
+    expectRefused("cfg value 2", kBasePara, [&] { return VQ6192_Base_SetPLLPowerDown(kChip, 0, bad); });
+    expectRefused("pll 4", kBasePara, [&] { return VQ6192_Base_SetPLLPowerDown(kChip, 4, bad); });
+}
+
+struct ServiceCase {
+    uint32_t srv;
+    Service block;
+    uint32_t bit;
+    uint32_t statusAddr, statusShift;
+    uint16_t mask;
+};
+const ServiceCase kServices[] = {
+    {0, Service::Ppp, 1, 0x1C, 0, 0xFFF},
+    {1, Service::Ppp, 1, 0x1C, 0, 0xFFF},
+    {2, Service::Atm, 0, 0x1A, 4, 0x3F},
+    {3, Service::Ces, 2, 0x1A, 0, 0xF},
+};
+
+TEST_F(Health, ServicePowerSequences) {
+    for (const ServiceCase &s : kServices) {
+        SCOPED_TRACE(s.srv);
+        const uint16_t b = static_cast<uint16_t>(1u << s.bit);
+        model.poke(0x18, 0);
+        model.poke(0x06, 0);
+        model.poke(0x0A, 0xFFFF);
+        model.poke(0x16, 0xFFFF);
+        uint16_t out = 9;
+        EXPECT_EQ(VQ6192_Base_GetSrvPowerDownEn(kChip, s.srv, &out), 0u);
+        EXPECT_EQ(out, 1);  // no power: powered down
+
+        // Power up: power bit, status read after 10 us, then clock on, reset and isolation off.
+        VQ6192_Platform_ResetVirtualTime();
+        const auto up =
+            writes(traced([&] { EXPECT_EQ(VQ6192_Base_SetSrvPowerDownEn(kChip, s.srv, 0), 0u); }));
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 10u);
+        EXPECT_EQ(up, (std::vector<BusAccess>{wr(0x18, b), wr(0x06, b), wr(0x0A, 0xFFFF & ~b),
+                                              wr(0x16, 0xFFFF & ~b)}));
+        EXPECT_EQ(VQ6192_Base_GetSrvPowerDownEn(kChip, s.srv, &out), 0u);
+        EXPECT_EQ(out, 0);
+        EXPECT_EQ(VQ6192_Base_GetSrvPdStat(kChip, s.srv, &out), 0u);
+        EXPECT_EQ(out, s.mask);
+
+        // Power down: isolation, reset, clock, power, then the status must have gone out.
+        VQ6192_Platform_ResetVirtualTime();
+        const auto down =
+            writes(traced([&] { EXPECT_EQ(VQ6192_Base_SetSrvPowerDownEn(kChip, s.srv, 1), 0u); }));
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 10u);
+        EXPECT_EQ(down,
+                  (std::vector<BusAccess>{wr(0x16, 0xFFFF), wr(0x0A, 0xFFFF), wr(0x06, 0), wr(0x18, 0)}));
+        EXPECT_EQ(VQ6192_Base_GetSrvPdStat(kChip, s.srv, &out), 0u);
+        EXPECT_EQ(out, 0);
+    }
+}
+
+TEST_F(Health, ServiceThatDoesNotPowerUpOrDown) {
+    for (const ServiceCase &s : kServices) {
+        SCOPED_TRACE(s.srv);
+        model.poke(0x18, 0);
+        model.poke(0x06, 0);
+        capture.clear();
+        const uint16_t partial = static_cast<uint16_t>(s.mask >> 1);
+        control().holdPowerStatus(s.block, partial);
+        VQ6192_Platform_ResetVirtualTime();
+        const auto up =
+            writes(traced([&] { EXPECT_EQ(VQ6192_Base_SetSrvPowerDownEn(kChip, s.srv, 0), kBaseFailed); }));
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 30u);  // three polls, 10 us each
+        EXPECT_EQ(up.size(), 1u) << "clock, reset and isolation stay as they were";
+        char line[160];
+        snprintf(
+            line, sizeof line,
+            "Err. VQ6192_Base_SetSrvPowerDownEn.  Power On Err srv[%x], stat[%x]  ErrCode[0x3010007]\r\n",
+            s.srv, partial);
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{line});
+
+        capture.clear();
+        control().holdPowerStatus(s.block, s.mask);
+        EXPECT_EQ(VQ6192_Base_SetSrvPowerDownEn(kChip, s.srv, 1), kBaseFailed);
+        snprintf(
+            line, sizeof line,
+            "Err. VQ6192_Base_SetSrvPowerDownEn.  Power Down Err srv[%x], stat[%x] ErrCode[0x3010007]\r\n",
+            s.srv, s.mask);
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{line});
+        control().releasePowerStatus(s.block);
+    }
+}
+
+TEST_F(Health, ParameterErrorsTouchNoRegister) {
+    char buf[64];
+    uint8_t u8 = 0;
+    uint16_t u16 = 0, cfg[5] = {};
+    uint32_t u32 = 0;
+    VQ6192_DIE_ID die;
+    const struct {
+        const char *name;
+        std::function<uint32_t()> op;
+    } cases[] = {
+        {"version len 39", [&] { return VQ6192_Base_GetVersion(kChip, buf, 39); }},
+        {"version null", [&] { return VQ6192_Base_GetVersion(kChip, nullptr, 64); }},
+        {"version reg null", [&] { return VQ6192_Base_GetVersionReg(kChip, nullptr); }},
+        {"status null", [&] { return VQ6192_Base_GetChipStatus(kChip, nullptr, &u16, &u16); }},
+        {"rw test null", [&] { return VQ6192_Base_ChipRWTest(kChip, &u16, nullptr); }},
+        {"status test null", [&] { return VQ6192_Base_GetChipStatus_Test(kChip, nullptr); }},
+        {"get pll 4", [&] { return VQ6192_Base_GetPLLPowerDown(kChip, 4, cfg); }},
+        {"get pll null", [&] { return VQ6192_Base_GetPLLPowerDown(kChip, 0, nullptr); }},
+        {"srv 4", [&] { return VQ6192_Base_SetSrvPowerDownEn(kChip, 4, 0); }},
+        {"srv enable 2", [&] { return VQ6192_Base_SetSrvPowerDownEn(kChip, 2, 2); }},
+        {"srv get null", [&] { return VQ6192_Base_GetSrvPowerDownEn(kChip, 2, nullptr); }},
+        {"srv stat 4", [&] { return VQ6192_Base_GetSrvPdStat(kChip, 4, &u16); }},
+        {"die id null", [&] { return VQ6192_Base_GetDieID(kChip, nullptr); }},
+        {"ecc null", [&] { return VQ6192_Base_GetEccState(kChip, &u16, &u16, nullptr, &u16); }},
+        {"fp null", [&] { return VQ6192_GetFpState(kChip, &u32, nullptr); }},
+        {"clk pll null", [&] { return VQ6192_Base_CheckClkPll(kChip, nullptr); }},
+    };
+    for (const auto &c : cases) {
+        expectRefused(c.name, kBasePara, c.op);
+    }
+    // A chip id beyond the registry is a parameter error too (with its own chip bits).
+    capture.clear();
+    EXPECT_EQ(VQ6192_Base_GetVersionReg(264, &u32), 0x08010001u);
+    EXPECT_EQ(VQ6192_Base_GetDieID(300, &die), ((300u << 24) & 0x0F000000u) + 0x10001u);
+    EXPECT_EQ(VQ6192_Base_CheckClkPll(264, &u8), 0x08010001u);
+}
+
+}  // namespace

@@ -1,0 +1,147 @@
+// RAM built-in self-test: register sequence, verdicts, the PLL2 check and the waits.
+#include "chip_fixture.h"
+
+namespace {
+
+using namespace chiptest;
+using RamBist = ChipFixture;
+
+// PLL2 restart: hold, reset, release reset, release hold (read-modify-writes of 0x6A from 0).
+const std::vector<BusAccess> kPll2Restart = {wr(0x6A, 0x80), wr(0x6A, 0x81), wr(0x6A, 0x80), wr(0x6A, 0x00)};
+
+std::vector<BusAccess> concat(std::initializer_list<std::vector<BusAccess>> parts) {
+    std::vector<BusAccess> out;
+    for (const auto &p : parts) {
+        out.insert(out.end(), p.begin(), p.end());
+    }
+    return out;
+}
+
+TEST_F(RamBist, HealthyBlockPassesWithTheFullSequenceAndItsWaits) {
+    model.poke(0x62, 0xF123);
+    uint8_t failed = 9;
+    VQ6192_Platform_ResetVirtualTime();
+    const auto t = writes(traced([&] { EXPECT_EQ(VQ6192_Base_RamBistTest(kChip, 3, &failed), 0u); }));
+    EXPECT_EQ(failed, 0);
+    // 3 x 1 us restart, 1 us check, 20 ms run, 1 ms start, done at the first poll, restart, check.
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 3u + 1 + 20000 + 1000 + 3 + 1);
+    EXPECT_EQ(t, concat({{wr(0x62, 0xF024)},
+                         kPll2Restart,
+                         {wr(0x100, 4), wr(0xA0, 8), wr(0xA2, 8), wr(0xA0, 0), wr(0xA2, 0), wr(0x62, 0xF123)},
+                         kPll2Restart,
+                         {wr(0x100, 4)}}));
+    EXPECT_EQ(bist().runs(3), 1u);
+    EXPECT_EQ(bist().clockSelAtStart(3), 36);
+    EXPECT_TRUE(capture.traceTexts().empty());
+}
+
+TEST_F(RamBist, VerdictsStatusesTextsAndWaits) {
+    const uint32_t kHealthyUs = 21008;
+    struct Case {
+        const char *name;
+        bool fail;
+        uint32_t polls;
+        bool pllAlarm;
+        uint32_t rc;
+        uint8_t failed;
+        uint64_t us;
+        std::vector<std::string> texts;
+    };
+    const Case cases[] = {
+        {"healthy", false, 0, false, 0, 0, kHealthyUs, {}},
+        {"block fails", true, 0, false, 0, 1, kHealthyUs, {}},
+        {"done at the third poll", false, 2, false, 0, 0, kHealthyUs + 2 * 40000, {}},
+        {"never done",
+         false,
+         vq6192::sim::RamBistBlock::kForever,
+         false,
+         kBaseTimeout,
+         1,
+         3 + 1 + 20000 + 1000 + 3 * 40000,
+         {"Err. VQ6192_Base_RamBistTest.  RamBistTest can't finish. ErrCode[0x3010003]\r\n"}},
+        {"PLL2 stays out of lock",
+         false,
+         0,
+         true,
+         kBaseTimeout,
+         0,
+         kHealthyUs + 2 * 2,
+         {"Err. VQ6192_Base_RamBistTest.  Fst eMdl[0x5], ChkTime[0x3], PLL Stat[0x1], ErrCode[0x3010003]\r\n",
+          "Err. VQ6192_Base_RamBistTest.  Sec eMdl[0x5], ChkTime[0x3], PLL Stat[0x1] "
+          "ErrCode[0x3010003]\r\n"}},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        bist().setFailing(5, c.fail);
+        bist().setRunPolls(5, c.polls);
+        if (c.pllAlarm) {
+            irq().setActive(0x100, 4);
+        } else {
+            irq().clearActive(0x100, 4);
+        }
+        capture.clear();
+        VQ6192_Platform_ResetVirtualTime();
+        uint8_t failed = 9;
+        EXPECT_EQ(VQ6192_Base_RamBistTest(kChip, 5, &failed), c.rc);
+        EXPECT_EQ(failed, c.failed);
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), c.us);
+        EXPECT_EQ(capture.traceTexts(), c.texts);
+        // The test mode is always switched off again.
+        EXPECT_EQ(model.peek(0xA0), 0);
+        EXPECT_EQ(model.peek(0xA2), 0);
+    }
+}
+
+// The PLL2 check accepts bit 2 of 0x100 at 0 (no loss-of-lock alarm): an alarm that latched before
+// the test is cleared by the check and does not fail it.
+TEST_F(RamBist, Pll2CheckPassesOnAClearedAlarmBit) {
+    irq().raise(0x100, 4);
+    uint8_t failed = 9;
+    EXPECT_EQ(VQ6192_Base_RamBistTest(kChip, 0, &failed), 0u);
+    EXPECT_EQ(failed, 0);
+    EXPECT_EQ(model.peek(0x100) & 4, 0);
+}
+
+TEST_F(RamBist, AllBlocksReportAMaskAndATable) {
+    model.poke(0x06, 0x8000);
+    VQ6192_Platform_ResetVirtualTime();
+    EXPECT_EQ(VQ6192_Base_RamBist(kChip), 0u);
+    EXPECT_EQ(model.peek(0x06), 0xFFFF);  // clocks of modules 0..14 on
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 9u * 21008);
+    EXPECT_TRUE(capture.traceTexts().empty());
+    for (uint32_t b = 0; b < 9; ++b) {
+        EXPECT_EQ(bist().runs(b), 1u) << b;
+    }
+
+    bist().setFailing(1, true);
+    bist().setRunPolls(8, vq6192::sim::RamBistBlock::kForever);
+    capture.clear();
+    EXPECT_EQ(VQ6192_Base_RamBist(kChip), 0x102u);
+    EXPECT_EQ(capture.traceTexts(),
+              (std::vector<std::string>{
+                  "Err. VQ6192_Base_RamBistTest.  RamBistTest can't finish. ErrCode[0x3010003]\r\n",
+                  "-------------------------------------MBIST ulChipID(3):\n",
+                  "  MDL       Result(0-ok, 1-fail)\n",
+                  "  ATM          0\n",
+                  "  MPTX          1\n",
+                  "  MPRX          0\n",
+                  "  CES          0\n",
+                  "  ETH          0\n",
+                  "  SAM          0\n",
+                  "  FRM          0\n",
+                  "  OHP          0\n",
+                  "  DDR2C        1\n",
+              }));
+}
+
+TEST_F(RamBist, ParameterErrors) {
+    uint8_t failed = 0;
+    expectRefused("null failed", kBasePara, [&] { return VQ6192_Base_RamBistTest(kChip, 0, nullptr); });
+    expectRefused("block 9", kBasePara, [&] { return VQ6192_Base_RamBistTest(kChip, 9, &failed); });
+    expectRefused(
+        "chip 264", 0x08010001, [&] { return VQ6192_Base_RamBistTest(264, 0, &failed); }, true);
+    capture.clear();
+    EXPECT_EQ(VQ6192_Base_RamBist(264), 0x1FFu);  // nothing tested: every block reported failed
+}
+
+}  // namespace
