@@ -75,6 +75,26 @@ uint32_t getErrInsert(uint32_t chip, const ErrInsert &e, uint32_t *rate, uint8_t
     return 0;
 }
 
+// Alarm flags of an engine: `count` bits from the highest down, one per output.
+uint32_t readAlarms(uint32_t chip, uint32_t reg, uint32_t count, uint16_t *alarms) {
+    if (alarms == nullptr) {
+        return paraErr(chip);
+    }
+    const uint32_t value = VQ6192_ReadReg(chip, reg);
+    for (uint32_t i = 0; i < count; ++i) {
+        alarms[i] = static_cast<uint16_t>((value >> (count - 1 - i)) & 1u);
+    }
+    return 0;
+}
+
+uint32_t readCounter(uint32_t chip, uint32_t reg, uint16_t *count) {
+    if (count == nullptr) {
+        return paraErr(chip);
+    }
+    *count = static_cast<uint16_t>(VQ6192_ReadReg(chip, reg));
+    return 0;
+}
+
 // Reads an E1/T1 timeslot entry for a direction; both directions must agree.
 uint32_t readCesEntry(uint32_t chip, uint32_t dir, uint32_t source, uint32_t ts, uint32_t *entry) {
     uint32_t ingress = 0;
@@ -225,22 +245,11 @@ VQ6192_API uint32_t VQ6192_Framer_GetPrbsErrInsert(uint32_t chip, uint32_t *rate
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetPRBSAlm(uint32_t chip, uint16_t alarms[4]) {
-    if (alarms == nullptr) {
-        return paraErr(chip);
-    }
-    const uint32_t reg = VQ6192_ReadReg(chip, kPrbsAlarmReg);
-    for (uint32_t i = 0; i < 4; ++i) {
-        alarms[i] = static_cast<uint16_t>((reg >> (3 - i)) & 1u);
-    }
-    return 0;
+    return readAlarms(chip, kPrbsAlarmReg, 4, alarms);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetPRBSErrCnt(uint32_t chip, uint16_t *count) {
-    if (count == nullptr) {
-        return paraErr(chip);
-    }
-    *count = static_cast<uint16_t>(VQ6192_ReadReg(chip, kPrbsErrCntReg));
-    return 0;
+    return readCounter(chip, kPrbsErrCntReg, count);
 }
 
 // ---- Timeslot engine -------------------------------------------------------------------------------
@@ -352,22 +361,11 @@ VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSIns(uint32_t chip, uint32_t *reInsRat
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSAlm(uint32_t chip, uint16_t alarms[3]) {
-    if (alarms == nullptr) {
-        return paraErr(chip);
-    }
-    const uint32_t reg = VQ6192_ReadReg(chip, kTsPrbsAlarmReg);
-    for (uint32_t i = 0; i < 3; ++i) {
-        alarms[i] = static_cast<uint16_t>((reg >> (2 - i)) & 1u);
-    }
-    return 0;
+    return readAlarms(chip, kTsPrbsAlarmReg, 3, alarms);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSErrCnt(uint32_t chip, uint16_t *count) {
-    if (count == nullptr) {
-        return paraErr(chip);
-    }
-    *count = static_cast<uint16_t>(VQ6192_ReadReg(chip, kTsPrbsErrCntReg));
-    return 0;
+    return readCounter(chip, kTsPrbsErrCntReg, count);
 }
 
 // ---- CES timeslots under PRBS test -----------------------------------------------------------------

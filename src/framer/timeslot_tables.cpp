@@ -137,6 +137,18 @@ uint32_t tableWriteStatus(uint32_t chip, uint32_t rc) {
     return rc == 0 ? 0 : status(chip, kErrSubOp);
 }
 
+// Writes the entry of an E3/T3 or VC-4 source; a failure is traced with the operation's text
+// (arguments chip, number, dir and the status) and reported as error 4.
+uint32_t writeHighOrder(uint32_t chip, uint32_t sourceBase, uint32_t number, uint32_t dir, uint32_t entry,
+                        const char *failure) {
+    const uint32_t rc =
+        tableWriteStatus(chip, writeEntry(chip, Kind::HighOrder, sourceBase + number, 0, dir, entry));
+    if (rc != 0) {
+        VQ6192_FRM_TRACE(chip, failure, chip, number, dir, rc);
+    }
+    return rc;
+}
+
 }  // namespace
 
 extern "C" {
@@ -236,27 +248,16 @@ VQ6192_API uint32_t VQ6192_Framer_SelectSrcE3(uint32_t chip, uint32_t dir, uint3
             entry |= (kModuleMlppp << 13) | (svcChnl & 0x7FFu);
             break;
     }
-    const uint32_t rc = VQ6192_Framer_SetE3TSTab(chip, e3, dir, &entry);
-    if (rc != 0) {
-        VQ6192_FRM_TRACE(chip, "Err. VQ6192_Framer_SelectSrcE3.SetE3TSTab(%u,%u,%u)       ErrCode[%#x]\r\n",
-                         chip, e3, dir, rc);
-        return status(chip, kErrSubOp);
-    }
-    return 0;
+    return writeHighOrder(chip, kE3SourceBase, e3, dir, entry,
+                          "Err. VQ6192_Framer_SelectSrcE3.SetE3TSTab(%u,%u,%u)       ErrCode[%#x]\r\n");
 }
 
 VQ6192_API uint32_t VQ6192_Framer_DeleteSrcE3(uint32_t chip, uint32_t dir, uint32_t e3) {
     if (dir > 3 || e3 >= VQ6192_FRM_E3_NUM) {
         return paraErr(chip);
     }
-    const uint32_t entry = kCleared;
-    const uint32_t rc = VQ6192_Framer_SetE3TSTab(chip, e3, dir, &entry);
-    if (rc != 0) {
-        VQ6192_FRM_TRACE(chip, "Err. VQ6192_Framer_DeleteSrcE3.SetE3TSTab(%u,%u,%u)       ErrCode[%#x]\r\n",
-                         chip, e3, dir, rc);
-        return status(chip, kErrSubOp);
-    }
-    return 0;
+    return writeHighOrder(chip, kE3SourceBase, e3, dir, kCleared,
+                          "Err. VQ6192_Framer_DeleteSrcE3.SetE3TSTab(%u,%u,%u)       ErrCode[%#x]\r\n");
 }
 
 // VC-4 v carries service channel v: the chip does not cross them.
@@ -265,28 +266,16 @@ VQ6192_API uint32_t VQ6192_Framer_SelectSrcVC4(uint32_t chip, uint32_t dir, uint
     if (vc4 >= 4 || !validVc4Channel(svcChnl) || svcType < kSvcPpp || svcType > kSvcCes) {
         return paraErr(chip);
     }
-    const uint32_t entry = kEnabled64k | vc4Channel(chip, svcChnl, svcType);
-    const uint32_t rc = VQ6192_Framer_SetVC4TSTab(chip, vc4, dir, &entry);
-    if (rc != 0) {
-        VQ6192_FRM_TRACE(chip, "Err. VQ6192_Framer_SelectSrcVC4.SetVC4TSTab(%u,%u,%u)       ErrCode[%#x]\r\n",
-                         chip, vc4, dir, rc);
-        return status(chip, kErrSubOp);
-    }
-    return 0;
+    return writeHighOrder(chip, kVc4SourceBase, vc4, dir, kEnabled64k | vc4Channel(chip, svcChnl, svcType),
+                          "Err. VQ6192_Framer_SelectSrcVC4.SetVC4TSTab(%u,%u,%u)       ErrCode[%#x]\r\n");
 }
 
 VQ6192_API uint32_t VQ6192_Framer_DeleteSrcVC4(uint32_t chip, uint32_t dir, uint32_t vc4) {
     if (dir > 3 || vc4 >= 4) {
         return paraErr(chip);
     }
-    const uint32_t entry = kCleared;
-    const uint32_t rc = VQ6192_Framer_SetVC4TSTab(chip, vc4, dir, &entry);
-    if (rc != 0) {
-        VQ6192_FRM_TRACE(chip, "Err. VQ6192_Framer_DeleteSrcVC4.SetVC4TSTab(%u,%u,%u)       ErrCode[%#x]\r\n",
-                         chip, vc4, dir, rc);
-        return status(chip, kErrSubOp);
-    }
-    return 0;
+    return writeHighOrder(chip, kVc4SourceBase, vc4, dir, kCleared,
+                          "Err. VQ6192_Framer_DeleteSrcVC4.SetVC4TSTab(%u,%u,%u)       ErrCode[%#x]\r\n");
 }
 
 VQ6192_API uint32_t VQ6192_Framer_SelectSrcVC4DisIngTs(uint32_t chip, uint32_t dir, uint32_t vc4,

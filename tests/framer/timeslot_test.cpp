@@ -220,6 +220,14 @@ TEST_F(TimeslotTest, E3AndVc4Entries) {
     ASSERT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 1, 6, 6, 3), 0u);
     EXPECT_EQ(entry(kEgressSelect, 342, 0), 0x9800 | 342);
     ASSERT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 7, 7, 9, 2), 0u) << "direction not tested, nothing written";
+    VQ6192_Platform_FailSemTakes(0, 1);
+    EXPECT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 1, 8, 9, 2), 0x030E0004u);
+    EXPECT_EQ(capture.traceTexts().back(),
+              "Err. VQ6192_Framer_SelectSrcE3.SetE3TSTab(3,8,1)       ErrCode[0x30e0004]\r\n");
+    VQ6192_Platform_FailSemTakes(0, 1);
+    EXPECT_EQ(VQ6192_Framer_DeleteSrcVC4(kChip, 0, 2), 0x030E0004u);
+    EXPECT_EQ(capture.traceTexts().back(),
+              "Err. VQ6192_Framer_DeleteSrcVC4.SetVC4TSTab(3,2,0)       ErrCode[0x30e0004]\r\n");
     EXPECT_EQ(entry(kIngressSelect, 343, 0), 0);
 
     ASSERT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 1, 2, 2), 0u);
