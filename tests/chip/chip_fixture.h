@@ -48,16 +48,7 @@ class ChipFixture : public vqtest::ChipTest {
         return model.trace();
     }
 
-    // The writes of a trace, as (address, value) pairs.
-    static std::vector<BusAccess> writes(const std::vector<BusAccess> &t) {
-        std::vector<BusAccess> out;
-        for (const BusAccess &a : t) {
-            if (a.op == BusOp::Write || a.op == BusOp::FieldWrite) {
-                out.push_back(a);
-            }
-        }
-        return out;
-    }
+    static std::vector<BusAccess> writes(const std::vector<BusAccess> &t) { return vqtest::writes(t); }
 
     // A call that must be refused with `status`, trace "ParaErr.\r\n" (or nothing) and touch no register.
     void expectRefused(const char *what, uint32_t status, const std::function<uint32_t()> &op,

@@ -22,14 +22,7 @@ class FramerTest : public ChipTest {
         return model.peek(Framers::egressAddr(e1, word));
     }
     void tdm(uint32_t mode) { ASSERT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, mode), 0u); }
-    bool anyWrite() {
-        for (const BusAccess &a : model.trace()) {
-            if (a.op == BusOp::Write) {
-                return true;
-            }
-        }
-        return false;
-    }
+    bool anyWrite() { return !vqtest::writes(model.trace()).empty(); }
 };
 
 TEST_F(FramerTest, TdmModeSetsBothBitsAndReadsBit1) {

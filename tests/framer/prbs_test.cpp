@@ -17,14 +17,7 @@ class PrbsTest : public ChipTest {
         g_uiPrbsFlag[kChip] = 0;
         ChipTest::TearDown();
     }
-    bool wrote() {
-        for (const auto &a : model.trace()) {
-            if (a.op == BusOp::Write) {
-                return true;
-            }
-        }
-        return false;
-    }
+    bool wrote() { return !vqtest::writes(model.trace()).empty(); }
 };
 
 TEST_F(PrbsTest, MapperGeneratorRegisters) {

@@ -58,6 +58,16 @@ uint64_t outstandingAllocations() {
     return stats.ullOutstanding;
 }
 
+std::vector<vq6192::sim::BusAccess> writes(const std::vector<vq6192::sim::BusAccess> &trace) {
+    std::vector<vq6192::sim::BusAccess> out;
+    for (const auto &a : trace) {
+        if (a.op == vq6192::sim::BusOp::Write || a.op == vq6192::sim::BusOp::FieldWrite) {
+            out.push_back(a);
+        }
+    }
+    return out;
+}
+
 void ChipTest::SetUp() {
     baseline_ = outstandingAllocations();
     model.attach(kChip);

@@ -39,6 +39,9 @@ class PlatformCapture {
 
 uint64_t outstandingAllocations();
 
+// The register writes (plain and field) of a bus trace.
+std::vector<vq6192::sim::BusAccess> writes(const std::vector<vq6192::sim::BusAccess> &trace);
+
 // A chip installed on a chip model; teardown uninstalls it and checks that every allocation was
 // given back.
 class ChipTest : public ::testing::Test {
