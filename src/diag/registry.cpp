@@ -1,20 +1,23 @@
-// Every diagnostic command, one row each, grouped by module.
+// The command registry: the rows of every module family joined into one list.
 #include "diag/registry.h"
 
-#include "vq6192/vq6192.h"
+#include <vector>
 
 namespace vq::diag {
 namespace {
 
-constexpr Command kCommands[] = {
-    // Print control
-    VQ6192_DIAG_COMMAND(VQ6192_Show_Printf_Flag, "BASE", "chip", "show the print flag of every module"),
-    VQ6192_DIAG_COMMAND(VQ6192_Set_Diag_Printf_Flag, "BASE", "chip module flag",
-                        "set a module's print flag (module 22: all modules)"),
-    // Tables
-    VQ6192_DIAG_COMMAND(VQ6192_Rt, "TABLE", "chip tableId index",
-                        "read a table entry and print it member by member"),
-};
+const std::vector<Command> &allCommands() {
+    static const std::vector<Command> all = [] {
+        std::vector<Command> v;
+        for (auto family : {chipCommands, sdhCommands, framerCommands, atmCommands, imaCommands, pppCommands,
+                            cesCommands, ethCommands}) {
+            const std::span<const Command> rows = family();
+            v.insert(v.end(), rows.begin(), rows.end());
+        }
+        return v;
+    }();
+    return all;
+}
 
 }  // namespace
 
@@ -33,11 +36,11 @@ const char *argKindName(ArgKind kind) {
 }
 
 std::span<const Command> commands() {
-    return kCommands;
+    return allCommands();
 }
 
 const Command *findCommand(std::string_view name) {
-    for (const Command &c : kCommands) {
+    for (const Command &c : allCommands()) {
         if (name == c.name) {
             return &c;
         }

@@ -1,6 +1,7 @@
 // The diagnostic command registry: one row per command with its name, module, argument names and kinds
-// and a one-line help. The debug shell and the tests read the same rows; a command is added with one
-// row (VQ6192_DIAG_COMMAND in registry.cpp), its argument kinds taken from its C signature.
+// and a one-line help. The debug shell and the tests read the same rows. Each module family keeps its
+// rows in its own file of src/diag/ (VQ6192_DIAG_COMMAND, argument kinds taken from the C signature)
+// and hands them over through its xxxCommands() function below; registry.cpp joins the families.
 #pragma once
 
 #include <array>
@@ -48,8 +49,19 @@ struct Command {
     Invoke invoke;
 };
 
+// Every command of every family, in family order, and one by exact name.
 std::span<const Command> commands();
 const Command *findCommand(std::string_view name);
+
+// The rows of each module family, one file each.
+std::span<const Command> chipCommands();    // chip.cpp: print control, tables, chip health, dump
+std::span<const Command> sdhCommands();     // sdh.cpp: SDH/SONET mapper and telecom bus
+std::span<const Command> framerCommands();  // framer.cpp: framers, timeslots, PRBS
+std::span<const Command> atmCommands();     // atm.cpp: ATM, OAM, ATM pseudowires
+std::span<const Command> imaCommands();     // ima.cpp
+std::span<const Command> pppCommands();     // ppp.cpp: PPP and multilink
+std::span<const Command> cesCommands();     // ces.cpp: CES and clock recovery
+std::span<const Command> ethCommands();     // eth.cpp: Ethernet side and MAC ports
 
 // ---- Adapting a C diagnostic command to the registry --------------------------------------------------
 
