@@ -30,16 +30,23 @@ inline constexpr uint32_t kPowerReg = 0x18;  // 1 = service powered
 inline constexpr uint32_t kSrvStatusReg0 = 0x1A;
 inline constexpr uint32_t kSrvStatusReg1 = 0x1C;
 
-// One service block: its bit in the clock, reset, isolation and power registers, and the status
-// field that reads all ones once every sub-block has power.
+// One service block: its bit in the power, clock, reset and isolation registers (not the same
+// position in every register), and the status field that reads all ones once every sub-block has
+// power.
 struct ServiceBits {
-    uint32_t bit;
+    uint32_t power;      // kPowerReg
+    uint32_t clock;      // kModuleClockReg
+    uint32_t reset;      // kSoftResetReg
+    uint32_t isolation;  // kIsolationReg
     Field status;
     uint32_t mask;
 };
-inline constexpr ServiceBits kAtmService{0, {kSrvStatusReg0, 4, 6}, 0x3F};
-inline constexpr ServiceBits kPppService{1, {kSrvStatusReg1, 0, 12}, 0xFFF};
-inline constexpr ServiceBits kCesService{2, {kSrvStatusReg0, 0, 4}, 0xF};
+// clang-format off
+//                                       power clock reset isolation  status                   mask
+inline constexpr ServiceBits kAtmService{0,    2,    2,    0,         {kSrvStatusReg0, 4, 6},  0x3F};
+inline constexpr ServiceBits kPppService{1,    1,    1,    1,         {kSrvStatusReg1, 0, 12}, 0xFFF};
+inline constexpr ServiceBits kCesService{2,    0,    0,    2,         {kSrvStatusReg0, 0, 4},  0xF};
+// clang-format on
 inline constexpr uint32_t kSrvPowerPolls = 3;
 inline constexpr uint32_t kSrvPowerPollUs = 10;
 
@@ -56,6 +63,7 @@ inline constexpr uint32_t kPll2HoldBit = 7;
 
 // ---- Local alarms (write 1 to clear) --------------------------------------------------------------
 inline constexpr uint32_t kLocalAlarmReg = 0x100;  // bits 0..10; bit n of 0..3: PLL n out of lock
+inline constexpr Field kLocalAlarms{kLocalAlarmReg, 0, 11};
 inline constexpr uint32_t kLocalAlarmEnableReg = 0xC2;
 inline constexpr uint32_t kPll2AlarmBit = 2;
 inline constexpr uint16_t kClkPllAlarms = 0x63F;

@@ -1,8 +1,9 @@
 // Interrupt registers (byte addresses).
 //
-// Flag and latched status registers are write-1-to-clear. Clearing writes the register with ones
-// only in the bits to clear (a plain register write), never a read-modify-write: writing back what
-// was read would clear every other pending flag of the register as well.
+// Flag and latched status registers are write-1-to-clear. Like every access of this module, a clear
+// is a field write: the clear value is merged into the register as read, so the other bits of the
+// register are written back as they were read (on the chip's write-1-to-clear flags, a pending flag
+// read as 1 is written back as 1).
 #pragma once
 
 #include <cstdint>

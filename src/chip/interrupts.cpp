@@ -33,11 +33,6 @@ const Source *source(uint32_t id) {
     return nullptr;
 }
 
-// Writes ones into the given bits of a write-1-to-clear register (zeros elsewhere).
-void clearBits(uint32_t chip, uint32_t addr, uint32_t bits) {
-    VQ6192_WriteReg(chip, addr, bits);
-}
-
 // Reads a source's flag (bit `sub` of a sub-sourced field) and, with `clear`, writes the clear value
 // into that bit.
 uint32_t sourceFlag(uint32_t chip, uint32_t id, uint32_t sub, const uint32_t *clear, uint16_t *out) {
@@ -51,7 +46,7 @@ uint32_t sourceFlag(uint32_t chip, uint32_t id, uint32_t sub, const uint32_t *cl
     const uint32_t pos = s->subs != 0 ? sub : 0;
     *out = static_cast<uint16_t>(bit(get(chip, s->flag), pos));
     if (clear != nullptr) {
-        clearBits(chip, s->flag.addr, *clear << (s->flag.bit + pos));
+        set(chip, s->flag, *clear << pos);
     }
     return 0;
 }
@@ -65,7 +60,7 @@ uint32_t singleFlag(uint32_t chip, uint32_t reg, uint16_t *out, uint32_t clear) 
         return paraErr(chip);
     }
     *out = static_cast<uint16_t>(VQ6192_ReadRegField(chip, reg, 0, 1));
-    clearBits(chip, reg, clear);
+    VQ6192_WriteRegField(chip, reg, clear, 0, 1);
     return 0;
 }
 
@@ -151,11 +146,9 @@ VQ6192_API uint32_t VQ6192_INT_GetLocIntFlag(uint32_t chip, uint32_t /*unused*/,
         return paraErr(chip);
     }
     const uint32_t flags = VQ6192_ReadRegField(chip, kLocalFlagReg, 0, 11);
-    uint32_t clearMask = 0;
     for (uint32_t k = 0; k < 5; ++k) {
-        clearMask |= clear << kLocalFlagBits[k];
+        VQ6192_WriteRegField(chip, kLocalFlagReg, clear, kLocalFlagBits[k], 1);
     }
-    clearBits(chip, kLocalFlagReg, clearMask);
     for (uint32_t k = 0; k < 5; ++k) {
         out[k] = static_cast<uint16_t>(bit(flags, kLocalFlagBits[k]));
     }
@@ -212,8 +205,8 @@ VQ6192_API uint32_t VQ6192_INT_GetAtmInt(uint32_t chip, uint16_t *f0, uint16_t *
     *f1 = static_cast<uint16_t>(bit(flags, 1));
     *f0 = static_cast<uint16_t>(bit(flags, 0));
     if (clear != 0) {
-        clearBits(chip, kAtmFlagReg, 1u << 1);
-        clearBits(chip, kAtmFlagReg, 1u << 0);
+        VQ6192_WriteRegField(chip, kAtmFlagReg, 1, 1, 1);
+        VQ6192_WriteRegField(chip, kAtmFlagReg, 1, 0, 1);
     }
     return 0;
 }
@@ -254,7 +247,7 @@ VQ6192_API uint32_t VQ6192_INT_GetCesTrInt(uint32_t chip, uint16_t *instance, ui
     const uint32_t reg = kCesTrLatchedReg + 2 * i;
     const uint32_t flags = VQ6192_ReadRegField(chip, reg, 0, kCesTrFieldWidth);
     if (clear != 0) {
-        clearBits(chip, reg, kCesTrAll);
+        VQ6192_WriteRegField(chip, reg, kCesTrAll, 0, kCesTrFieldWidth);
     }
     *f3 = static_cast<uint16_t>(bit(flags, 3));
     *f2 = static_cast<uint16_t>(bit(flags, 2));
@@ -285,7 +278,7 @@ VQ6192_API uint32_t VQ6192_INT_GetCesTrIntStat(uint32_t chip, uint32_t instance,
     const uint32_t reg = (latched != 0 ? kCesTrLatchedReg : kCesTrLiveReg) + 2 * instance;
     *out = static_cast<uint8_t>(VQ6192_ReadRegField(chip, reg, 0, kCesTrFieldWidth) & mask);
     if (latched != 0 && clear != 0) {
-        clearBits(chip, reg, mask);
+        VQ6192_WriteRegField(chip, reg, mask, 0, kCesTrFieldWidth);
     }
     return 0;
 }
@@ -328,7 +321,7 @@ VQ6192_API uint32_t VQ6192_INT_GetCESIntStat(uint32_t chip, uint32_t channel, ui
     const uint32_t pos = 4 * (channel % 4) + type;
     *out = static_cast<uint8_t>(VQ6192_ReadRegField(chip, reg, pos, 1));
     if (latched != 0 && clear != 0) {
-        clearBits(chip, reg, 1u << pos);
+        VQ6192_WriteRegField(chip, reg, 1, pos, 1);
     }
     return 0;
 }

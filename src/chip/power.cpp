@@ -76,15 +76,15 @@ VQ6192_API uint32_t VQ6192_Base_SetSrvPowerDownEn(uint32_t chip, uint32_t srv, u
     }
     const uint32_t on = enable ^ 1u;
     if (enable == 0) {
-        VQ6192_WriteRegField(chip, kPowerReg, on, s->bit, 1);
+        VQ6192_WriteRegField(chip, kPowerReg, on, s->power, 1);
         uint32_t stat = 0;
         for (uint32_t poll = 0; poll < kSrvPowerPolls; ++poll) {
             vq::DrvDelayUs(kSrvPowerPollUs);
             stat = serviceStatus(chip, *s);
             if (stat == s->mask) {
-                VQ6192_WriteRegField(chip, kModuleClockReg, on, s->bit, 1);
-                VQ6192_WriteRegField(chip, kSoftResetReg, enable, s->bit, 1);
-                VQ6192_WriteRegField(chip, kIsolationReg, enable, s->bit, 1);
+                VQ6192_WriteRegField(chip, kModuleClockReg, on, s->clock, 1);
+                VQ6192_WriteRegField(chip, kSoftResetReg, enable, s->reset, 1);
+                VQ6192_WriteRegField(chip, kIsolationReg, enable, s->isolation, 1);
                 return 0;
             }
         }
@@ -94,10 +94,10 @@ VQ6192_API uint32_t VQ6192_Base_SetSrvPowerDownEn(uint32_t chip, uint32_t srv, u
                       srv, stat, err);
         return err;
     }
-    VQ6192_WriteRegField(chip, kIsolationReg, enable, s->bit, 1);
-    VQ6192_WriteRegField(chip, kSoftResetReg, enable, s->bit, 1);
-    VQ6192_WriteRegField(chip, kModuleClockReg, on, s->bit, 1);
-    VQ6192_WriteRegField(chip, kPowerReg, on, s->bit, 1);
+    VQ6192_WriteRegField(chip, kIsolationReg, enable, s->isolation, 1);
+    VQ6192_WriteRegField(chip, kSoftResetReg, enable, s->reset, 1);
+    VQ6192_WriteRegField(chip, kModuleClockReg, on, s->clock, 1);
+    VQ6192_WriteRegField(chip, kPowerReg, on, s->power, 1);
     vq::DrvDelayUs(kSrvPowerPollUs);
     const uint32_t stat = serviceStatus(chip, *s);
     if ((stat & s->mask) != 0) {
@@ -116,7 +116,7 @@ VQ6192_API uint32_t VQ6192_Base_GetSrvPowerDownEn(uint32_t chip, uint32_t srv, u
     if (!vq::validChip(chip) || s == nullptr || out == nullptr) {
         return baseParaErr(chip);
     }
-    *out = static_cast<uint16_t>(1u - VQ6192_ReadRegField(chip, kPowerReg, s->bit, 1));
+    *out = static_cast<uint16_t>(1u - VQ6192_ReadRegField(chip, kPowerReg, s->power, 1));
     return 0;
 }
 

@@ -26,7 +26,7 @@ void restartPll2(uint32_t chip) {
 // check, so the check passes as soon as the bit reads 0 and fails when all three reads give 1.
 // Returns the check number that passed (1..3) or 0, and the last bit read.
 uint32_t checkPll2(uint32_t chip, uint32_t &stat) {
-    VQ6192_WriteReg(chip, kLocalAlarmReg, 1u << kPll2AlarmBit);
+    set(chip, kLocalAlarms, 1u << kPll2AlarmBit);
     for (uint32_t check = 1; check <= kBistPllChecks; ++check) {
         vq::DrvDelayUs(kPllStepUs);
         stat = VQ6192_ReadRegField(chip, kLocalAlarmReg, kPll2AlarmBit, 1);

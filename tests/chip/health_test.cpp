@@ -1,4 +1,5 @@
 // Chip identity, the register test, die id, ECC state, clock selections, PLL and service power.
+#include <random>
 #include "chip_fixture.h"
 
 namespace {
@@ -192,53 +193,64 @@ TEST_F(Health, PllPowerDownBits) {
     expectRefused("pll 4", kBasePara, [&] { return VQ6192_Base_SetPLLPowerDown(kChip, 4, bad); });
 }
 
+// The service table of the chip: each service's bit in the power (0x18), clock (0x06), reset (0x0A)
+// and isolation (0x16) registers, which are not the same position in every register.
 struct ServiceCase {
     uint32_t srv;
     Service block;
-    uint32_t bit;
+    uint32_t power, clock, reset, isolation;
     uint32_t statusAddr, statusShift;
     uint16_t mask;
 };
 const ServiceCase kServices[] = {
-    {0, Service::Ppp, 1, 0x1C, 0, 0xFFF},
-    {1, Service::Ppp, 1, 0x1C, 0, 0xFFF},
-    {2, Service::Atm, 0, 0x1A, 4, 0x3F},
-    {3, Service::Ces, 2, 0x1A, 0, 0xF},
+    {0, Service::Ppp, 1, 1, 1, 1, 0x1C, 0, 0xFFF},
+    {1, Service::Ppp, 1, 1, 1, 1, 0x1C, 0, 0xFFF},
+    {2, Service::Atm, 0, 2, 2, 0, 0x1A, 4, 0x3F},
+    {3, Service::Ces, 2, 0, 0, 2, 0x1A, 0, 0xF},
 };
 
+// From random contents of the four registers, powering a service up or down changes exactly its own
+// bit of each, in the order of the sequence: up writes power, then clock, reset and isolation once
+// the status is complete; down writes isolation, reset, clock and power.
 TEST_F(Health, ServicePowerSequences) {
+    std::mt19937 rng(0x6192);
     for (const ServiceCase &s : kServices) {
-        SCOPED_TRACE(s.srv);
-        const uint16_t b = static_cast<uint16_t>(1u << s.bit);
-        model.poke(0x18, 0);
-        model.poke(0x06, 0);
-        model.poke(0x0A, 0xFFFF);
-        model.poke(0x16, 0xFFFF);
-        uint16_t out = 9;
-        EXPECT_EQ(VQ6192_Base_GetSrvPowerDownEn(kChip, s.srv, &out), 0u);
-        EXPECT_EQ(out, 1);  // no power: powered down
+        for (int round = 0; round < 4; ++round) {
+            SCOPED_TRACE(testing::Message() << "srv " << s.srv << " round " << round);
+            const uint16_t bg[4] = {static_cast<uint16_t>(rng()), static_cast<uint16_t>(rng()),
+                                    static_cast<uint16_t>(rng()), static_cast<uint16_t>(rng())};
+            const uint32_t regs[4] = {0x18, 0x06, 0x0A, 0x16};
+            const uint32_t bits[4] = {s.power, s.clock, s.reset, s.isolation};
+            auto with = [&](int k, uint32_t v) {
+                return static_cast<uint16_t>((bg[k] & ~(1u << bits[k])) | v << bits[k]);
+            };
+            for (int k = 0; k < 4; ++k) {
+                model.poke(regs[k], k == 0 ? with(0, 0) : bg[k]);
+            }
+            uint16_t out = 9;
+            EXPECT_EQ(VQ6192_Base_GetSrvPowerDownEn(kChip, s.srv, &out), 0u);
+            EXPECT_EQ(out, 1);  // no power: powered down
 
-        // Power up: power bit, status read after 10 us, then clock on, reset and isolation off.
-        VQ6192_Platform_ResetVirtualTime();
-        const auto up =
-            writes(traced([&] { EXPECT_EQ(VQ6192_Base_SetSrvPowerDownEn(kChip, s.srv, 0), 0u); }));
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 10u);
-        EXPECT_EQ(up, (std::vector<BusAccess>{wr(0x18, b), wr(0x06, b), wr(0x0A, 0xFFFF & ~b),
-                                              wr(0x16, 0xFFFF & ~b)}));
-        EXPECT_EQ(VQ6192_Base_GetSrvPowerDownEn(kChip, s.srv, &out), 0u);
-        EXPECT_EQ(out, 0);
-        EXPECT_EQ(VQ6192_Base_GetSrvPdStat(kChip, s.srv, &out), 0u);
-        EXPECT_EQ(out, s.mask);
+            VQ6192_Platform_ResetVirtualTime();
+            const auto up =
+                writes(traced([&] { EXPECT_EQ(VQ6192_Base_SetSrvPowerDownEn(kChip, s.srv, 0), 0u); }));
+            EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 10u);
+            EXPECT_EQ(up, (std::vector<BusAccess>{wr(0x18, with(0, 1)), wr(0x06, with(1, 1)),
+                                                  wr(0x0A, with(2, 0)), wr(0x16, with(3, 0))}));
+            EXPECT_EQ(VQ6192_Base_GetSrvPowerDownEn(kChip, s.srv, &out), 0u);
+            EXPECT_EQ(out, 0);
+            EXPECT_EQ(VQ6192_Base_GetSrvPdStat(kChip, s.srv, &out), 0u);
+            EXPECT_EQ(out, s.mask);
 
-        // Power down: isolation, reset, clock, power, then the status must have gone out.
-        VQ6192_Platform_ResetVirtualTime();
-        const auto down =
-            writes(traced([&] { EXPECT_EQ(VQ6192_Base_SetSrvPowerDownEn(kChip, s.srv, 1), 0u); }));
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 10u);
-        EXPECT_EQ(down,
-                  (std::vector<BusAccess>{wr(0x16, 0xFFFF), wr(0x0A, 0xFFFF), wr(0x06, 0), wr(0x18, 0)}));
-        EXPECT_EQ(VQ6192_Base_GetSrvPdStat(kChip, s.srv, &out), 0u);
-        EXPECT_EQ(out, 0);
+            VQ6192_Platform_ResetVirtualTime();
+            const auto down =
+                writes(traced([&] { EXPECT_EQ(VQ6192_Base_SetSrvPowerDownEn(kChip, s.srv, 1), 0u); }));
+            EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 10u);
+            EXPECT_EQ(down, (std::vector<BusAccess>{wr(0x16, with(3, 1)), wr(0x0A, with(2, 1)),
+                                                    wr(0x06, with(1, 0)), wr(0x18, with(0, 0))}));
+            EXPECT_EQ(VQ6192_Base_GetSrvPdStat(kChip, s.srv, &out), 0u);
+            EXPECT_EQ(out, 0);
+        }
     }
 }
 

@@ -1,6 +1,9 @@
 // Interrupt control: exact register accesses of the enable, mode, flag and status operations.
 #include "chip_fixture.h"
 
+#include <random>
+#include <string>
+
 namespace {
 
 using namespace chiptest;
@@ -37,35 +40,165 @@ TEST_F(Interrupts, SourceEnableAndModeBits) {
     }
 }
 
-// Flags are read, then the clear value is written at the sub-source's bit only (write 1 to clear),
-// so the other pending flags of the register survive. Sources 4, 8, 32 and 64 keep two sub-sources
-// in bits 0 and 1 of their flag register.
-TEST_F(Interrupts, FlagsReadAndClearOneSubSource) {
-    for (const SourceCase &s : kSources) {
-        for (uint32_t sub = 0; sub < s.subs; ++sub) {
-            SCOPED_TRACE(testing::Message() << s.id << " sub " << sub);
-            const uint16_t all = s.subs > 1 ? static_cast<uint16_t>((1u << s.subs) - 1) : 1;
-            irq().raise(s.flagAddr, all);
-            uint16_t out = 9;
-            EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_GetIntAlm(kChip, s.id, sub, &out), 0u); }),
-                      (std::vector<BusAccess>{rd(s.flagAddr, all)}));
-            EXPECT_EQ(out, 1);
-            EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_GetIntFlag(kChip, s.id, sub, 1, &out), 0u); }),
-                      (std::vector<BusAccess>{rd(s.flagAddr, all), wr(s.flagAddr, 1u << sub)}));
-            EXPECT_EQ(out, 1);
-            EXPECT_EQ(model.peek(s.flagAddr), all & ~(1u << sub));
-            EXPECT_EQ(VQ6192_INT_GetIntFlag(kChip, s.id, sub, 0, &out), 0u);
-            EXPECT_EQ(out, 0);
-            model.poke(s.flagAddr, 0);
+// Every flag read with a clear is a field write: the clear value goes into the operation's own field
+// of the register as it was read, the other bits are written back as read, and the write-1-to-clear
+// flags clear wherever a 1 was written. From random contents of every interrupt register, each
+// operation writes exactly that and reports its flags from what it read.
+struct FieldWrite {
+    uint32_t bit, width, value;
+};
+struct ClearCase {
+    std::string what;
+    uint32_t addr;
+    std::vector<FieldWrite> fields;  // in the order the operation writes them
+    std::function<uint32_t(std::vector<uint32_t> &flags)> op;
+    std::function<std::vector<uint32_t>(uint16_t before)> expectedFlags;
+};
+
+constexpr uint32_t kTestChip = 3;  // the fixture's chip
+
+std::vector<ClearCase> clearCases() {
+    std::vector<ClearCase> cases;
+    auto bitOf = [](uint32_t b) { return [b](uint16_t v) { return std::vector<uint32_t>{(v >> b) & 1u}; }; };
+    // Top-level sources: flag field (address, lowest bit, width) and sub-sources.
+    const struct {
+        uint32_t id, addr, bit, width, subs;
+    } sources[] = {{1, 0x102, 0, 1, 1},  {2, 0x104, 0, 1, 1},     {4, 0x106, 0, 2, 2},
+                   {8, 0x106, 0, 2, 2},  {16, 0x108, 0, 1, 1},    {32, 0x10A, 0, 2, 2},
+                   {64, 0x10A, 0, 2, 2}, {128, 0x100, 0, 11, 11}, {256, 0x10C, 0, 1, 1}};
+    for (const auto &src : sources) {
+        for (uint32_t sub = 0; sub < src.subs; ++sub) {
+            for (uint32_t clear = 0; clear <= 1; ++clear) {
+                const uint32_t id = src.id;
+                cases.push_back({"flag " + std::to_string(id) + " sub " + std::to_string(sub) + " clear " +
+                                     std::to_string(clear),
+                                 src.addr,
+                                 {{src.bit, src.width, clear << sub}},
+                                 [=](std::vector<uint32_t> &f) {
+                                     uint16_t out = 9;
+                                     const uint32_t rc =
+                                         VQ6192_INT_GetIntFlag(kTestChip, id, sub, clear, &out);
+                                     f = {out};
+                                     return rc;
+                                 },
+                                 bitOf(sub)});
+            }
         }
     }
-    // Local alarm 10: reports bit 10 of 0x100 and writes 0x400.
-    irq().raise(0x100, 0x401);
-    uint16_t f = 0;
-    EXPECT_EQ(writes(traced([&] { EXPECT_EQ(VQ6192_INT_GetIntFlag(kChip, 128, 10, 1, &f), 0u); })),
-              std::vector<BusAccess>{wr(0x100, 0x400)});
-    EXPECT_EQ(f, 1);
-    EXPECT_EQ(model.peek(0x100), 0x001);
+    for (uint32_t clear = 0; clear <= 1; ++clear) {
+        const std::string c = std::to_string(clear);
+        cases.push_back({"local flags clear " + c,
+                         0x100,
+                         {{4, 1, clear}, {5, 1, clear}, {7, 1, clear}, {9, 1, clear}, {10, 1, clear}},
+                         [=](std::vector<uint32_t> &f) {
+                             uint16_t out[5] = {9, 9, 9, 9, 9};
+                             const uint32_t rc = VQ6192_INT_GetLocIntFlag(kTestChip, 0, clear, out);
+                             f.assign(out, out + 5);
+                             return rc;
+                         },
+                         [](uint16_t v) {
+                             return std::vector<uint32_t>{(v >> 4) & 1u, (v >> 5) & 1u, (v >> 7) & 1u,
+                                                          (v >> 9) & 1u, (v >> 10) & 1u};
+                         }});
+        cases.push_back({"pmu clear " + c,
+                         0x102,
+                         {{0, 1, clear}},
+                         [=](std::vector<uint32_t> &f) {
+                             uint16_t out = 9;
+                             const uint32_t rc = VQ6192_INT_GetPmuInt(kTestChip, &out, clear);
+                             f = {out};
+                             return rc;
+                         },
+                         bitOf(0)});
+        cases.push_back({"mp clear " + c,
+                         0x104,
+                         {{0, 1, clear}},
+                         [=](std::vector<uint32_t> &f) {
+                             uint16_t out = 9;
+                             const uint32_t rc = VQ6192_INT_GetMpInt(kTestChip, &out, clear);
+                             f = {out};
+                             return rc;
+                         },
+                         bitOf(0)});
+        cases.push_back(
+            {"atm clear " + c, 0x106,
+             clear != 0 ? std::vector<FieldWrite>{{1, 1, 1}, {0, 1, 1}} : std::vector<FieldWrite>{},
+             [=](std::vector<uint32_t> &f) {
+                 uint16_t f0 = 9, f1 = 9;
+                 const uint32_t rc = VQ6192_INT_GetAtmInt(kTestChip, &f0, &f1, clear);
+                 f = {f0, f1};
+                 return rc;
+             },
+             [](uint16_t v) {
+                 return std::vector<uint32_t>{v & 1u, (v >> 1) & 1u};
+             }});
+    }
+    // CES timing recovery instance 3, latched field bits 0..3: kind 8 is bit 3, 9 bit 0, 7 bit 2.
+    for (const auto &[kind, mask] : {std::pair{8u, 8u}, {9u, 1u}, {7u, 4u}}) {
+        cases.push_back({"ces tr stat kind " + std::to_string(kind),
+                         0x17066,
+                         {{0, 4, mask}},
+                         [kind = kind](std::vector<uint32_t> &f) {
+                             uint8_t out = 99;
+                             const uint32_t rc = VQ6192_INT_GetCesTrIntStat(kTestChip, 3, kind, 1, &out, 1);
+                             f = {out};
+                             return rc;
+                         },
+                         [mask = mask](uint16_t v) { return std::vector<uint32_t>{v & mask}; }});
+    }
+    // CES channel 13, type 2: bit 4 x (13 mod 4) + 2 = 6 of the latched register 0x16060 + 2 x (13 / 4).
+    cases.push_back({"ces channel 13 type 2",
+                     0x16066,
+                     {{6, 1, 1}},
+                     [](std::vector<uint32_t> &f) {
+                         uint8_t out = 99;
+                         const uint32_t rc = VQ6192_INT_GetCESIntStat(kTestChip, 13, 2, 1, &out, 1);
+                         f = {out};
+                         return rc;
+                     },
+                     bitOf(6)});
+    return cases;
+}
+
+TEST_F(Interrupts, ClearingReadsWriteOnlyTheirField) {
+    static_assert(kTestChip == kChip);
+    std::mt19937 rng(10);
+    for (const ClearCase &c : clearCases()) {
+        for (int round = 0; round < 3; ++round) {
+            SCOPED_TRACE(testing::Message() << c.what << " round " << round);
+            const auto before = static_cast<uint16_t>(rng() | 0x8000);
+            model.poke(c.addr, before);
+            std::vector<BusAccess> expected;
+            uint16_t reg = before;
+            for (const FieldWrite &w : c.fields) {
+                const uint32_t mask = ((1u << w.width) - 1u) << w.bit;
+                const auto written = static_cast<uint16_t>((reg & ~mask) | (w.value << w.bit & mask));
+                expected.push_back(wr(c.addr, written));
+                reg = static_cast<uint16_t>(reg & ~written);  // write 1 to clear
+            }
+            std::vector<uint32_t> flags;
+            EXPECT_EQ(writes(traced([&] { EXPECT_EQ(c.op(flags), 0u); })), expected);
+            EXPECT_EQ(model.peek(c.addr), reg);
+            EXPECT_EQ(flags, c.expectedFlags(before));
+        }
+    }
+}
+
+// The timing recovery summary names the lowest pending instance; with clear, 15 goes into its latched
+// field (bits 0..3) of the register as read.
+TEST_F(Interrupts, CesTimingRecoveryPendingInstance) {
+    model.poke(0x17060 + 2 * 7, 0xA0D);
+    model.poke(0x17060 + 2 * 9, 0x4);
+    uint16_t inst = 0, f3 = 9, f2 = 9, f0 = 9;
+    EXPECT_EQ(writes(traced([&] { EXPECT_EQ(VQ6192_INT_GetCesTrInt(kChip, &inst, &f3, &f2, &f0, 1), 0u); })),
+              (std::vector<BusAccess>{wr(0x1706E, 0xA0F)}));
+    EXPECT_EQ(inst, 7);
+    EXPECT_EQ((std::vector<uint16_t>{f3, f2, f0}), (std::vector<uint16_t>{1, 1, 1}));
+    EXPECT_EQ(model.peek(0x1706E), 0);
+    EXPECT_EQ(writes(traced([&] { EXPECT_EQ(VQ6192_INT_GetCesTrInt(kChip, &inst, &f3, &f2, &f0, 0), 0u); })),
+              std::vector<BusAccess>{});
+    EXPECT_EQ(inst, 9);
+    EXPECT_EQ((std::vector<uint16_t>{f3, f2, f0}), (std::vector<uint16_t>{0, 1, 0}));
 }
 
 TEST_F(Interrupts, UnknownIdsAndBadSubSources) {
@@ -95,24 +228,13 @@ TEST_F(Interrupts, UnknownIdsAndBadSubSources) {
     expectRefused("alarm sub 11", kIntPara, [&] { return VQ6192_INT_GetIntAlm(kChip, 128, 11, &out); });
 }
 
-TEST_F(Interrupts, LineModeLocalFlagsAndIndex) {
+TEST_F(Interrupts, LineModeAndIndex) {
     EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_SetIntActiveMode(kChip, 1, 0), 0u); }),
               (std::vector<BusAccess>{rd(0xC0, 0), wr(0xC0, 2)}));
     uint32_t a = 9, b = 9;
     EXPECT_EQ(VQ6192_INT_GetIntActiveMode(kChip, &a, &b), 0u);
     EXPECT_EQ(a, 1u);
     EXPECT_EQ(b, 0u);
-
-    irq().raise(0x100, 0x06B1);  // bits 0, 4, 5, 7, 9, 10
-    uint16_t out[5] = {};
-    EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_GetLocIntFlag(kChip, 77, 1, out), 0u); }),
-              (std::vector<BusAccess>{rd(0x100, 0x06B1), wr(0x100, 0x06B0)}));
-    EXPECT_EQ(std::vector<uint16_t>(out, out + 5), (std::vector<uint16_t>{1, 1, 1, 1, 1}));
-    EXPECT_EQ(model.peek(0x100), 0x0001);
-    irq().raise(0x100, 0x0200);
-    EXPECT_EQ(VQ6192_INT_GetLocIntFlag(kChip, 0, 0, out), 0u);
-    EXPECT_EQ(std::vector<uint16_t>(out, out + 5), (std::vector<uint16_t>{0, 0, 0, 1, 0}));
-    EXPECT_EQ(model.peek(0x100), 0x0201);
 
     model.poke(0x140, 0xFFFF);
     uint16_t index = 0;
@@ -127,29 +249,6 @@ TEST_F(Interrupts, PmuMpAndAtmEngines) {
     EXPECT_EQ(model.peek(0xC6), 1);
     EXPECT_EQ(VQ6192_INT_SetAtmIntEn(kChip, 0, 1), 0u);
     EXPECT_EQ(model.peek(0xC8), 2);
-
-    irq().raise(0x102, 1);
-    uint16_t f = 0;
-    EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_GetPmuInt(kChip, &f, 1), 0u); }),
-              (std::vector<BusAccess>{rd(0x102, 1), wr(0x102, 1)}));
-    EXPECT_EQ(f, 1);
-    EXPECT_EQ(model.peek(0x102), 0);
-    irq().raise(0x104, 1);
-    EXPECT_EQ(VQ6192_INT_GetMpInt(kChip, &f, 0), 0u);
-    EXPECT_EQ(f, 1);
-    EXPECT_EQ(model.peek(0x104), 1);
-
-    irq().raise(0x106, 3);
-    uint16_t f0 = 0, f1 = 0;
-    EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_GetAtmInt(kChip, &f0, &f1, 1), 0u); }),
-              (std::vector<BusAccess>{rd(0x106, 3), wr(0x106, 2), wr(0x106, 1)}));
-    EXPECT_EQ(f0, 1);
-    EXPECT_EQ(f1, 1);
-    EXPECT_EQ(model.peek(0x106), 0);
-    irq().raise(0x106, 2);
-    EXPECT_EQ(writes(traced([&] { EXPECT_EQ(VQ6192_INT_GetAtmInt(kChip, &f0, &f1, 0), 0u); })).size(), 0u);
-    EXPECT_EQ(f0, 0);
-    EXPECT_EQ(f1, 1);
 }
 
 TEST_F(Interrupts, CesTimingRecovery) {
@@ -163,33 +262,6 @@ TEST_F(Interrupts, CesTimingRecovery) {
     uint16_t inst = 0, f3 = 9, f2 = 9, f0 = 9;
     EXPECT_EQ(VQ6192_INT_GetCesTrInt(kChip, &inst, &f3, &f2, &f0, 1), VQ6192_INT_CES_TR_NONE);
     EXPECT_EQ(inst, 0xFFFF);
-    irq().raise(0x17060 + 2 * 7, 0xD);
-    irq().raise(0x17060 + 2 * 9, 0x4);
-    EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_GetCesTrInt(kChip, &inst, &f3, &f2, &f0, 1), 0u); }),
-              (std::vector<BusAccess>{rd(0x17010, 0x280), rd(0x1706E, 0xD), wr(0x1706E, 0xF)}));
-    EXPECT_EQ(inst, 7);
-    EXPECT_EQ((std::vector<uint16_t>{f3, f2, f0}), (std::vector<uint16_t>{1, 1, 1}));
-    EXPECT_EQ(VQ6192_INT_GetCesTrInt(kChip, &inst, &f3, &f2, &f0, 0), 0u);
-    EXPECT_EQ(inst, 9);
-    EXPECT_EQ((std::vector<uint16_t>{f3, f2, f0}), (std::vector<uint16_t>{0, 1, 0}));
-
-    struct Case {
-        uint32_t kind;
-        uint8_t mask;
-    };
-    for (const Case &c : {Case{8, 8}, Case{9, 1}, Case{7, 4}}) {
-        SCOPED_TRACE(c.kind);
-        irq().raise(0x17060 + 2 * 3, 0xF);
-        model.poke(0x17080 + 2 * 3, c.mask);
-        uint8_t out = 0;
-        EXPECT_EQ(VQ6192_INT_GetCesTrIntStat(kChip, 3, c.kind, 0, &out, 1), 0u);  // live: never cleared
-        EXPECT_EQ(out, c.mask);
-        EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_GetCesTrIntStat(kChip, 3, c.kind, 1, &out, 1), 0u); }),
-                  (std::vector<BusAccess>{rd(0x17066, 0xF), wr(0x17066, c.mask)}));
-        EXPECT_EQ(out, c.mask);
-        EXPECT_EQ(model.peek(0x17066), 0xF & ~c.mask);
-        model.poke(0x17066, 0);
-    }
     uint8_t out = 0;
     expectRefused(
         "kind 6", kIntPara, [&] { return VQ6192_INT_GetCesTrIntStat(kChip, 3, 6, 1, &out, 0); }, true);
@@ -216,16 +288,7 @@ TEST_F(Interrupts, CesChannels) {
     expectRefused("channel 352", kIntPara, [&] { return VQ6192_INT_SetCesIntEn(kChip, 352, 1, 0, 0); });
     expectRefused("en3 2", kIntPara, [&] { return VQ6192_INT_SetCesIntEn(kChip, 1, 1, 0, 2); });
 
-    // Channel 13, type 2: bit 4 x 1 + 2 = 6 of 0x16060 + 2 x 3.
-    irq().raise(0x16066, 0x0041);
-    model.poke(0x16266, 0x0040);
     uint8_t out = 0;
-    EXPECT_EQ(VQ6192_INT_GetCESIntStat(kChip, 13, 2, 0, &out, 1), 0u);
-    EXPECT_EQ(out, 1);
-    EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_GetCESIntStat(kChip, 13, 2, 1, &out, 1), 0u); }),
-              (std::vector<BusAccess>{rd(0x16066, 0x41), wr(0x16066, 0x40)}));
-    EXPECT_EQ(out, 1);
-    EXPECT_EQ(model.peek(0x16066), 0x0001);
     expectRefused(
         "type 3", kIntPara, [&] { return VQ6192_INT_GetCESIntStat(kChip, 13, 3, 1, &out, 1); }, true);
     expectRefused("channel 353", kIntPara,

@@ -17,19 +17,22 @@ std::vector<BusAccess> concat(std::initializer_list<std::vector<BusAccess>> part
     return out;
 }
 
+// The PLL2 check writes 4 into bits 0..10 of 0x100 as a field: bits 11..15 are written back as read.
 TEST_F(RamBist, HealthyBlockPassesWithTheFullSequenceAndItsWaits) {
     model.poke(0x62, 0xF123);
+    model.poke(0x100, 0xA800);
     uint8_t failed = 9;
     VQ6192_Platform_ResetVirtualTime();
     const auto t = writes(traced([&] { EXPECT_EQ(VQ6192_Base_RamBistTest(kChip, 3, &failed), 0u); }));
     EXPECT_EQ(failed, 0);
     // 3 x 1 us restart, 1 us check, 20 ms run, 1 ms start, done at the first poll, restart, check.
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 3u + 1 + 20000 + 1000 + 3 + 1);
-    EXPECT_EQ(t, concat({{wr(0x62, 0xF024)},
-                         kPll2Restart,
-                         {wr(0x100, 4), wr(0xA0, 8), wr(0xA2, 8), wr(0xA0, 0), wr(0xA2, 0), wr(0x62, 0xF123)},
-                         kPll2Restart,
-                         {wr(0x100, 4)}}));
+    EXPECT_EQ(
+        t, concat({{wr(0x62, 0xF024)},
+                   kPll2Restart,
+                   {wr(0x100, 0xA804), wr(0xA0, 8), wr(0xA2, 8), wr(0xA0, 0), wr(0xA2, 0), wr(0x62, 0xF123)},
+                   kPll2Restart,
+                   {wr(0x100, 4)}}));
     EXPECT_EQ(bist().runs(3), 1u);
     EXPECT_EQ(bist().clockSelAtStart(3), 36);
     EXPECT_TRUE(capture.traceTexts().empty());
