@@ -218,6 +218,22 @@ VQ6192_API uint32_t VQ6192_Base_GetMacClkSel(uint32_t chip, uint32_t *sel);
 VQ6192_API uint32_t VQ6192_Base_SetClkDetectSel(uint32_t chip, uint32_t sel);
 VQ6192_API uint32_t VQ6192_Base_GetClkDetectSel(uint32_t chip, uint32_t *sel);
 
+/* Diagnostic commands over the health operations: each writes a report into a 48128-byte text
+ * buffer (buf, last) and returns the status of the operation it wraps. */
+VQ6192_API uint32_t getversion(uint32_t chip, char *buf);
+VQ6192_API uint32_t getchipstatus(uint32_t chip, char *buf);
+VQ6192_API uint32_t getpllpowerdown(uint32_t chip, uint32_t pll, char *buf);
+VQ6192_API uint32_t getddrfifostats(uint32_t chip, char *buf);
+VQ6192_API uint32_t getddrcntstats(uint32_t chip, char *buf);
+VQ6192_API uint32_t getddrteststats(uint32_t chip, char *buf);
+VQ6192_API uint32_t getsdstxclksel(uint32_t chip, char *buf);
+VQ6192_API uint32_t gete3outclksel(uint32_t chip, char *buf);
+VQ6192_API uint32_t getmacclksel(uint32_t chip, char *buf);
+VQ6192_API uint32_t getclkdetectsel(uint32_t chip, char *buf);
+VQ6192_API uint32_t getdieid(uint32_t chip, char *buf);
+VQ6192_API uint32_t getsrvpowerdownen(uint32_t chip, char *buf);
+VQ6192_API uint32_t getsrvpdstat(uint32_t chip, char *buf);
+
 /* ==== Interrupt control (module INT) ============================================================ */
 
 /* Top-level interrupt sources (one-hot ids). */

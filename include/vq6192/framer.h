@@ -284,6 +284,32 @@ VQ6192_API uint32_t VQ6192_Framer_SetTsCesPrbsCfg(uint32_t chip, uint32_t pathTy
 VQ6192_API uint32_t VQ6192_Framer_GetTsCesPrbsCfg(uint32_t chip, uint32_t pathType, uint32_t dir, uint32_t e1,
                                                   uint32_t *tsBitmap, uint16_t *cesChnl);
 
+/* ---- Diagnostic commands ------------------------------------------------------------------------
+ * Each writes a report into a 48128-byte text buffer (buf, last) and returns the status of the
+ * operation it wraps, whole. */
+VQ6192_API uint32_t getfrmtdmmode(uint32_t chip, char *buf);
+VQ6192_API uint32_t getfrmmode(uint32_t chip, uint32_t e1, uint32_t dir, char *buf);
+VQ6192_API uint32_t getfrmclksource(uint32_t chip, uint32_t e1, char *buf);
+VQ6192_API uint32_t getfrme3txclksource(uint32_t chip, uint32_t e3, char *buf);
+VQ6192_API uint32_t getfrmalms(uint32_t chip, uint32_t e1, char *buf);
+VQ6192_API uint32_t getfrmet3alms(uint32_t chip, uint32_t e3, char *buf);
+VQ6192_API uint32_t getfrmcnts(uint32_t chip, uint32_t e1, char *buf);
+VQ6192_API uint32_t gett3errorstat(uint32_t chip, uint32_t e3, char *buf);
+VQ6192_API uint32_t getsdhauptr(uint32_t chip, char *buf);
+VQ6192_API uint32_t gettscfg(uint32_t chip, uint32_t dir, uint32_t e1, uint32_t ts, char *buf);
+VQ6192_API uint32_t gettspayload(uint32_t chip, uint32_t vc4, char *buf);
+VQ6192_API uint32_t gettssource(uint32_t chip, uint32_t dir, uint32_t src, char *buf);
+VQ6192_API uint32_t gettssmode(uint32_t chip, uint32_t e1, char *buf);
+VQ6192_API uint32_t gethtbloop(uint32_t chip, uint32_t zero, uint32_t idx, uint32_t kind, char *buf);
+VQ6192_API uint32_t gettsegdefaultbyte(uint32_t chip, uint32_t e1, char *buf);
+VQ6192_API uint32_t gettsloop(uint32_t chip, uint32_t loopPoint, uint32_t chnl, char *buf);
+VQ6192_API uint32_t getresetrfpstate(uint32_t chip, char *buf);
+VQ6192_API uint32_t getrfpenableonoff(uint32_t chip, char *buf);
+VQ6192_API uint32_t getrfpdelay(uint32_t chip, char *buf);
+VQ6192_API uint32_t gettsprbsins(uint32_t chip, char *buf);
+VQ6192_API uint32_t getprbserrinsert(uint32_t chip, char *buf);
+VQ6192_API uint32_t getprbsts(uint32_t chip, uint32_t dir, char *buf);
+
 VQ6192_EXTERN_C_END
 
 #endif /* VQ6192_FRAMER_H */
