@@ -172,9 +172,12 @@ VQ6192_API uint32_t getddrfifostats(uint32_t chip, char *buf) {
     const uint32_t rc = VQ6192_Base_GetDDRFifoStats(chip, &flags);
     vq::TextBuilder text(buf);
     text.add("        GetDDRFifoStats()\n");
-    size_t i = 0;
-    for (const vq::diag::Flag &f : vq::diag::kDdrFifoFlags) {
-        vq::diag::fieldLine(text, i++ % 2 == 0 ? vq::diag::kFlagFirstLine : vq::diag::kFlagSecondLine,
+    // The last flag has no partner and ends its line on its own.
+    constexpr size_t kLast = std::size(vq::diag::kDdrFifoFlags) - 1;
+    for (size_t i = 0; i <= kLast; ++i) {
+        const vq::diag::Flag &f = vq::diag::kDdrFifoFlags[i];
+        const bool first = i % 2 == 0 && i != kLast;
+        vq::diag::fieldLine(text, first ? vq::diag::kFlagFirstLine : vq::diag::kFlagSecondLine,
                             {f.label, flags.*f.flag});
     }
     text.add("%s", vq::diag::kPrintEnd);
