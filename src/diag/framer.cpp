@@ -334,6 +334,7 @@ VQ6192_API uint32_t getprbsts(uint32_t chip, uint32_t dir, char *buf) {
         }
     }
     text.add("%s", kPrbsRule)
+        .add("%s", kPrbsRule)
         .add("              E3: eSrv(1: PPP, 2: ATM , 3: CES) SrvChnl(0~max)\n")
         .add("              E3Chnl(336~347), BitMap(0~0xFFFFFFFF)\n")
         .add("%s", kPrbsRule)
