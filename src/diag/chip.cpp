@@ -29,39 +29,50 @@ struct Flag {
     const char *label;
     uint8_t VQ6192_DDR_FIFO_STAT::*flag;
 };
-#define VQ6192_FLAG(name)                  \
-    Flag {                                 \
-#name, &VQ6192_DDR_FIFO_STAT::name \
-    }
+#define FLAG(name) (Flag{#name, &VQ6192_DDR_FIFO_STAT::name})
+// clang-format off
 constexpr Flag kDdrFifoFlags[] = {
-    VQ6192_FLAG(bddr2cmpicrcerr),  VQ6192_FLAG(bddr2cppucrcerr),  VQ6192_FLAG(bddr2cpppecrcerr),
-    VQ6192_FLAG(bddr2cpktcrcerr),  VQ6192_FLAG(bddr2cpppicrcerr), VQ6192_FLAG(bddr2ccrpcrcerr),
-    VQ6192_FLAG(bddr2ccesecrcerr), VQ6192_FLAG(bddr2ccesicrcerr), VQ6192_FLAG(bddr2cimacrcerr),
-    VQ6192_FLAG(bddr2cpwe3crcerr), VQ6192_FLAG(bddr2catmcrcerr),  VQ6192_FLAG(btabrfull),
-    VQ6192_FLAG(btabwfull),        VQ6192_FLAG(brrecfiforerr),    VQ6192_FLAG(brrecfifowerr),
-    VQ6192_FLAG(brredfiforerr),    VQ6192_FLAG(brredfifowerr),    VQ6192_FLAG(btabwdfiforerr),
-    VQ6192_FLAG(btabwdfifowerr),   VQ6192_FLAG(btabcfiforerr),    VQ6192_FLAG(btabcfifowerr),
-    VQ6192_FLAG(batmrdfiforerr),   VQ6192_FLAG(batmrdfifowerr),   VQ6192_FLAG(batmwdfiforerr),
-    VQ6192_FLAG(batmwdfifowerr),   VQ6192_FLAG(batmcfiforerr),    VQ6192_FLAG(batmcfifowerr),
-    VQ6192_FLAG(bpwe3rdfiforerr),  VQ6192_FLAG(bpwe3rdfifowerr),  VQ6192_FLAG(bpwe3wdfiforerr),
-    VQ6192_FLAG(bpwe3wdfifowerr),  VQ6192_FLAG(bpwe3cfiforerr),   VQ6192_FLAG(bpwe3cfifowerr),
-    VQ6192_FLAG(bimardfiforerr),   VQ6192_FLAG(bimardfifowerr),   VQ6192_FLAG(bimawdfiforerr),
-    VQ6192_FLAG(bimawdfifowerr),   VQ6192_FLAG(bimacfiforerr),    VQ6192_FLAG(bimacfifowerr),
-    VQ6192_FLAG(bcesirdfiforerr),  VQ6192_FLAG(bcesirdfifowerr),  VQ6192_FLAG(bcesiwdfiforerr),
-    VQ6192_FLAG(bcesiwdfifowerr),  VQ6192_FLAG(bcesicfiforerr),   VQ6192_FLAG(bcesicfifowerr),
-    VQ6192_FLAG(bceserdfiforerr),  VQ6192_FLAG(bceserdfifowerr),  VQ6192_FLAG(bcesewdfiforerr),
-    VQ6192_FLAG(bcesewdfifowerr),  VQ6192_FLAG(bcesecfiforerr),   VQ6192_FLAG(bcesecfifowerr),
-    VQ6192_FLAG(bcrprdfiforerr),   VQ6192_FLAG(bcrprdfifowerr),   VQ6192_FLAG(bcrpwdfiforerr),
-    VQ6192_FLAG(bcrpwdfifowerr),   VQ6192_FLAG(bcrpcfiforerr),    VQ6192_FLAG(bcrpcfifowerr),
-    VQ6192_FLAG(bpppirdfiforerr),  VQ6192_FLAG(bpppirdfifowerr),  VQ6192_FLAG(bpppiwdfiforerr),
-    VQ6192_FLAG(bpppiwdfifowerr),  VQ6192_FLAG(bpppicfiforerr),   VQ6192_FLAG(bpppicfifowerr),
-    VQ6192_FLAG(bpktwdfiforerr),   VQ6192_FLAG(bpktwdfifowerr),   VQ6192_FLAG(bpktcfiforerr),
-    VQ6192_FLAG(bpktcfifowerr),    VQ6192_FLAG(bppperdfiforerr),  VQ6192_FLAG(bppperdfifowerr),
-    VQ6192_FLAG(bpppewdfiforerr),  VQ6192_FLAG(bpppewdfifowerr),  VQ6192_FLAG(bpppecfiforerr),
-    VQ6192_FLAG(bpppecfifowerr),   VQ6192_FLAG(bppurdfiforerr),   VQ6192_FLAG(bppurdfifowerr),
-    VQ6192_FLAG(bppucfiforerr),    VQ6192_FLAG(bppucfifowerr),
+    // 0xC004 bits 10..0
+    FLAG(bddr2cmpicrcerr), FLAG(bddr2cppucrcerr), FLAG(bddr2cpppecrcerr), FLAG(bddr2cpktcrcerr),
+    FLAG(bddr2cpppicrcerr), FLAG(bddr2ccrpcrcerr), FLAG(bddr2ccesecrcerr), FLAG(bddr2ccesicrcerr),
+    FLAG(bddr2cimacrcerr), FLAG(bddr2cpwe3crcerr), FLAG(bddr2catmcrcerr),
+    // 0xC060 bits 1, 0
+    FLAG(btabrfull), FLAG(btabwfull),
+    // 0xC100 bits 3..0
+    FLAG(brrecfiforerr), FLAG(brrecfifowerr), FLAG(brredfiforerr), FLAG(brredfifowerr),
+    // 0xC126 bits 3..0
+    FLAG(btabwdfiforerr), FLAG(btabwdfifowerr), FLAG(btabcfiforerr), FLAG(btabcfifowerr),
+    // 0xC12E bits 5..0
+    FLAG(batmrdfiforerr), FLAG(batmrdfifowerr), FLAG(batmwdfiforerr),
+    FLAG(batmwdfifowerr), FLAG(batmcfiforerr), FLAG(batmcfifowerr),
+    // 0xC136 bits 5..0
+    FLAG(bpwe3rdfiforerr), FLAG(bpwe3rdfifowerr), FLAG(bpwe3wdfiforerr),
+    FLAG(bpwe3wdfifowerr), FLAG(bpwe3cfiforerr), FLAG(bpwe3cfifowerr),
+    // 0xC13E bits 5..0
+    FLAG(bimardfiforerr), FLAG(bimardfifowerr), FLAG(bimawdfiforerr),
+    FLAG(bimawdfifowerr), FLAG(bimacfiforerr), FLAG(bimacfifowerr),
+    // 0xC146 bits 5..0
+    FLAG(bcesirdfiforerr), FLAG(bcesirdfifowerr), FLAG(bcesiwdfiforerr),
+    FLAG(bcesiwdfifowerr), FLAG(bcesicfiforerr), FLAG(bcesicfifowerr),
+    // 0xC14E bits 5..0
+    FLAG(bceserdfiforerr), FLAG(bceserdfifowerr), FLAG(bcesewdfiforerr),
+    FLAG(bcesewdfifowerr), FLAG(bcesecfiforerr), FLAG(bcesecfifowerr),
+    // 0xC156 bits 5..0
+    FLAG(bcrprdfiforerr), FLAG(bcrprdfifowerr), FLAG(bcrpwdfiforerr),
+    FLAG(bcrpwdfifowerr), FLAG(bcrpcfiforerr), FLAG(bcrpcfifowerr),
+    // 0xC15E bits 5..0
+    FLAG(bpppirdfiforerr), FLAG(bpppirdfifowerr), FLAG(bpppiwdfiforerr),
+    FLAG(bpppiwdfifowerr), FLAG(bpppicfiforerr), FLAG(bpppicfifowerr),
+    // 0xC166 bits 3..0
+    FLAG(bpktwdfiforerr), FLAG(bpktwdfifowerr), FLAG(bpktcfiforerr), FLAG(bpktcfifowerr),
+    // 0xC16E bits 5..0
+    FLAG(bppperdfiforerr), FLAG(bppperdfifowerr), FLAG(bpppewdfiforerr),
+    FLAG(bpppewdfifowerr), FLAG(bpppecfiforerr), FLAG(bpppecfifowerr),
+    // 0xC176 bits 5, 4, 1, 0
+    FLAG(bppurdfiforerr), FLAG(bppurdfifowerr), FLAG(bppucfiforerr), FLAG(bppucfifowerr),
 };
-#undef VQ6192_FLAG
+// clang-format on
+#undef FLAG
 static_assert(std::size(kDdrFifoFlags) == VQ6192_DDR_FIFO_STAT_NUM);
 
 struct Counter {

@@ -24,10 +24,8 @@ struct Member {
     uint8_t Record::*byte;
 };
 
-#define VQ6192_MEMBER(record, name) \
-    Member<record> {                \
-#name, &record::name        \
-    }
+// A member of a record of one-byte fields, by its own name.
+#define VQ6192_MEMBER(record, name) (Member<record>{#name, &record::name})
 
 // The E3/T3 alarm record in the chip's order: S0, S1, E3 A, E3 D, T3 A, T3 D.
 constexpr Member<VQ6192_FRM_ET3_ALARM_S> kEt3Alarms[] = {
@@ -113,7 +111,7 @@ void value(char *buf, const char *title, std::initializer_list<Field> fields) {
 constexpr char kPrbsRule[] = "============================================================================\n";
 constexpr uint32_t kCesService = 3;
 constexpr uint32_t kPrbsE1PathType = 1;  // E1/T1 paths 0..335 taken as they are
-constexpr uint32_t kPrbsE3PathType = 2;
+constexpr uint32_t kPrbsE3PathType = 2;  // E3/T3 paths 0..11
 
 }  // namespace
 }  // namespace vq::diag
