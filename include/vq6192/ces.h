@@ -315,6 +315,43 @@ VQ6192_API uint32_t VQ6192_CES_SetBdPllClkSrc(uint32_t chip, uint32_t domain, ui
 VQ6192_API uint32_t VQ6192_CES_SetXcrPro(uint32_t chip, uint32_t clk, uint32_t domain, uint32_t ch,
                                          uint32_t en);
 
+/* ---- Diagnostic commands: the result as text in a 48128-byte buffer (null: nothing printed) ---- */
+VQ6192_API uint32_t getceschanenable(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t getcestscompress(uint32_t chip, uint32_t ch, uint32_t dir, char *buf);
+VQ6192_API uint32_t getcesvc4jstthld(uint32_t chip, char *buf);
+VQ6192_API uint32_t getceschanpara(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t getcesrtpconfig(uint32_t chip, uint32_t ch, uint32_t dir, char *buf);
+VQ6192_API uint32_t getceserrpktdropenable(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t getcesalmctrl(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t getcestxlrmalm(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t gettxrevrthld(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcesinsertcode(uint32_t chip, char *buf);
+VQ6192_API uint32_t getingfrmtocesalmmap(uint32_t chip, uint32_t frmCh, char *buf);
+VQ6192_API uint32_t getcesobligaterec(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcesloopback(uint32_t chip, char *buf);
+VQ6192_API uint32_t getvc4cesloopback(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcescompensationenable(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t getcescrcompensationenable(uint32_t chip, uint32_t domain, char *buf);
+VQ6192_API uint32_t getcescrmode(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcescrintmode(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcescrprocess(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcescrmaxcompensationthld(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcescrtimestampinitmode(uint32_t chip, uint32_t domain, char *buf);
+VQ6192_API uint32_t getcesalmthld(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcesfifothld(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcespktsendstat(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t getcespktrecstat(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t getcesjtrbufdatastat(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t getcesdbgstat(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t getcesrxtxfifoalm(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcesrxtxfifohistoryalm(uint32_t chip, char *buf);
+VQ6192_API uint32_t getceschanalm(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t getceschanhistoryalm(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t getsohbypassmode(uint32_t chip, char *buf);
+VQ6192_API uint32_t DbgGetCesPara(uint32_t chip, uint32_t first, uint32_t last, char *buf);
+VQ6192_API uint32_t DbgGetCesChannelInfo(uint32_t chip, uint32_t ch, char *buf);
+VQ6192_API uint32_t DbgGetCesRtpParam(uint32_t chip, uint32_t ch, char *buf);
+
 VQ6192_EXTERN_C_END
 
 #endif /* VQ6192_CES_H */
