@@ -1,0 +1,128 @@
+// CES clock recovery: the mode mapping both ways, the level-2 source codes, the level-1 selection and
+// the cross-channel differential recovery.
+#include "ces_fixture.h"
+
+namespace {
+
+using namespace cestest;
+
+using ClockRecovery = CesTest;
+
+// Software modes CR_DIFF 0, CR_STAMP 2, CR_NONE 4 are hardware 0, 1, 3; hardware 2 reads back as 5.
+TEST_F(ClockRecovery, ModeMappingBothWays) {
+    struct Case {
+        uint32_t mode, hw;
+    } const cases[] = {{0, 0}, {2, 1}, {4, 3}};
+    VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_CES, 15);  // the mode's information line is level 1
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.mode);
+        model.poke(0x16386, 0xC000);
+        const VQ6192_CES_CR_MODE_S m = {c.mode, 40, 1, 1};
+        capture.clear();
+        ASSERT_EQ(VQ6192_CES_SetCesCRMode(kChip, 3, &m), 0u);
+        EXPECT_EQ(model.peek(0x16386), 0xC000 | c.hw | 40 << 2 | 1 << 11 | 1 << 13);
+        EXPECT_EQ(capture.traceTexts(),
+                  std::vector<std::string>{"Info: VQ6192_CES_SetCesCRMode(3,3) Set CES Channel:[40] CR Mode:[" +
+                                           std::to_string(c.mode) + "]\r\n"});
+        VQ6192_CES_CR_MODE_S out = {};
+        ASSERT_EQ(VQ6192_CES_GetCesCRMode(kChip, 3, &out), 0u);
+        EXPECT_EQ((std::vector<uint32_t>{out.eTrMode, out.wCesChanNo, out.wClkRateMode, out.wTrPLCEn}),
+                  (std::vector<uint32_t>{c.mode, 40, 1, 1}));
+    }
+    model.poke(0x16386, 0x0002);
+    VQ6192_CES_CR_MODE_S out = {};
+    ASSERT_EQ(VQ6192_CES_GetCesCRMode(kChip, 3, &out), 0u);
+    EXPECT_EQ(out.eTrMode, 5u);
+
+    const VQ6192_CES_CR_MODE_S add = {2, 99, 2, 0};
+    model.poke(0x16386, 0xC000 | 40 << 2 | 1 << 13);
+    ASSERT_EQ(VQ6192_CES_AddDomain_SetCesCRMode(kChip, 3, &add), 0u);
+    EXPECT_EQ(model.peek(0x16386), 0xC000 | 1 | 40 << 2 | 2 << 11) << "the bound channel stays 40";
+
+    for (const VQ6192_CES_CR_MODE_S &bad :
+         {VQ6192_CES_CR_MODE_S{1, 0, 0, 0}, VQ6192_CES_CR_MODE_S{3, 0, 0, 0},
+          VQ6192_CES_CR_MODE_S{5, 0, 0, 0}, VQ6192_CES_CR_MODE_S{0, 352, 0, 0},
+          VQ6192_CES_CR_MODE_S{0, 0, 3, 0}, VQ6192_CES_CR_MODE_S{0, 0, 0, 2}}) {
+        expectRefused("mode", [&] { return VQ6192_CES_SetCesCRMode(kChip, 3, &bad); });
+    }
+    expectRefused("domain 16", [&] { return VQ6192_CES_SetCesCRMode(kChip, 16, &add); });
+}
+
+// Level-2 source codes by rate type and source kind, and the refusals of the code table.
+TEST_F(ClockRecovery, LevelTwoSourceCodes) {
+    struct Case {
+        uint32_t rate, kind, index;
+        int code;  // -1: refused
+    } const cases[] = {
+        {0, 0, 15, 15}, {0, 1, 5, 21},  {0, 1, 6, -1},  {0, 2, 0, 26}, {0, 2, 1, -1}, {0, 3, 0, 31},
+        {0, 0, 16, -1}, {1, 0, 11, 11}, {1, 0, 12, -1}, {1, 1, 0, -1}, {1, 2, 0, 26}, {1, 3, 0, 31},
+        {3, 0, 3, 3},   {3, 0, 4, -1},  {3, 2, 0, 26},  {3, 3, 0, -1}, {2, 0, 9, 9},  {2, 1, 2, 18},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(testing::Message() << "rate " << c.rate << " kind " << c.kind << " index " << c.index);
+        model.poke(0x16364, 0xFF00);
+        const VQ6192_CES_CR_LV2_CLK_S cfg = {c.kind, 1, c.rate, c.index};
+        if (c.code < 0) {
+            expectRefused("code", [&] { return VQ6192_CES_SetIngCRLv2Clk(kChip, 2, &cfg); });
+            continue;
+        }
+        ASSERT_EQ(VQ6192_CES_SetIngCRLv2Clk(kChip, 2, &cfg), 0u);
+        EXPECT_EQ(model.peek(0x16364), 0xFF00 | 1 | c.code << 1 | c.rate << 6);
+        VQ6192_CES_CR_LV2_CLK_S out = {};
+        ASSERT_EQ(VQ6192_CES_GetIngCRLv2Clk(kChip, 2, &out), 0u);
+        if (c.rate != 2) {
+            EXPECT_EQ((std::vector<uint32_t>{out.ulSrcKind, out.ulTsInit, out.ulRateType, out.ulIndex}),
+                      (std::vector<uint32_t>{c.kind, 1, c.rate, c.index}));
+        } else {
+            EXPECT_EQ(out.ulRateType, 3u) << "bit 7 set reads as VC-4";
+        }
+    }
+    uint32_t kind = 9, index = 9, flag = 9;
+    model.poke(0x16364, 31 << 1);
+    ASSERT_EQ(VQ6192_CES_GetIngCRLv2VC4Clk(kChip, 2, &kind, &index, &flag), 0u);
+    EXPECT_EQ(kind, 2u) << "code 31 is no VC-4 source";
+    ASSERT_EQ(VQ6192_CES_GetIngCRLv2E3Clk(kChip, 2, &kind, &index, &flag), 0u);
+    EXPECT_EQ(kind, 3u);
+}
+
+TEST_F(ClockRecovery, LevelOneSelectionAndDifferentialRecovery) {
+    model.poke(0x3E2C2, 0x8000);
+    model.poke(0x3E2CA + 32, 0x1234);
+    ASSERT_EQ(VQ6192_CES_SetIngCRLv1E1Clk(kChip, 2, 1, 2, 83, 1), 0u);
+    EXPECT_EQ(model.peek(0x3E2C2), 0x8004);
+    EXPECT_EQ(model.peek(0x3E2C8 + 32), 83 + 2 * 128 + 512);
+    EXPECT_EQ(model.peek(0x3E2CA + 32), 0x1234) << "only kind 0 writes the index register";
+    uint32_t en = 9, kind = 9, index = 9, flag = 9;
+    ASSERT_EQ(VQ6192_CES_GetIngCRLv1E1Clk(kChip, 2, &en, &kind, &index, &flag), 0u);
+    EXPECT_EQ((std::vector<uint32_t>{en, kind, index, flag}), (std::vector<uint32_t>{1, 2, 83, 1}));
+    ASSERT_EQ(VQ6192_CES_SetIngCRLv1E1Clk(kChip, 2, 0, 0, 5, 1), 0u);
+    EXPECT_EQ(model.peek(0x3E2CA + 32), 5 + 128);
+    ASSERT_EQ(VQ6192_CES_GetIngCRLv1E1Clk(kChip, 2, &en, &kind, &index, &flag), 0u);
+    EXPECT_EQ((std::vector<uint32_t>{en, kind, index, flag}), (std::vector<uint32_t>{0, 0, 5, 1}));
+    expectRefused("kind 1 while disabled", [&] { return VQ6192_CES_SetIngCRLv1E1Clk(kChip, 2, 0, 1, 5, 0); });
+    expectRefused("index 84", [&] { return VQ6192_CES_SetIngCRLv1E1Clk(kChip, 2, 1, 0, 84, 0); });
+
+    // Channel 100 recovered differentially through domain 4 from clock 9, then switched off.
+    setEntry(kTxCw, 100, 0);
+    model.poke(0x16388, 0xC003);
+    ASSERT_EQ(VQ6192_CES_SetXcrPro(kChip, 9, 4, 100, 1), 0u);
+    EXPECT_EQ(bits(kTxCw, 100, 47, 6), 4u << 2 | 1) << "Txltssel 49..52, Txdiffclken 47";
+    EXPECT_EQ(model.peek(0x16368) >> 1 & 0x1F, 4);
+    EXPECT_EQ(model.peek(0x3E2CA + 64), 137);
+    VQ6192_CES_CR_MODE_S m = {};
+    ASSERT_EQ(VQ6192_CES_GetCesCRMode(kChip, 4, &m), 0u);
+    EXPECT_EQ(m.eTrMode, 0u) << "CR_DIFF";
+    ASSERT_EQ(VQ6192_CES_SetXcrPro(kChip, 9, 4, 100, 0), 0u);
+    EXPECT_EQ(bits(kTxCw, 100, 47, 1), 0u);
+    EXPECT_EQ(model.peek(0x16388), 0xC003);
+    EXPECT_EQ(model.peek(0x3E2CA + 64), 0);
+    EXPECT_TRUE(traced([&] { EXPECT_EQ(VQ6192_CES_SetXcrPro(kChip, 9, 4, 100, 2), 0u); }).empty());
+
+    model.poke(0x243E + 2 * 11, 0xFFDF);
+    ASSERT_EQ(VQ6192_CES_SetIngCRLv1E3Clk(kChip, 11, 1), 0u);
+    EXPECT_EQ(model.peek(0x243E + 22), 0xFFFF);
+    ASSERT_EQ(VQ6192_CES_SetHtb2BdPllChannel(kChip, 7), 0u);
+    EXPECT_EQ(model.peek(0x3E2CA + 16 * 7), 128 + 7);
+}
+
+}  // namespace
