@@ -10,7 +10,8 @@
 namespace vq::diag {
 namespace {
 
-// The SDH and telecom commands hand back the low 16 bits of the operation's status.
+// The SDH and telecom commands hand back the low 16 bits of the operation's status. Every command tests
+// its buffer before it queries the chip, so a null buffer returns 0 and touches nothing.
 constexpr uint32_t low16(uint32_t status) {
     return status & 0xFFFFu;
 }

@@ -481,6 +481,7 @@ VQ6192_API uint32_t VQ6192_SDH_GetRxLpShouldJ2(uint32_t chip, uint32_t vc4, uint
     return 0;
 }
 
+// C2 is one byte: larger values are refused rather than cut.
 VQ6192_API uint32_t VQ6192_SDH_SetRxLpShouldC2(uint32_t chip, uint32_t vc4, uint32_t tug3, uint32_t c2) {
     if (badVc3(chip, vc4, tug3) || c2 > 0xFF) {
         return paraErr(chip);

@@ -48,7 +48,8 @@ constexpr EntryField kFthBits[kBitPosNum] = {
     entryField("Samfthsbt", "Rxsabit2"), entryField("Samfthsbt", "Rxsabit3")};
 constexpr uint32_t kInsTable = tableId("Saminssbt");
 constexpr uint32_t kFthTable = tableId("Samfthsbt");
-constexpr uint32_t kEntryWords = 4;
+// Room for every data register a table block moves (up to 32 halves), not just the entry's 20 bits.
+constexpr uint32_t kEntryWords = 16;
 
 constexpr uint32_t chanReg(uint32_t e1) {
     return kChanBase + 2 * e1;

@@ -248,6 +248,12 @@ TEST_F(SdhOverheadTest, ErrorInsertion) {
         EXPECT_EQ(v, c.value);
         EXPECT_EQ(m, c.mode);
     }
+    // Bits 9..8 = 1, which the setter never writes, read back as mode 0.
+    model.poke(th(1) + 8, 0x0123);
+    uint8_t v1, m1;
+    ASSERT_EQ(VQ6192_SDH_GetTxHpB3Err(kChip, 1, &v1, &m1), 0u);
+    EXPECT_EQ(v1, 0x23);
+    EXPECT_EQ(m1, 0);
     // Refused while the B3 source select is not 0.
     model.poke(th(1) + 4, 1u << 2);
     model.setTrace(true);

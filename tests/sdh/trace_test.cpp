@@ -77,6 +77,8 @@ TEST(TraceCrc, KnownValues) {
         const uint8_t len = static_cast<uint8_t>(std::string(c.name) == "empty" ? 0 : c.bytes.size());
         EXPECT_EQ(VQ6192_SDH_GetCRC7(3, c.bytes.data(), len, c.useFirst), c.expected) << c.name;
     }
+    // No buffer: the CRC of an empty trace.
+    EXPECT_EQ(VQ6192_SDH_GetCRC7(3, nullptr, 16, 0), 0x80);
 }
 
 class SdhTraceTest : public ChipTest {
