@@ -6,6 +6,9 @@
 #include "vq6192/sim/framers.h"
 #include "vq6192/sim/interrupts.h"
 #include "vq6192/sim/ram_bist.h"
+#include "vq6192/sim/sam.h"
+#include "vq6192/sim/sdh_paths.h"
+#include "vq6192/sim/telecom.h"
 
 namespace vq6192::sim {
 
@@ -16,6 +19,9 @@ void installBlocks(ChipModel &model) {
     model.block<DdrBlock>();
     model.block<Framers>();
     model.block<CesBlock>();
+    model.block<SdhPaths>();
+    model.block<TelecomBus>();
+    model.block<SamBlock>();
 }
 
 }  // namespace vq6192::sim
