@@ -2,8 +2,10 @@
 #include "vq6192/sim.h"
 #include "vq6192/sim/chip_control.h"
 #include "vq6192/sim/ddr.h"
+#include "vq6192/sim/eth.h"
 #include "vq6192/sim/framers.h"
 #include "vq6192/sim/interrupts.h"
+#include "vq6192/sim/mac.h"
 #include "vq6192/sim/ram_bist.h"
 
 namespace vq6192::sim {
@@ -14,6 +16,8 @@ void installBlocks(ChipModel &model) {
     model.block<RamBistBlock>();
     model.block<DdrBlock>();
     model.block<Framers>();
+    model.block<EthBlock>();
+    model.block<MacBlock>();
 }
 
 }  // namespace vq6192::sim
