@@ -2,6 +2,7 @@
 // tables by their select codes, and refusals that must touch nothing.
 #pragma once
 
+#include <cstring>
 #include <functional>
 #include <string>
 #include <vector>
