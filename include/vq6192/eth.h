@@ -339,6 +339,141 @@ VQ6192_API uint32_t VQ6192_MAC_GetPortPauseAddr(uint32_t chip, uint32_t port, ui
 VQ6192_API uint32_t VQ6192_MAC_GetPortMibCnt(uint32_t chip, uint32_t port, uint32_t rec[132]);
 VQ6192_API uint32_t VQ6192_MAC_GetPortMibCntDfx(uint32_t chip, uint32_t tableId, uint32_t rec[132]);
 
+/* ==== Diagnostic commands ======================================================================= */
+
+/* Each writes its report into a 48128-byte text buffer (buf, last; null: no text) and returns the
+ * status of the operation it wraps. Header records are 72 bytes (18 big-endian u32 fields), MAC
+ * attributes one 16-bit value per field of VQ6192_ETH_MAC_ATTR_S. */
+VQ6192_API uint32_t getpsnethinfo(uint32_t chip, uint32_t ch, uint32_t type, char *buf);
+VQ6192_API uint32_t setpsnethinfo(uint32_t chip, uint32_t ch, uint32_t type, const uint8_t *info, char *buf);
+VQ6192_API uint32_t modifypsnethinfo(uint32_t chip, uint32_t ch, uint32_t type, const uint8_t *mask,
+                                     const uint8_t *info, char *buf);
+VQ6192_API uint32_t setpsnethipaddr(uint32_t chip, uint32_t ch, uint32_t type, uint32_t sa, uint32_t da,
+                                    char *buf);
+VQ6192_API uint32_t setingvlanid(uint32_t chip, uint32_t type, uint32_t ch, uint32_t vlan, char *buf);
+VQ6192_API uint32_t getingvlanid(uint32_t chip, uint32_t type, uint32_t ch, char *buf);
+VQ6192_API uint32_t setsrvpktingda(uint32_t chip, uint32_t type, uint32_t ch, uint32_t low, uint32_t mid,
+                                   uint32_t high, char *buf);
+VQ6192_API uint32_t setatmcespmuencplbl(uint32_t chip, uint32_t ch, uint32_t type, uint32_t encp,
+                                        uint32_t label, uint32_t inLabel, char *buf);
+VQ6192_API uint32_t setppppmuencplbl(uint32_t chip, uint32_t ch, uint32_t type, uint32_t encp, uint32_t label,
+                                     uint32_t gre, char *buf);
+VQ6192_API uint32_t setegmplsbase(uint32_t chip, uint32_t sel, uint32_t base, char *buf);
+VQ6192_API uint32_t getegmplsbase(uint32_t chip, uint32_t sel, char *buf);
+VQ6192_API uint32_t setatmcesegmpls2chnl(uint32_t chip, uint32_t ch, uint32_t type, uint32_t inLabel,
+                                         uint32_t sel, uint32_t en, char *buf);
+VQ6192_API uint32_t getatmcesegmpls2chnl(uint32_t chip, uint32_t ch, uint32_t type, char *buf);
+VQ6192_API uint32_t setegvlanid2chnl(uint32_t chip, uint32_t vlan, uint32_t type, uint32_t ch, char *buf);
+VQ6192_API uint32_t getegvlanid2chnl(uint32_t chip, uint32_t vlan, char *buf);
+VQ6192_API uint32_t setingpppmp2pid(uint32_t chip, uint32_t ch, uint32_t kind, uint32_t pid, uint32_t valid,
+                                    char *buf);
+VQ6192_API uint32_t getingpppmp2pid(uint32_t chip, uint32_t ch, uint32_t kind, char *buf);
+VQ6192_API uint32_t setegpid2pppmp(uint32_t chip, uint32_t pid, uint32_t ch, uint32_t kind, uint32_t en,
+                                   char *buf);
+VQ6192_API uint32_t getegpid2pppmp(uint32_t chip, uint32_t pid, char *buf);
+VQ6192_API uint32_t setsrvppppro2ethtypebyidx(uint32_t chip, uint32_t idx, uint32_t dir, uint32_t ppp,
+                                              uint32_t type, uint32_t active, char *buf);
+VQ6192_API uint32_t getsrvppppro2ethtype(uint32_t chip, uint32_t idx, uint32_t dir, char *buf);
+VQ6192_API uint32_t setppppro2ethpro(uint32_t chip, uint32_t idx, uint32_t ppp, uint32_t cpu, uint32_t active,
+                                     char *buf);
+VQ6192_API uint32_t getppppro2ethpro(uint32_t chip, uint32_t idx, char *buf);
+VQ6192_API uint32_t ppppro2type(uint32_t chip, char *buf);
+VQ6192_API uint32_t setpmuipglbattr(uint32_t chip, uint32_t ver, uint32_t ihl, uint32_t ident, uint32_t flags,
+                                    uint32_t offset, uint32_t daChk, char *buf);
+VQ6192_API uint32_t getpmuipglbattr(uint32_t chip, char *buf);
+VQ6192_API uint32_t setpmugreglbattr(uint32_t chip, uint32_t ver, uint32_t type0, uint32_t type1, char *buf);
+VQ6192_API uint32_t getpmugreglbattr(uint32_t chip, char *buf);
+VQ6192_API uint32_t setpmuudpsport(uint32_t chip, uint32_t port, char *buf);
+VQ6192_API uint32_t getpmuudpsport(uint32_t chip, char *buf);
+VQ6192_API uint32_t setpmuptnctrl(uint32_t chip, const uint8_t *sel, const uint8_t *val, char *buf);
+VQ6192_API uint32_t getpmuptnctrl(uint32_t chip, char *buf);
+VQ6192_API uint32_t setvlandisable(uint32_t chip, uint32_t disable, char *buf);
+VQ6192_API uint32_t getvlandisable(uint32_t chip, char *buf);
+VQ6192_API uint32_t setpppcpuinsertenable(uint32_t chip, uint32_t insert, uint32_t toCpu, char *buf);
+VQ6192_API uint32_t setmpppppauseen(uint32_t chip, uint32_t srvType, uint32_t en, char *buf);
+VQ6192_API uint32_t getmpppppauseen(uint32_t chip, char *buf);
+VQ6192_API uint32_t setethpausepara(uint32_t chip, uint32_t daSel, uint32_t p1, uint32_t p2, uint32_t p3,
+                                    uint32_t p4, char *buf);
+VQ6192_API uint32_t setpppprotocoltype(uint32_t chip, uint32_t mode, uint32_t v1, uint32_t v2, char *buf);
+VQ6192_API uint32_t setpppcpuhead(uint32_t chip, uint32_t en, uint32_t len, uint32_t v1, uint32_t v2,
+                                  char *buf);
+VQ6192_API uint32_t setingpmupws(uint32_t chip, uint32_t value, char *buf);
+VQ6192_API uint32_t getingpmupws(uint32_t chip, char *buf);
+VQ6192_API uint32_t ethinit(uint32_t chip, uint32_t mode, char *buf);
+VQ6192_API uint32_t getmacno(uint32_t chip, char *buf);
+VQ6192_API uint32_t setserdesmacaddr(uint32_t chip, uint32_t mac, const uint16_t *addr, char *buf);
+VQ6192_API uint32_t getserdesmacaddr(uint32_t chip, uint32_t mac, char *buf);
+VQ6192_API uint32_t setmacattr(uint32_t chip, uint32_t mac, const uint16_t *attr, const uint16_t *sel,
+                               char *buf);
+VQ6192_API uint32_t getmacattr(uint32_t chip, uint32_t mac, char *buf);
+VQ6192_API uint32_t getmaclinkstat(uint32_t chip, uint32_t mac, char *buf);
+VQ6192_API uint32_t setmacloop(uint32_t chip, uint32_t mac, uint32_t mode, char *buf);
+VQ6192_API uint32_t getmacloop(uint32_t chip, uint32_t mac, char *buf);
+VQ6192_API uint32_t setserdesloop(uint32_t chip, uint32_t lane, uint32_t point, uint32_t en, char *buf);
+VQ6192_API uint32_t getserdesloop(uint32_t chip, uint32_t lane, char *buf);
+VQ6192_API uint32_t setserdesallchnlreset(uint32_t chip, uint32_t en, char *buf);
+VQ6192_API uint32_t getserdesallchnlreset(uint32_t chip, char *buf);
+VQ6192_API uint32_t setserdeschnlreset(uint32_t chip, uint32_t lane, uint32_t en, char *buf);
+VQ6192_API uint32_t getserdeschnlreset(uint32_t chip, uint32_t lane, char *buf);
+VQ6192_API uint32_t setserdesallchnlpowerdown(uint32_t chip, uint32_t en, char *buf);
+VQ6192_API uint32_t getserdesallchnlpowerdown(uint32_t chip, char *buf);
+VQ6192_API uint32_t getsesdesalmerr(uint32_t chip, uint32_t lane, char *buf);
+VQ6192_API uint32_t getmacper(uint32_t chip, uint32_t mac, char *buf);
+VQ6192_API uint32_t getmaccnt(uint32_t chip, uint32_t unused, uint32_t mac, char *buf);
+VQ6192_API uint32_t geteth1per(uint32_t chip, char *buf);
+VQ6192_API uint32_t seteth1wrrweight(uint32_t chip, uint32_t cls, uint32_t weight, char *buf);
+VQ6192_API uint32_t geteth1wrrweight(uint32_t chip, uint32_t cls, char *buf);
+VQ6192_API uint32_t setethglbpauseenable(uint32_t chip, uint32_t en, char *buf);
+VQ6192_API uint32_t setethppplengthenable(uint32_t chip, uint32_t en1, uint32_t en0, char *buf);
+VQ6192_API uint32_t seteth1maxlen(uint32_t chip, uint32_t len, char *buf);
+VQ6192_API uint32_t seteth1portsendmode(uint32_t chip, uint32_t mode, char *buf);
+VQ6192_API uint32_t setethappinterface(uint32_t chip, uint32_t en, char *buf);
+VQ6192_API uint32_t getethappinterface(uint32_t chip, char *buf);
+VQ6192_API uint32_t setselftestglbctl(uint32_t chip, uint32_t dir, uint32_t mac, uint32_t pattern,
+                                      uint32_t len, char *buf);
+VQ6192_API uint32_t getselftestglbctl(uint32_t chip, char *buf);
+VQ6192_API uint32_t setselftestchnlen(uint32_t chip, const uint16_t *en, char *buf);
+VQ6192_API uint32_t getselftestchnlen(uint32_t chip, char *buf);
+VQ6192_API uint32_t setselftestprbs(uint32_t chip, uint32_t ch, uint32_t en, char *buf);
+VQ6192_API uint32_t getselftestprbs(uint32_t chip, char *buf);
+VQ6192_API uint32_t setselftestrate(uint32_t chip, uint32_t rate, char *buf);
+VQ6192_API uint32_t getselftestrate(uint32_t chip, char *buf);
+VQ6192_API uint32_t setselftesten(uint32_t chip, uint32_t en5, uint32_t en7, char *buf);
+VQ6192_API uint32_t getselftesten(uint32_t chip, char *buf);
+VQ6192_API uint32_t setselftesttxheaddata(uint32_t chip, uint32_t idx, const uint8_t *data, uint32_t len,
+                                          char *buf);
+VQ6192_API uint32_t getselftesttxheaddata(uint32_t chip, uint32_t idx, char *buf);
+VQ6192_API uint32_t setselftestshouldrxheaddata(uint32_t chip, uint32_t idx, const uint8_t *data, char *buf);
+VQ6192_API uint32_t setselftestshouldrxheaddatamsk(uint32_t chip, uint32_t idx, const uint8_t *data,
+                                                   char *buf);
+VQ6192_API uint32_t getselftestshouldrxheaddata(uint32_t chip, uint32_t idx, char *buf);
+VQ6192_API uint32_t startcapethpkt(uint32_t chip, uint32_t dir, uint32_t len, const uint8_t *match,
+                                   const uint8_t *option, char *buf);
+VQ6192_API uint32_t stopcapethpkt(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcapethpkt(uint32_t chip, char *buf);
+VQ6192_API uint32_t Vq6192CapEthPkt(uint32_t chip, uint32_t dir, char *buf);
+VQ6192_API uint32_t insertpppprotocolpkt(uint32_t chip, const uint8_t *data, uint32_t len, char *buf);
+VQ6192_API uint32_t readpppprotocolpkt(uint32_t chip, char *buf);
+VQ6192_API uint32_t COUNT_ZERO_NUM(uint32_t x);
+VQ6192_API uint32_t cdk_setportworkmode(uint32_t chip, uint32_t port, uint32_t mode, char *buf);
+VQ6192_API uint32_t cdk_getportworkmode(uint32_t chip, uint32_t port, char *buf);
+VQ6192_API uint32_t cdk_getportlinkstatus(uint32_t chip, uint32_t port, uint32_t x, char *buf);
+VQ6192_API uint32_t cdk_setporttxen(uint32_t chip, uint32_t port, uint32_t v, char *buf);
+VQ6192_API uint32_t cdk_setportrxen(uint32_t chip, uint32_t port, uint32_t v, char *buf);
+VQ6192_API uint32_t cdk_setportrxfcsen(uint32_t chip, uint32_t port, uint32_t v, char *buf);
+VQ6192_API uint32_t cdk_setporttxfcsen(uint32_t chip, uint32_t port, uint32_t v, char *buf);
+VQ6192_API uint32_t cdk_setporttxpaden(uint32_t chip, uint32_t port, uint32_t v, char *buf);
+VQ6192_API uint32_t cdk_setportrxundersizepkten(uint32_t chip, uint32_t port, uint32_t v, char *buf);
+VQ6192_API uint32_t cdk_setportrxpadstripen(uint32_t chip, uint32_t port, uint32_t v, char *buf);
+VQ6192_API uint32_t cdk_setportmaxpktlencfg(uint32_t chip, uint32_t port, uint32_t v, char *buf);
+VQ6192_API uint32_t cdk_setportloopbacken(uint32_t chip, uint32_t port, uint32_t kind, uint32_t en,
+                                          char *buf);
+VQ6192_API uint32_t cdk_setportpausemode(uint32_t chip, uint32_t port, uint32_t mode, char *buf);
+VQ6192_API uint32_t cdk_getportpausemode(uint32_t chip, uint32_t port, char *buf);
+VQ6192_API uint32_t cdk_setportpauseaddr(uint32_t chip, uint32_t port, const uint8_t *mac, char *buf);
+VQ6192_API uint32_t cdk_getportpauseaddr(uint32_t chip, uint32_t port, char *buf);
+VQ6192_API uint32_t initcdkmac(void);
+
 VQ6192_EXTERN_C_END
 
 #endif /* VQ6192_ETH_H */
