@@ -859,7 +859,7 @@ VQ6192_API uint32_t readpppprotocolpkt(uint32_t chip, char *buf) {
     return rc;
 }
 
-// Trailing zero bits of x; 0 for x = 0.
+// Trailing zero bits of x; 0 for x = 0. A helper without a chip: it has no registry row.
 VQ6192_API uint32_t COUNT_ZERO_NUM(uint32_t x) {
     if (x == 0) {
         return 0;
@@ -1089,7 +1089,6 @@ constexpr Command kCommands[] = {
     VQ6192_DIAG_COMMAND(Vq6192CapEthPkt, "ETH", "chip dir", "capture a VLAN-tagged packet and show it"),
     VQ6192_DIAG_COMMAND(insertpppprotocolpkt, "ETH", "chip data len", "send a PPP protocol packet"),
     VQ6192_DIAG_COMMAND(readpppprotocolpkt, "ETH", "chip", "show a received PPP protocol packet"),
-    VQ6192_DIAG_COMMAND(COUNT_ZERO_NUM, "ETH", "x", "number of trailing zero bits"),
     // MAC ports
     VQ6192_DIAG_COMMAND(cdk_setportworkmode, "MAC", "chip port mode", "set a port's work mode"),
     VQ6192_DIAG_COMMAND(cdk_getportworkmode, "MAC", "chip port", "show a port's work mode"),
