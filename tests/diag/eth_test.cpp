@@ -141,6 +141,56 @@ TEST_F(EthDiag, ProtocolPairsAndPacketReports) {
     EXPECT_EQ(Vq6192CapEthPkt(kChip, 2, nullptr), 2u);
 }
 
+TEST_F(EthDiag, SettersHandTheirArgumentsOverInOrder) {
+    struct Case {
+        const char *name;
+        std::function<uint32_t(char *)> cmd;
+        uint32_t addr;
+        uint16_t value;
+    };
+    const Case cases[] = {
+        {"setpmuudpsport", [](char *b) { return setpmuudpsport(kChip, 0xC001, b); }, 0x8124, 0xC001},
+        {"setegmplsbase", [](char *b) { return setegmplsbase(kChip, 1, 2000, b); }, 0x8204, 2000},
+        {"seteth1wrrweight", [](char *b) { return seteth1wrrweight(kChip, 2, 0x33, b); }, 0x80BC, 0x3300},
+        {"setselftestglbctl", [](char *b) { return setselftestglbctl(kChip, 1, 2, 0x5A, 64, b); }, 0x80BA,
+         0x8},
+        {"setselftestprbs", [](char *b) { return setselftestprbs(kChip, 9, 1, b); }, 0x9022, 0x109},
+        {"setserdesloop", [](char *b) { return setserdesloop(kChip, 2, 2, 1, b); }, 0x21E, 0xC0},
+        {"setpppcpuhead", [](char *b) { return setpppcpuhead(kChip, 1, 8, 1, 2, b); }, 0x8130, 0x0201},
+        {"setethpausepara", [](char *b) { return setethpausepara(kChip, 0, 1, 2, 3, 4, b); }, 0x811A, 3},
+        {"setpmuipglbattr", [](char *b) { return setpmuipglbattr(kChip, 4, 5, 0x1234, 2, 7, 0x0A000001, b); },
+         0x8128, 0x1234},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        EXPECT_EQ(run(c.cmd), std::string("        ") + c.name + "() OK\n");
+        EXPECT_EQ(model.peek(c.addr), c.value);
+    }
+    const uint16_t attr[41] = {1, 0, 0, 0, 0, 0, 0, 1500};
+    const uint16_t sel[41] = {1, 0, 0, 0, 0, 0, 0, 1};
+    EXPECT_EQ(run([&](char *b) { return setmacattr(kChip, 2, attr, sel, b); }), "        setmacattr() OK\n");
+    EXPECT_EQ(mac().reg(2, 105), 1u);
+    EXPECT_EQ(mac().reg(2, 15), 1500u);
+    const std::string report = run([](char *b) { return getmacattr(kChip, 2, b); });
+    EXPECT_NE(report.find("    | wMaxFrmSize              : 0x5dc     (1500      ) \n"), std::string::npos);
+    EXPECT_EQ(report.substr(0, 22), "        GetMACAttr()\n ");
+    uint8_t info[72] = {};
+    info[4 * 12 + 1] = 0x01;  // dwLblPwLable = 0x00010203
+    info[4 * 12 + 2] = 0x02;
+    info[4 * 12 + 3] = 0x03;
+    info[4 * 17 + 3] = 6;  // dwLblHdType
+    EXPECT_EQ(run([&](char *b) { return setpsnethinfo(kChip, 5, 3, info, b); }),
+              "        setpsnethinfo() OK\n");
+    VQ6192_ETH_PSN_INFO_S back{};
+    ASSERT_EQ(VQ6192_ETH_GetPSNEthInfo(kChip, 5, 3, &back), 0u);
+    EXPECT_EQ(back.dwLblPwLable, 0x10203u);
+    EXPECT_EQ(back.dwLblHdType, 6u);
+    uint32_t rc = 0;
+    EXPECT_EQ(run([](char *b) { return setegvlanid2chnl(kChip, 4096, 1, 1, b); }, &rc),
+              "        setegvlanid2chnl() FAIL\n");
+    EXPECT_EQ(rc, 0x03050001u);
+}
+
 TEST_F(EthDiag, TrailingZeroCount) {
     const std::pair<uint32_t, uint32_t> cases[] = {{0, 0}, {1, 0}, {8, 3}, {0x80000000u, 31}, {0x60, 5}};
     for (const auto &[x, n] : cases) {
