@@ -3,8 +3,10 @@
 #include "vq6192/sim/ces.h"
 #include "vq6192/sim/chip_control.h"
 #include "vq6192/sim/ddr.h"
+#include "vq6192/sim/eth.h"
 #include "vq6192/sim/framers.h"
 #include "vq6192/sim/interrupts.h"
+#include "vq6192/sim/mac.h"
 #include "vq6192/sim/ram_bist.h"
 #include "vq6192/sim/sam.h"
 #include "vq6192/sim/sdh_paths.h"
@@ -22,6 +24,8 @@ void installBlocks(ChipModel &model) {
     model.block<SdhPaths>();
     model.block<TelecomBus>();
     model.block<SamBlock>();
+    model.block<EthBlock>();
+    model.block<MacBlock>();
 }
 
 }  // namespace vq6192::sim
