@@ -376,6 +376,98 @@ VQ6192_API uint32_t VQ6192_PPP_GetPppTestConfig(uint32_t chip, uint16_t *pusSend
 VQ6192_API uint32_t VQ6192_PPP_GetPppDelayTime(uint32_t chip, uint32_t ulPppChanNo, uint32_t pulTime[4]);
 VQ6192_API uint32_t VQ6192_PPP_GetPppDelayTestStat(uint32_t chip, uint16_t pusStat[4]);
 
+/* ---- Diagnostic commands (text into a 48128-byte buffer; a null buffer prints nothing) ---------- */
+
+/* DDR capture state of the capture commands, one record per chip id. */
+typedef struct {
+    uint32_t ulStarted;
+    uint32_t ulPppChanNo;
+    uint32_t ulDirect;
+} VQ6192_PPP_CAP_STATE_S;
+VQ6192_API extern VQ6192_PPP_CAP_STATE_S g_st6192CapPpp[VQ6192_CHIP_RECORD_NUM];
+
+VQ6192_API uint32_t getlinktoppp(uint32_t chip, uint32_t ulLinkNo, char *buf);
+VQ6192_API uint32_t getmpvc4scrambler(uint32_t chip, uint32_t ulVc4PppChanNo, char *buf);
+VQ6192_API uint32_t getpppchanenable(uint32_t chip, uint32_t ulPppChanNo, char *buf);
+VQ6192_API uint32_t getmpbundleenable(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t getpppchantomp(uint32_t chip, uint32_t ulPppChanNo, char *buf);
+VQ6192_API uint32_t getpppcrcmode(uint32_t chip, uint32_t ulPppChanNo, uint32_t ulDirect, char *buf);
+VQ6192_API uint32_t getpppmru(uint32_t chip, uint32_t ulPppChanNo, char *buf);
+VQ6192_API uint32_t getpppacfcenable(uint32_t chip, uint32_t ulPppChanNo, char *buf);
+VQ6192_API uint32_t getppppfcenable(uint32_t chip, uint32_t ulPppChanNo, char *buf);
+VQ6192_API uint32_t getmpfragsize(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t getmptimeout(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t calcmptimeoutvalue(uint32_t chip, uint32_t ulMpChanNo, uint32_t ulTsNum, char *buf);
+VQ6192_API uint32_t getmpabortthld(uint32_t chip, char *buf);
+VQ6192_API uint32_t getmpmrru(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t getmpsnformat(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t getmppfcenable(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t getmpacfcenable(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t getpppcsptenable(uint32_t chip, uint32_t ulChanNo, uint32_t enChanType, char *buf);
+VQ6192_API uint32_t getpppesptenable(uint32_t chip, char *buf);
+VQ6192_API uint32_t getpppcfgprtcen(uint32_t chip, char *buf);
+VQ6192_API uint32_t getppprxcfgprtccnt(uint32_t chip, char *buf);
+VQ6192_API uint32_t getpppunidentifymode(uint32_t chip, char *buf);
+VQ6192_API uint32_t getmpsnctrl(uint32_t chip, uint32_t ulMpChanNo, uint32_t ulMcNum, char *buf);
+VQ6192_API uint32_t getmpctrltimeout(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t getmpmaxfragnum(uint32_t chip, char *buf);
+VQ6192_API uint32_t getmpmcmap(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t getmpqueweight(uint32_t chip, uint32_t ulMpChanNo, uint32_t ulMcQueNo, char *buf);
+VQ6192_API uint32_t getpppqueweight(uint32_t chip, uint32_t ulPppChanNo, uint32_t ulPppQueNo, char *buf);
+VQ6192_API uint32_t getppploopenable(uint32_t chip, uint32_t ulPppChanNo, uint32_t ulDirect, char *buf);
+VQ6192_API uint32_t getppptesttxenable(uint32_t chip, uint32_t ulPppChanNo, char *buf);
+VQ6192_API uint32_t getppptestconfig(uint32_t chip, char *buf);
+VQ6192_API uint32_t getppptestrxenable(uint32_t chip, uint32_t ulPppChanNo, char *buf);
+VQ6192_API uint32_t getpppdelaytime(uint32_t chip, uint32_t ulPppChanNo, char *buf);
+VQ6192_API uint32_t getpppdelayteststat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getppptxlinkwatermark(uint32_t chip, uint32_t ulPppChanNo, char *buf);
+VQ6192_API uint32_t getmptxwatermark(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t getmprxwatermark(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t getpppdfifowatermark(uint32_t chip, char *buf);
+VQ6192_API uint32_t getpppfifocapdata(uint32_t chip, char *buf);
+VQ6192_API uint32_t capturepppfifopkt(uint32_t chip, uint32_t ulChanNo, uint32_t ulType, char *buf);
+VQ6192_API uint32_t getpppdcnenable(uint32_t chip, char *buf);
+VQ6192_API uint32_t getpppdcnconfig(uint32_t chip, char *buf);
+VQ6192_API uint32_t getpppglobalingressstat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getpppglobalegressstat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getppplinkstat(uint32_t chip, uint32_t ulPppChanNo, char *buf);
+VQ6192_API uint32_t getmpingressstat(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t getmpegressstat(uint32_t chip, uint32_t ulMpChanNo, char *buf);
+VQ6192_API uint32_t getpppcrccorrectstat(uint32_t chip, uint32_t ulChanNo, char *buf);
+VQ6192_API uint32_t getpppcrcfifostatus(uint32_t chip, uint32_t ulChanNo, char *buf);
+VQ6192_API uint32_t getpppfifostatus(uint32_t chip, char *buf);
+VQ6192_API uint32_t startcobccap(uint32_t chip, uint32_t ulHdlcChnl, char *buf);
+VQ6192_API uint32_t stopcobccap(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcobccappkt(uint32_t chip, char *buf);
+VQ6192_API uint32_t getpppmpschmode(uint32_t chip, char *buf);
+VQ6192_API uint32_t getcobcmode(uint32_t chip, uint32_t ulChanNo, char *buf);
+VQ6192_API uint32_t DbgPrintPppPkt(uint32_t chip, uint32_t ulSlot, uint32_t ulDirect, uint32_t ulFirst,
+                                   uint32_t ulLast, uint32_t ulMaxLen, char *buf);
+VQ6192_API uint32_t DbgReadPppAllCntAndStatus(uint32_t chip, uint32_t ulPppChanNo, uint32_t ulMpChanNo,
+                                              char *buf);
+VQ6192_API uint32_t getmpvc4en(uint32_t chip, uint32_t ulVc4PppChanNo, char *buf);
+VQ6192_API uint32_t setpppppucfg(uint32_t chip, uint32_t ulPppChanNo, uint32_t ulPacked, uint32_t ulRxMtu,
+                                 uint32_t ulRxMintu, char *buf);
+VQ6192_API uint32_t getpppppucfg(uint32_t chip, uint32_t ulPppChanNo, char *buf);
+VQ6192_API uint32_t Vq6192PppSetChnlCappkt(uint32_t chip, uint32_t ulPppChanNo, uint32_t ulEnable, char *buf);
+VQ6192_API uint32_t Vq6192PppStartDdrCappkt(uint32_t chip, uint32_t ulDirect, char *buf);
+VQ6192_API uint32_t Vq6192PppStoptDdrCappkt(uint32_t chip, char *buf);
+VQ6192_API uint32_t Vq6192PppgetDdrpkt(uint32_t chip, uint32_t ulPppChanNo, uint32_t ulDirect, char *buf);
+VQ6192_API uint32_t setpppqueweight(uint32_t chip, uint32_t ulPppChanNo, uint32_t ulPppQueNo,
+                                    uint32_t ulQueWeight, char *buf);
+VQ6192_API uint32_t setmpqueweight(uint32_t chip, uint32_t ulMpChanNo, uint32_t ulMcQueNo,
+                                   uint32_t ulQueWeight, char *buf);
+VQ6192_API uint32_t DbgSetCapPktAndStart(uint32_t chip, uint32_t ulPppChanNo, uint32_t ulDirect, char *buf);
+VQ6192_API uint32_t DbgGetCapPkt(uint32_t chip, char *buf);
+VQ6192_API uint32_t DbgGetCapPktForMatch(uint32_t chip, uint32_t ulPppChanNo, uint32_t ulDirect,
+                                         uint32_t ulStartByte, uint32_t ulMask, uint32_t ulTemp, char *buf);
+VQ6192_API uint32_t DbgGetCapPktForMatchTemp(uint32_t chip, uint32_t ulPppChanNo, uint32_t ulDirect,
+                                             uint32_t ulStartByte, uint32_t ulMask, uint32_t ulTemp,
+                                             char *buf);
+VQ6192_API uint32_t DbgGetPppconfig(uint32_t chip, char *buf);
+VQ6192_API uint32_t DbgGetMpconfig(uint32_t chip, char *buf);
+VQ6192_API uint32_t DbgGetCapPktMatchCapture(uint32_t chip, char *buf);
+
 VQ6192_EXTERN_C_END
 
 #endif /* VQ6192_PPP_H */
