@@ -486,6 +486,8 @@ VQ6192_API uint32_t VQ6192_PPP_SetMpPFCEnable(uint32_t chip, uint32_t ulMpChanNo
     VQ6192_PPP_CHECK_CHIP(chip);
     VQ6192_PPP_CHECK(chip, ulMpChanNo < VQ6192_SCH_MP_MAX);
     VQ6192_PPP_CHECK(chip, ulEnable <= VQ6192_PPP_ENABLE);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_SetMpPFCEnable : ulMpChanNo:[%d] ulEnable:[%d]\n", ulMpChanNo,
+                     ulEnable);
     return setField(chip, ulMpChanNo, kMppfc, ulEnable);
 }
 
@@ -500,6 +502,8 @@ VQ6192_API uint32_t VQ6192_PPP_SetMpACFCEnable(uint32_t chip, uint32_t ulMpChanN
     VQ6192_PPP_CHECK_CHIP(chip);
     VQ6192_PPP_CHECK(chip, ulMpChanNo < VQ6192_SCH_MP_MAX);
     VQ6192_PPP_CHECK(chip, ulEnable <= VQ6192_PPP_ENABLE);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_SetMpACFCEnable : ulMpChanNo:[%d] ulEnable:[%d]\n", ulMpChanNo,
+                     ulEnable);
     return setField(chip, ulMpChanNo, kMpacfc, ulEnable);
 }
 
@@ -517,6 +521,9 @@ VQ6192_API uint32_t VQ6192_PPP_SetMpSnCtrl(uint32_t chip, uint32_t ulMpChanNo, u
     VQ6192_PPP_CHECK(chip, ulEnable <= VQ6192_PPP_ENABLE);
     VQ6192_PPP_CHECK(chip, ulMpCtrlNum < VQ6192_MAX_MP_CTRL_NUM);
     VQ6192_PPP_CHECK(chip, ulMcNum < VQ6192_MAX_MC_QUE_NUM);
+    VQ6192_PPP_TRACE(chip,
+                     "VQ6192_PPP_SetMpSnCtrl : ulMpChanNo:[%d] ulEnable:[%d] ulMpCtrlNum:[%d] ulMcNum:[%d]\n",
+                     ulMpChanNo, ulEnable, ulMpCtrlNum, ulMcNum);
     return setFields(chip, ulMpChanNo, {{kSnCtrlEn[ulMcNum], ulEnable}, {kSnCtrlNum[ulMcNum], ulMpCtrlNum}});
 }
 
@@ -538,6 +545,7 @@ VQ6192_API uint32_t VQ6192_PPP_SetMpMaxFragNum(uint32_t chip, uint32_t ulMaxFrag
     VQ6192_PPP_CHECK_CHIP(chip);
     VQ6192_PPP_CHECK(chip, ulMaxFragNum < VQ6192_MAX_MP_FRAG_NUM);
     setReg(chip, kMaxFragNum, ulMaxFragNum);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_SetMpMaxFragNum : ulMaxFragNum:[%d]\n", ulMaxFragNum);
     return 0;
 }
 
@@ -554,6 +562,8 @@ VQ6192_API uint32_t VQ6192_PPP_SetMpQueWeight(uint32_t chip, uint32_t ulMpChanNo
     VQ6192_PPP_CHECK(chip, ulMpChanNo < VQ6192_SCH_MP_MAX);
     VQ6192_PPP_CHECK(chip, ulMcQueNo < VQ6192_MAX_MC_QUE_NUM);
     VQ6192_PPP_CHECK(chip, ulQueWeight < VQ6192_MAX_MP_QUE_WEIGHT);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_SetMpQueWeight : ulMpChanNo:[%d] ulMcQueNo:[%d] ulQueWeight:[%d]\n",
+                     ulMpChanNo, ulMcQueNo, ulQueWeight);
     return setField(chip, ulMpChanNo, kMpWeights[ulMcQueNo], ulQueWeight);
 }
 
@@ -572,6 +582,9 @@ VQ6192_API uint32_t VQ6192_PPP_SetMpRxWaterMark(uint32_t chip, uint32_t ulMpChan
     VQ6192_PPP_CHECK(chip, ulMpChanNo < VQ6192_SCH_MP_MAX);
     VQ6192_PPP_CHECK(chip, ulWaterMarkL < ulWaterMarkH);
     VQ6192_PPP_CHECK(chip, ulWaterMarkH < VQ6192_MAX_RXM_MP_TH);
+    VQ6192_PPP_TRACE(chip,
+                     "VQ6192_PPP_SetMpRxWaterMark : ulMpChanNo:[%d] ulWaterMarkH:[%d] ulWaterMarkL:[%d]\n",
+                     ulMpChanNo, ulWaterMarkH, ulWaterMarkL);
     return setFields(chip, ulMpChanNo, {{kMprxmmphth, ulWaterMarkH}, {kMprxmmplth, ulWaterMarkL}});
 }
 
@@ -613,6 +626,7 @@ VQ6192_API uint32_t VQ6192_PPP_SetMpTxWaterMark(uint32_t chip, uint32_t ulMpChan
     VQ6192_PPP_CHECK_CHIP(chip);
     VQ6192_PPP_CHECK(chip, ulMpChanNo < VQ6192_SCH_MP_MAX);
     VQ6192_PPP_CHECK(chip, pstWaterMark != NULL);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_SetMpTxWaterMark : ulMpChanNo:[%d]\n", ulMpChanNo);
     Entry entries[VQ6192_MAX_MC_QUE_NUM];
     uint32_t rc = 0;
     for (uint32_t q = 0; q < VQ6192_MAX_MC_QUE_NUM; ++q) {

@@ -97,6 +97,8 @@ VQ6192_API uint32_t VQ6192_PPP_SetPppDdrCapChan(uint32_t chip, uint32_t ulPppCha
                                                 uint32_t ulEnable) {
     VQ6192_PPP_CHECK_CHIP(chip);
     VQ6192_PPP_CHECK(chip, ulPppChanNo < VQ6192_NONE_SCH_PPP_MAX);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_SetPppDdrCapChan : ulPppChanNo:[%d] ulSlot:[%d] ulEnable:[%d]\n",
+                     ulPppChanNo, ulSlot, ulEnable);
     return setFields(chip, ingressInner(chip, ulPppChanNo), {{kGpen, ulEnable}, {kGplink, ulSlot}});
 }
 
@@ -109,6 +111,8 @@ VQ6192_API uint32_t VQ6192_PPP_StartPppDdrCapPkt(uint32_t chip, uint32_t ulDirec
     // The chip's direction select is 1 for ingress and 0 for egress.
     setReg(chip, kDdrCapDirect, ulDirect == VQ6192_BASE_SRV_DIRECT_INGRESS ? 1 : 0);
     setReg(chip, kDdrCapRun, 1);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_StartPppDdrCapPkt : ulDirect:[%d] usSkyEyeMax:[%d]\n", ulDirect,
+                     usSkyEyeMax);
     return 0;
 }
 
@@ -248,6 +252,7 @@ VQ6192_API uint32_t VQ6192_PPP_GetPppDdrCapPkt(uint32_t chip, uint32_t ulSlot, u
 VQ6192_API uint32_t VQ6192_PPP_SetCobcMode(uint32_t chip, uint32_t ulChanNo, uint32_t ulMode) {
     VQ6192_PPP_CHECK_CHIP(chip);
     setReg(chip, chanReg(kChanModeBase, ulChanNo, kCobcModeBit, kCobcModeWidth), ulMode);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_SetCobcMode : ulChanNo:[%d] ulMode:[%d]\n", ulChanNo, ulMode);
     return 0;
 }
 
@@ -267,6 +272,7 @@ VQ6192_API uint32_t VQ6192_PPP_StartCobcCap(uint32_t chip, uint32_t usHdlcChnl) 
     // The channel field holds 11 bits: channels 2048..4095 are written cut to those bits.
     setReg(chip, kCobcChannel, usHdlcChnl);
     setReg(chip, kCobcStart, 1);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_StartCobcCap : usHdlcChnl:[%d]\n", usHdlcChnl);
     return 0;
 }
 

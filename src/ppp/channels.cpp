@@ -491,6 +491,9 @@ VQ6192_API uint32_t VQ6192_PPP_SetPppTxLinkWaterMark(uint32_t chip, uint32_t ulP
     VQ6192_PPP_CHECK_CHIP(chip);
     VQ6192_PPP_CHECK(chip, ulPppChanNo < VQ6192_NONE_SCH_PPP_MAX);
     VQ6192_PPP_CHECK(chip, pstWaterMark != NULL);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_SetPppTxLinkWaterMark : ulPppChanNo:[%d] H:[%d] L:[%d] Drop:[%d]\n",
+                     ulPppChanNo, pstWaterMark->dwWaterMarkH, pstWaterMark->dwWaterMarkL,
+                     pstWaterMark->dwWaterMarkDrop);
     return setFields(chip, egressInner(chip, ulPppChanNo),
                      {{kHdUncgtth, pstWaterMark->dwWaterMarkL},
                       {kHdCgtth, pstWaterMark->dwWaterMarkH},
@@ -516,6 +519,8 @@ VQ6192_API uint32_t VQ6192_PPP_SetPPPQmEnable(uint32_t chip, uint32_t ulChanNo, 
     // Types above 1 and enables above 1 have no meaning for the chip: refused as parameter errors.
     VQ6192_PPP_CHECK(chip, ulType < VQ6192_PPP_CHNTYPE_BUTT);
     VQ6192_PPP_CHECK(chip, ulEnable <= VQ6192_PPP_ENABLE);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_SetPPPQmEnable : ulChanNo:[%d] ulType:[%d] ulEnable:[%d]\n", ulChanNo,
+                     ulType, ulEnable);
     if (ulType == VQ6192_PPP_CHNTYPE_PPP) {
         VQ6192_PPP_CHECK(chip, ulChanNo < VQ6192_NONE_SCH_PPP_MAX);
         const uint32_t inner = egressInner(chip, ulChanNo);

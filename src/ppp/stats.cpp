@@ -287,6 +287,8 @@ VQ6192_API uint32_t VQ6192_PPP_SetPppTestTxEnable(uint32_t chip, uint32_t ulPppC
     VQ6192_PPP_CHECK_CHIP(chip);
     VQ6192_PPP_CHECK(chip, ulPppChanNo < VQ6192_NONE_SCH_PPP_MAX);
     VQ6192_PPP_CHECK(chip, ulEnable <= VQ6192_PPP_ENABLE);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_SetPppTestTxEnable : ulPppChanNo:[%d] ulEnable:[%d]\n", ulPppChanNo,
+                     ulEnable);
     uint32_t rc = setField(chip, ingressInner(chip, ulPppChanNo), kMptesttxen, ulEnable);
     return rc | setField(chip, egressInner(chip, ulPppChanNo), kTesttxen, ulEnable);
 }
@@ -306,6 +308,8 @@ VQ6192_API uint32_t VQ6192_PPP_SetPppTestRxEnable(uint32_t chip, uint32_t ulPppC
     VQ6192_PPP_CHECK_CHIP(chip);
     VQ6192_PPP_CHECK(chip, ulPppChanNo < VQ6192_NONE_SCH_PPP_MAX);
     VQ6192_PPP_CHECK(chip, ulEnable <= VQ6192_PPP_ENABLE);
+    VQ6192_PPP_TRACE(chip, "VQ6192_PPP_SetPppTestRxEnable : ulPppChanNo:[%d] ulEnable:[%d]\n", ulPppChanNo,
+                     ulEnable);
     setReg(chip, kTestRxEnable, ulEnable);
     return setField(chip, egressInner(chip, ulPppChanNo), kTesttxen, ulEnable);
 }
@@ -324,6 +328,9 @@ VQ6192_API uint32_t VQ6192_PPP_SetPppTestConfig(uint32_t chip, uint16_t usSendTi
     VQ6192_WriteReg(chip, kTestSendTimeSlot, usSendTimeSlot);
     VQ6192_WriteReg(chip, kTestTxProType, usTxProType);
     VQ6192_WriteReg(chip, kTestRxProType, usRxProType);
+    VQ6192_PPP_TRACE(
+        chip, "VQ6192_PPP_SetPppTestConfig : usSendTimeSlot:[%d] usTxProType:[0x%x] usRxProType:[0x%x]\n",
+        usSendTimeSlot, usTxProType, usRxProType);
     return 0;
 }
 
