@@ -519,10 +519,14 @@ VQ6192_API uint32_t VQ6192_PPP_SetPPPQmEnable(uint32_t chip, uint32_t ulChanNo, 
     // Types above 1 and enables above 1 have no meaning for the chip: refused as parameter errors.
     VQ6192_PPP_CHECK(chip, ulType < VQ6192_PPP_CHNTYPE_BUTT);
     VQ6192_PPP_CHECK(chip, ulEnable <= VQ6192_PPP_ENABLE);
+    if (ulType == VQ6192_PPP_CHNTYPE_PPP) {
+        VQ6192_PPP_CHECK(chip, ulChanNo < VQ6192_NONE_SCH_PPP_MAX);
+    } else {
+        VQ6192_PPP_CHECK(chip, ulChanNo < VQ6192_SCH_MP_MAX);
+    }
     VQ6192_PPP_TRACE(chip, "VQ6192_PPP_SetPPPQmEnable : ulChanNo:[%d] ulType:[%d] ulEnable:[%d]\n", ulChanNo,
                      ulType, ulEnable);
     if (ulType == VQ6192_PPP_CHNTYPE_PPP) {
-        VQ6192_PPP_CHECK(chip, ulChanNo < VQ6192_NONE_SCH_PPP_MAX);
         const uint32_t inner = egressInner(chip, ulChanNo);
         Entry e;
         if (readEntry(chip, kQmen.table, inner / 8, e) != 0) {
@@ -533,7 +537,6 @@ VQ6192_API uint32_t VQ6192_PPP_SetPPPQmEnable(uint32_t chip, uint32_t ulChanNo, 
         vq::setField(e.w, kQmen, bits);
         return writeEntry(chip, kQmen.table, inner / 8, e);
     }
-    VQ6192_PPP_CHECK(chip, ulChanNo < VQ6192_SCH_MP_MAX);
     uint32_t up = 0, down = 0;
     if (VQ6192_PPP_GetMpSnFormat(chip, ulChanNo, &up, &down) != 0) {
         return status(chip, kErrNoData);

@@ -1,5 +1,6 @@
 // Multilink bundles: membership and the egress member counts, the bundle reset handshakes with their
 // codes and virtual waits, the SN format change, and the per-bundle settings.
+#include <algorithm>
 #include <cstring>
 
 #include "ppp_fixture.h"
@@ -53,6 +54,12 @@ TEST_F(BundleTest, FirstEgressMemberSwitchesTheQueuesOnAndTheLastOff) {
     EXPECT_EQ(entry(kHdlccfg2, 20), 0x007u);
     // 30 ms after the queues go off, one 30 ms drain attempt, two 10 ms ready waits of the reset.
     EXPECT_EQ(virtualUs(), 30000u + 30000u + 5u + 20000u);
+    const auto traces = capture.traceTexts();
+    for (const char *line :
+         {"VQ6192_PPP_AddPppChanToMp:[20] To MP Bundle:[7] Direct:[2]\n",
+          "VQ6192_PPP_RemovePppChanFromMp : Remove PPP:[20] From MP Bundle Direct:[2]\n"}) {
+        EXPECT_NE(std::find(traces.begin(), traces.end(), line), traces.end()) << line;
+    }
 }
 
 TEST_F(BundleTest, MemberCountingRules) {

@@ -226,6 +226,10 @@ TEST_F(PppTest, LinkTypeEnablesAndLoopbackFields) {
         ASSERT_EQ(c.op(kChip), 0u);
         EXPECT_EQ(entry(c.select, c.index), c.after);
     }
+    const auto traces = capture.traceTexts();
+    EXPECT_NE(
+        std::find(traces.begin(), traces.end(), "VQ6192_PPP_SetPppMRU : ulPppChanNo:[20] ulMRU:[2036]\n"),
+        traces.end());
 }
 
 TEST_F(PppTest, CrcModeGoesToThreeIngressPlacesAndOneEgress) {
@@ -330,6 +334,13 @@ TEST_F(PppTest, EgressQueueEnableOfALinkAndAFailedRead) {
     EXPECT_EQ(VQ6192_PPP_SetPPPQmEnable(kChip, 41, 0, 1), kNoData);
     model.tables().holdBusy(kPppBlock, 0);
     EXPECT_EQ(entry(kQmencfg, 5), 0xFDu) << "nothing written after the failed read";
+    // A bundle: the SN format read comes first and its failure is reported the same way.
+    model.tables().holdBusy(kPppBlock, vq6192::sim::TableEngine::kForever);
+    EXPECT_EQ(VQ6192_PPP_SetPPPQmEnable(kChip, 12, 1, 1), kNoData);
+    model.tables().holdBusy(kPppBlock, 0);
+    EXPECT_EQ(entry(kQmencfg, 256 + 12), 0u);
+    ASSERT_EQ(VQ6192_PPP_SetPPPQmEnable(kChip, 12, 1, 1), 0u);
+    EXPECT_EQ(entry(kQmencfg, 256 + 12), 0xFFu);
 }
 
 TEST_F(PppTest, ModuleRegistersKeepTheirNeighbours) {
