@@ -83,6 +83,10 @@ TEST_F(PppDiagTest, SetterLayouts) {
     EXPECT_EQ(text(), "        setpppppucfg() is OK\n");
     EXPECT_EQ(setpppppucfg(kChip, 600, 1, 0, 0, buf.data()), 0x03040001u);
     EXPECT_EQ(text(), "        setpppppucfg() is FIAL\n");
+    // Packed bits 21..31 select nothing.
+    const uint64_t writes = model.tables().writesExecuted(0x8000);
+    EXPECT_EQ(setpppppucfg(kChip, 4, 0xFFE00000u, 0, 0, buf.data()), 0u);
+    EXPECT_EQ(model.tables().writesExecuted(0x8000), writes);
     EXPECT_EQ(setpppqueweight(kChip, 4, 8, 1, buf.data()), 0u);
     EXPECT_EQ(text(), "\r\nSetpppqueweight :dwRtn = 0x3040001!\r\n");
     EXPECT_EQ(setmpqueweight(kChip, 4, 1, 5, buf.data()), 0u);

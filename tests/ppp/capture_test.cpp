@@ -174,6 +174,9 @@ TEST_F(CaptureTest, CobcStartAndStop) {
     EXPECT_EQ(clear, (std::vector<uint32_t>{0, 1, 0}));
     ASSERT_EQ(VQ6192_PPP_StopCobcCap(kChip), 0u);
     EXPECT_EQ(model.peek(0x11012), 0xFFFEu);
+    // Channels 2048..4095 pass the bound but the field holds 11 bits.
+    ASSERT_EQ(VQ6192_PPP_StartCobcCap(kChip, 0x801), 0u);
+    EXPECT_EQ(model.peek(0x11012), 0xF003u);
 }
 
 TEST_F(CaptureTest, FifoCapture) {

@@ -315,6 +315,25 @@ TEST_F(PppTest, QueueWeightsAndWatermarksKeepTheirNeighbours) {
     EXPECT_EQ(back.dwWaterMarkDrop, 0xBCDEFu);
 }
 
+TEST_F(PppTest, TableFailuresAreOredAndLaterStepsStillRun) {
+    constexpr uint32_t kTableTimeout = 0x030C0003;
+    setEntry(kRppucfg, 14, 0x1FFFFFFF);
+    model.tables().holdBusy(kPppBlock, vq6192::sim::TableEngine::kForever);
+    const uint64_t writes = model.tables().writesExecuted(kPppBlock);
+    EXPECT_EQ(VQ6192_PPP_SetPppMRU(kChip, 14, 100), kTableTimeout);
+    EXPECT_EQ(model.tables().writesExecuted(kPppBlock), writes) << "no write after a failed read";
+    model.tables().holdBusy(kPppBlock, 0);
+    EXPECT_EQ(entry(kRppucfg, 14), 0x1FFFFFFFu);
+
+    // A create whose first engine write times out still opens the ingress engine and sets the link type.
+    setEntry(kRppucfg, 15, 0x08000000);
+    model.tables().holdBusy(kPppBlock, 500);  // the first table access of the create fails
+    EXPECT_EQ(VQ6192_PPP_CreatePppChanNoTS(kChip, 15, 1), kTableTimeout);
+    EXPECT_EQ(entry(kRppucfg, 15), 0u);
+    EXPECT_EQ(entry(kLinkcfg, 15), 1u);
+    EXPECT_EQ(failCounters()[3], 2u) << "both time-outs counted in the chip record";
+}
+
 TEST_F(PppTest, PfcGetterReadsThePfcBit) {
     setEntry(kLinkcfg, 11, 0);
     ASSERT_EQ(VQ6192_PPP_SetPppACFCEnable(kChip, 11, 1), 0u);
