@@ -158,6 +158,36 @@ TEST_F(PppDiagTest, PacketReadCommands) {
     EXPECT_EQ(text(), "\r\n   sorry,parameter err!\r\n");
 }
 
+TEST_F(PppDiagTest, MatchAndPrintCommands) {
+    // Slot 4 holds three frames; the second has 0xC0 0x21 at bytes 2..3.
+    const std::vector<std::vector<uint8_t>> frames = {{0xFF, 0x03, 0x00, 0x21, 0x45, 0x99},
+                                                      {0xFF, 0x03, 0xC0, 0x21, 0x01, 0x99},
+                                                      {0xFF, 0x03, 0x80, 0x21, 0x02, 0x99}};
+    uint32_t addr = vq6192::sim::PppBlock::captureAddr(4, 0);
+    for (const auto &f : frames) {
+        addr = ppp().putIngressFrame(addr, f);
+    }
+    VQ6192_Platform_ResetVirtualTime();
+    ASSERT_EQ(DbgGetCapPktForMatchTemp(kChip, 36, 0, 2, 0xFFFF0000u, 0xC0210000u, buf.data()), 0u);
+    EXPECT_EQ(text(),
+              "Cmd DATA ChipID:3  PppChanNo:36  Direct:0  StartByte:2  MatchMask: 0xffff0000 "
+              "MatchTemp:0xc0210000 \n"
+              "The Data  1  Capture data Len:  6  \n"
+              " ff  03  c0  21  01  99 \n");
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 5000u * 10000u) << "5000 ticks of 10 ms";
+    EXPECT_EQ(model.peek(0x13600) >> 13, 0u) << "capture stopped";
+
+    ASSERT_EQ(DbgPrintPppPkt(kChip, 4, 0, 1, 1, 3, buf.data()), 0u);
+    EXPECT_EQ(text(), "The Packge  1  Len:  6  Data:\n ff  03  c0 \n");
+    EXPECT_EQ(DbgPrintPppPkt(kChip, 4, 0, 0, 5, 0, buf.data()), 0x03040007u);
+    EXPECT_NE(text().find("Read Data Fail!!\n"), std::string::npos);
+
+    EXPECT_EQ(DbgGetCapPktForMatchTemp(kChip, 256, 0, 0, 0, 0, buf.data()), 0u);
+    EXPECT_EQ(text(), "\r\n input ulPppChnlNo error");
+    EXPECT_EQ(DbgGetCapPktForMatchTemp(kChip, 1, 2, 0, 0, 0, buf.data()), 0u);
+    EXPECT_EQ(text(), "\r\n input direct type error");
+}
+
 TEST_F(PppDiagTest, AllCountersStayInsideTheBuffer) {
     std::vector<char> big(VQ6192_DIAG_BUF_SIZE + 16, '#');
     ASSERT_EQ(DbgReadPppAllCntAndStatus(kChip, 1, 1, big.data()), 0u);
