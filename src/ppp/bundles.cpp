@@ -364,7 +364,7 @@ VQ6192_API uint32_t VQ6192_PPP_DelMpBundle(uint32_t chip, uint32_t ulMpChanNo) {
         rc |= VQ6192_PPP_SetMpSnCtrl(chip, ulMpChanNo, 0, 0, k);
     }
     VQ6192_PPP_TRACE(chip, "VQ6192_PPP_DelMpBundle : ulMpChanNo:[%d] Return:[0x%x]\n", ulMpChanNo, rc);
-    return rc;
+    return reportSteps(chip, "VQ6192_PPP_DelMpBundle", rc);
 }
 
 VQ6192_API uint32_t VQ6192_PPP_MpClearEgressBuff(uint32_t chip, uint32_t ulMpChanNo) {

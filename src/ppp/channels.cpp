@@ -138,7 +138,7 @@ VQ6192_API uint32_t VQ6192_PPP_CreatePppChan(uint32_t chip, const VQ6192_PPP_CHA
     VQ6192_PPP_TRACE(
         chip, "VQ6192_PPP_CreatePppChan : Set E1:[%d] TS:[0x%8x] To PPP:[%d] Speed:[%d] Return:[0x%x]\n", e1,
         rstPppChan->ulTsMap, ch, rstPppChan->ucSpeed, rc);
-    return rc | openChannel(chip, ch, 1);
+    return reportSteps(chip, "VQ6192_PPP_CreatePppChan", rc | openChannel(chip, ch, 1));
 }
 
 VQ6192_API uint32_t VQ6192_PPP_CreatePppChanNoTS(uint32_t chip, uint32_t ulPppChanNo, uint32_t ulEnable) {
@@ -146,7 +146,8 @@ VQ6192_API uint32_t VQ6192_PPP_CreatePppChanNoTS(uint32_t chip, uint32_t ulPppCh
     VQ6192_PPP_CHECK(chip, ulPppChanNo < VQ6192_NONE_SCH_PPP_MAX);
     VQ6192_PPP_TRACE(chip, "VQ6192_PPP_CreatePppChanNoTS : ulPppChanNo:[%d] ulEnable:[%d]\n", ulPppChanNo,
                      ulEnable);
-    return openChannel(chip, ulPppChanNo, ulEnable == 1 ? 1 : 0);
+    return reportSteps(chip, "VQ6192_PPP_CreatePppChanNoTS",
+                       openChannel(chip, ulPppChanNo, ulEnable == 1 ? 1 : 0));
 }
 
 VQ6192_API uint32_t VQ6192_PPP_CreateVC4PppChan(uint32_t chip, const VQ6192_PPP_CHAN_S *pstPppChan) {
@@ -168,7 +169,7 @@ VQ6192_API uint32_t VQ6192_PPP_CreateVC4PppChan(uint32_t chip, const VQ6192_PPP_
     rc |= setField(chip, in, kRCrcfe, 1);
     VQ6192_PPP_TRACE(chip, "VQ6192_PPP_CreateVC4PppChan : Set VC4:[%d] To PPP:[%d] Return:[0x%x]\n",
                      pstPppChan->ulPhyPort, ch, rc);
-    return rc | VQ6192_PPP_SetLinkToPpp(chip, ch, 1);
+    return reportSteps(chip, "VQ6192_PPP_CreateVC4PppChan", rc | VQ6192_PPP_SetLinkToPpp(chip, ch, 1));
 }
 
 VQ6192_API uint32_t VQ6192_PPP_DelPppChan(uint32_t chip, uint32_t ulPppChanNo, uint16_t usE1,
@@ -180,7 +181,7 @@ VQ6192_API uint32_t VQ6192_PPP_DelPppChan(uint32_t chip, uint32_t ulPppChanNo, u
     ts |= VQ6192_Framer_DeleteSrcE1(chip, VQ6192_BASE_SRV_DIRECT_INGRESS, usE1, ulTsMap);
     VQ6192_PPP_TRACE(chip, "VQ6192_PPP_DelPppChan : Del E1:[%d] TS:[0x%8x] return:[0x%x]\n", usE1, ulTsMap,
                      ts);
-    return rc | ts | releaseChannel(chip, ulPppChanNo);
+    return reportSteps(chip, "VQ6192_PPP_DelPppChan", rc | ts | releaseChannel(chip, ulPppChanNo));
 }
 
 VQ6192_API uint32_t VQ6192_PPP_DelPppChanNoTS(uint32_t chip, uint32_t ulPppChanNo) {
@@ -188,7 +189,7 @@ VQ6192_API uint32_t VQ6192_PPP_DelPppChanNoTS(uint32_t chip, uint32_t ulPppChanN
     VQ6192_PPP_CHECK(chip, ulPppChanNo < VQ6192_NONE_SCH_PPP_MAX);
     const uint32_t rc = closeChannel(chip, ulPppChanNo);
     VQ6192_PPP_TRACE(chip, "VQ6192_PPP_DelPppChan : Del Channel:[%d]return:[0x%x]\n", ulPppChanNo, rc);
-    return rc | releaseChannel(chip, ulPppChanNo);
+    return reportSteps(chip, "VQ6192_PPP_DelPppChanNoTS", rc | releaseChannel(chip, ulPppChanNo));
 }
 
 VQ6192_API uint32_t VQ6192_PPP_DelVC4PppChan(uint32_t chip, uint32_t ulVc4PppChanNo, uint32_t ulVc4No) {
@@ -198,7 +199,7 @@ VQ6192_API uint32_t VQ6192_PPP_DelVC4PppChan(uint32_t chip, uint32_t ulVc4PppCha
     uint32_t rc = closeChannel(chip, ulVc4PppChanNo);
     const uint32_t ts = VQ6192_Framer_DeleteSrcVC4(chip, VQ6192_BASE_SRV_DIRECT_BOTH, ulVc4No);
     VQ6192_PPP_TRACE(chip, "VQ6192_PPP_DelPppChan :Del VC4:[%d] return:[0x%x]\n", ulVc4No, ts);
-    return rc | ts | releaseChannel(chip, ulVc4PppChanNo);
+    return reportSteps(chip, "VQ6192_PPP_DelVC4PppChan", rc | ts | releaseChannel(chip, ulVc4PppChanNo));
 }
 
 VQ6192_API uint32_t VQ6192_PPP_ResetPppChan(uint32_t chip, uint32_t ulPppChanNo) {

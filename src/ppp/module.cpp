@@ -243,7 +243,7 @@ VQ6192_API uint32_t VQ6192_PPP_InitPppModule(uint32_t chip, uint32_t ulMode) {
         rc |= VQ6192_PPP_SetCobcMode(chip, n, kCobcModeDefault);
     }
     VQ6192_PPP_TRACE(chip, "VQ6192_PPP_InitPppModule : ulMode:[%d] Return:[0x%x]\n", ulMode, rc);
-    return rc;
+    return reportSteps(chip, "VQ6192_PPP_InitPppModule", rc);
 }
 
 }  // extern "C"

@@ -33,6 +33,13 @@ uint32_t getField(uint32_t chip, uint32_t index, EntryField f, uint32_t *value) 
     return rc;
 }
 
+uint32_t reportSteps(uint32_t chip, const char *operation, uint32_t rc) {
+    if (rc != 0) {
+        VQ6192_PPP_ERR(chip, "Err. %s Return:[0x%x]\n", operation, rc);
+    }
+    return rc;
+}
+
 void sleepUs(uint32_t us) {
     vq::DrvDelayUs(us);
 }

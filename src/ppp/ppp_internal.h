@@ -97,6 +97,10 @@ inline RegField bundleBit(uint32_t base, uint32_t bundle) {
     return {base + 2 * (bundle / 16), bundle % 16, 1};
 }
 
+// Traces "Err. <operation> Return:[0x...]" when a multi-step operation ends with a nonzero status, and
+// passes the status on.
+uint32_t reportSteps(uint32_t chip, const char *operation, uint32_t rc);
+
 // Platform waits.
 void sleepUs(uint32_t us);
 

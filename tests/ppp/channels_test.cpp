@@ -332,6 +332,7 @@ TEST_F(PppTest, TableFailuresAreOredAndLaterStepsStillRun) {
     EXPECT_EQ(entry(kRppucfg, 15), 0u);
     EXPECT_EQ(entry(kLinkcfg, 15), 1u);
     EXPECT_EQ(failCounters()[3], 2u) << "both time-outs counted in the chip record";
+    EXPECT_EQ(capture.traceTexts().back(), "Err. VQ6192_PPP_CreatePppChanNoTS Return:[0x30c0003]\n");
 }
 
 TEST_F(PppTest, PfcGetterReadsThePfcBit) {
