@@ -70,7 +70,15 @@ TEST_F(ShellSession, BadInputGetsOneLineErrors) {
         {"VQ6192_Rt 0 1", "error: VQ6192_Rt takes 3 arguments: chip tableId index\n"},
         {"VQ6192_Show_Printf_Flag", "error: VQ6192_Show_Printf_Flag takes 1 argument: chip\n"},
         {"VQ6192_Rt 0 0x1g 1",
-         "error: VQ6192_Rt: '0x1g' is not an integer for tableId (arguments: chip tableId index)\n"},
+         "error: VQ6192_Rt: '0x1g' is not a table name or id for tableId (arguments: chip tableId index)\n"},
+        {"VQ6192_Rt 0 Reserved 1",
+         "error: VQ6192_Rt: 'Reserved' is not a table name or id for tableId (arguments: chip tableId "
+         "index)\n"},
+        {"VQ6192_Set_Diag_Printf_Flag 0 ATMX 1",
+         "error: VQ6192_Set_Diag_Printf_Flag: 'ATMX' is not a module name "
+         "or id for module (arguments: chip module flag)\n"},
+        {"VQ6192_Rt 0x 1 1",
+         "error: VQ6192_Rt: '0x' is not an integer for chip (arguments: chip tableId index)\n"},
         {"VQ6192_Rt \"0 1 1", "error: unterminated quote\n"},
         {"rr 0", "error: rr takes chip addr\n"},
         {"rr 7 0", "error: chip 7 is not installed in this shell (chips 0..0)\n"},
@@ -92,10 +100,20 @@ TEST_F(ShellSession, HelpAndQuit) {
     const std::string all = run("help");
     EXPECT_NE(all.find("TABLE\n  VQ6192_Rt chip tableId index"), std::string::npos);
     EXPECT_NE(all.find("shell\n  rr chip addr"), std::string::npos);
-    EXPECT_EQ(run("help VQ6192_Rt"),
-              "VQ6192_Rt chip tableId index\n"
-              "  read a table entry and print it member by member\n"
-              "  module TABLE; arguments: chip (integer), tableId (integer), index (integer)\n");
+    EXPECT_EQ(
+        run("help VQ6192_Rt"),
+        "VQ6192_Rt chip tableId index\n"
+        "  read a table entry and print it member by member\n"
+        "  module TABLE; arguments: chip (installed chip id), tableId (table name or id), index (integer)\n");
+    EXPECT_EQ(
+        run("help tf tables"),
+        "tf chip table index member value\n"
+        "  set one member of a table entry\n"
+        "  shell command; arguments: chip (installed chip id), table (table name or id), index (integer), "
+        "member (member name of that table), value (integer)\n"
+        "tables [filter]\n"
+        "  list the table catalogue (names containing filter)\n"
+        "  shell command; arguments: [filter] (text)\n");
     EXPECT_EQ(run("help nosuch"), "no command 'nosuch'\n");
     EXPECT_EQ(run("quit; rr 0 2"), "");
     EXPECT_TRUE(session->quitRequested());
