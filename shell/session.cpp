@@ -60,7 +60,7 @@ const char *errorMeaning(uint32_t module, uint32_t error) {
 std::string argumentHelp(const std::string &name, const char *plainKind,
                          vq::diag::ArgKind kind = vq::diag::ArgKind::U32) {
     const ArgRole role = argRole(name);
-    // A role other than the chip takes names as well as integers; only integer arguments take them.
+    // An integer argument with a role is described by it (chip id, table or module name or id).
     const char *kindText =
         role != ArgRole::Plain && kind == vq::diag::ArgKind::U32 ? argRoleKind(role) : plainKind;
     return name + " (" + kindText + ")";
@@ -227,9 +227,13 @@ std::string Session::banner(bool lineEditing) const {
     }
     const auto up = static_cast<size_t>(
         std::count_if(chips_.begin(), chips_.end(), [](const auto &c) { return c->broughtUp; }));
-    text += up == chips_.size() ? ", brought up"
-            : up == 0           ? ", not brought up"
-                      : ", " + std::to_string(up) + " of " + std::to_string(chips_.size()) + " brought up";
+    if (up == chips_.size()) {
+        text += ", brought up";
+    } else if (up == 0) {
+        text += ", not brought up";
+    } else {
+        text += ", " + std::to_string(up) + " of " + std::to_string(chips_.size()) + " brought up";
+    }
     text += "; help lists the commands";
     if (!lineEditing) {
         text += " (no line editing: built without libedit)";
