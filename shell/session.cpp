@@ -112,28 +112,24 @@ struct Session::Chip {
 struct Session::Builtin {
     const char *name;
     const char *args;
-    const char *plainKind;
     const char *help;
     size_t minArgs;
     size_t maxArgs;
     bool (Session::*run)(const std::vector<std::string> &args);
+    const char *plainKind = "integer";  // what help calls the arguments that have no role
 };
 
-// Arguments named chip, table and member are what their names say (see arguments.h); the others are
-// of the row's plain kind.
 const Session::Builtin Session::kBuiltins[] = {
-    {"rr", "chip addr", "integer", "read a register (byte address)", 2, 2, &Session::cmdRegRead},
-    {"rw", "chip addr value", "integer", "write a register", 3, 3, &Session::cmdRegWrite},
-    {"rd", "chip addr count", "integer", "dump count registers from addr, eight a line", 3, 3,
-     &Session::cmdRegDump},
-    {"tr", "chip table index", "integer", "read a table entry (table by id or name) and print it", 3, 3,
+    {"rr", "chip addr", "read a register (byte address)", 2, 2, &Session::cmdRegRead},
+    {"rw", "chip addr value", "write a register", 3, 3, &Session::cmdRegWrite},
+    {"rd", "chip addr count", "dump count registers from addr, eight a line", 3, 3, &Session::cmdRegDump},
+    {"tr", "chip table index", "read a table entry (table by id or name) and print it", 3, 3,
      &Session::cmdTableRead},
-    {"tw", "chip table index word...", "integer", "write a table entry from its 32-bit words, lowest first",
-     4, 3 + VQ6192_TBL_MAX_WORDS, &Session::cmdTableWrite},
-    {"tf", "chip table index member value", "integer", "set one member of a table entry", 5, 5,
-     &Session::cmdTableField},
-    {"tables", "[filter]", "text", "list the table catalogue (names containing filter)", 0, 1,
-     &Session::cmdTables},
+    {"tw", "chip table index word...", "write a table entry from its 32-bit words, lowest first", 4,
+     3 + VQ6192_TBL_MAX_WORDS, &Session::cmdTableWrite},
+    {"tf", "chip table index member value", "set one member of a table entry", 5, 5, &Session::cmdTableField},
+    {"tables", "[filter]", "list the table catalogue (names containing filter)", 0, 1, &Session::cmdTables,
+     "text"},
 };
 
 Session::Session(std::ostream &out, std::ostream &err) : out_(out), err_(err) {}
