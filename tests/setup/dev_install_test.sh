@@ -103,7 +103,7 @@ check still-missing "cmake make g++" 1 "apt-get update | $inst libedit-dev" "sti
     FAKE_APT_NOOP=1 -- deps shell
 check not-debian "" 1 "" "cannot check or install packages: no dpkg-query or apt-get" NODPKG=1 -- deps test
 check install-skipped "" 0 "" "" VQ6192_DEV_NO_INSTALL=1 -- deps test
-check bad-verb "$all" 2 "" "" -- nosuch
+check bad-verb "$all" 2 "" "unknown verb 'nosuch'" -- nosuch
 
 echo "$passed passed, $failed failed"
 [ "$failed" = 0 ]
