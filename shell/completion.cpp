@@ -153,6 +153,7 @@ Completion complete(const Session &session, std::string_view line) {
                     addIds(&out, VQ6192_CHIP_TABLE_NUM, prefix);
                 } else {
                     for (uint32_t t = 0; t < VQ6192_CHIP_TABLE_NUM; ++t) {
+                        // Only names that lead back to this table: the "Reserved" rows name none.
                         uint32_t id = 0;
                         const char *name = g_astVQ6192TblEntryList[t].pszName;
                         if (tableByName(name, &id) && id == t) {
