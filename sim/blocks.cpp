@@ -5,6 +5,7 @@
 #include "vq6192/sim/framers.h"
 #include "vq6192/sim/interrupts.h"
 #include "vq6192/sim/ram_bist.h"
+#include "vq6192/sim/register_window.h"
 
 namespace vq6192::sim {
 
@@ -14,6 +15,7 @@ void installBlocks(ChipModel &model) {
     model.block<RamBistBlock>();
     model.block<DdrBlock>();
     model.block<Framers>();
+    model.block<RegisterWindow>();
 }
 
 }  // namespace vq6192::sim
