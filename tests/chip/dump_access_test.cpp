@@ -13,7 +13,7 @@ TEST_F(AccessTest, DirectReadIgnoresMultiplierProductFlagAndHostFunctions) {
     p.ulAddrMultiple = 4;
     p.ulSupportProductFlag = 1;
     reinstall(p);
-    window().set(0x2004, 0xBEEF);  // register 0x1002
+    window().set(0x2004, 0xBEEF);   // register 0x1002
     window().set(0x3E812, 0x1357);  // register 0x1F409, the last E1 map register
     uint16_t reg = 0;
     uint16_t e1 = 0;
@@ -30,7 +30,8 @@ TEST_F(AccessTest, DirectReadIgnoresMultiplierProductFlagAndHostFunctions) {
 TEST_F(AccessTest, InitialisationReplacesTheBaseOfTheDirectForm) {
     useWindow();
     window().set(0x100 + 0x20, 0x4242);
-    ASSERT_EQ(init(g_VQ6192_ChipDump_DirectReg, 1, g_VQ6192_ChipDump_InDirectReg, 1, window().base() + 0x100), 0u);
+    ASSERT_EQ(init(g_VQ6192_ChipDump_DirectReg, 1, g_VQ6192_ChipDump_InDirectReg, 1, window().base() + 0x100),
+              0u);
     EXPECT_EQ(VQ6192_DUMP_ReadDumpReg(kChip, 0x10), 0x4242);
 }
 
@@ -61,7 +62,8 @@ TEST_F(AccessTest, FieldReadsOnBothPaths) {
             window().set(0x40, 0xA5C3);
         }
         for (const Case &c : cases) {
-            SCOPED_TRACE(testing::Message() << (indirect ? "indirect " : "direct ") << c.startBit << "/" << c.width);
+            SCOPED_TRACE(testing::Message()
+                         << (indirect ? "indirect " : "direct ") << c.startBit << "/" << c.width);
             uint16_t out = 0xFFFF;
             EXPECT_EQ(VQ6192_DUMP_ReadReg(kChip, 0x20, c.startBit, c.width, &out), 0u);
             EXPECT_EQ(out, c.expected);
@@ -87,7 +89,8 @@ TEST_F(AccessTest, FieldWritesKeepTheOtherBitsOnBothPaths) {
             useWindow();
         }
         for (const Case &c : cases) {
-            SCOPED_TRACE(testing::Message() << (indirect ? "indirect " : "direct ") << c.startBit << "/" << c.width);
+            SCOPED_TRACE(testing::Message()
+                         << (indirect ? "indirect " : "direct ") << c.startBit << "/" << c.width);
             if (indirect) {
                 model.poke(0x40, c.before);
             } else {
@@ -105,9 +108,9 @@ TEST_F(AccessTest, BadFieldArgumentsAreRefusedWithoutBusAccess) {
         uint32_t chip, startBit, width;
         uint32_t status;
     } cases[] = {
-        {kChip, 16, 1, kPara}, {kChip, 0, 0, kPara},  {kChip, 0, 17, kPara},
-        {kChip, 8, 9, kPara},  {kChip, 15, 2, kPara}, {264, 0, 16, 0x080B0001},
-        {7, 0, 16, 0x070B0001},  // never installed: no dump context
+        {kChip, 16, 1, kPara}, {kChip, 0, 0, kPara},     {kChip, 0, 17, kPara},  {kChip, 8, 9, kPara},
+        {kChip, 15, 2, kPara}, {264, 0, 16, 0x080B0001}, {7, 0, 16, 0x070B0001},  // never installed: no dump
+                                                                                  // context
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(testing::Message() << c.chip << " " << c.startBit << "/" << c.width);
@@ -134,8 +137,8 @@ class TableReadTest : public DumpTest {
     void SetUp() override {
         DumpTest::SetUp();
         useIndirect();
-        ASSERT_EQ(init(g_VQ6192_ChipDump_DirectReg, g_VQ6192_ChipDump_DirectReg_Cnt, g_VQ6192_ChipDump_InDirectReg,
-                       g_VQ6192_ChipDump_InDirectReg_Cnt),
+        ASSERT_EQ(init(g_VQ6192_ChipDump_DirectReg, g_VQ6192_ChipDump_DirectReg_Cnt,
+                       g_VQ6192_ChipDump_InDirectReg, g_VQ6192_ChipDump_InDirectReg_Cnt),
                   0u);
     }
     static constexpr uint32_t kAtmGroup = 2;  // third default group
@@ -147,14 +150,16 @@ TEST_F(TableReadTest, ReadsAnEntryWithTheRecordsProtocol) {
     // Registers of the 0x5000 block with their other bits set.
     model.poke(0xA000, 0xFFC0);  // select [0..5]
     model.poke(0xA004, 0xFFFC);  // command [0..1]
-    model.tables().setEntry(0x5000, 38, 0x2345,
-                            halves({0x1111, 0x2222, 0x3333, 0x4444, 0x5555, 0x6666, 0x7777, 0x8888, 0x9999, 0xAAAA}));
+    model.tables().setEntry(
+        0x5000, 38, 0x2345,
+        halves({0x1111, 0x2222, 0x3333, 0x4444, 0x5555, 0x6666, 0x7777, 0x8888, 0x9999, 0xAAAA}));
     uint32_t entry[5] = {};
     uint32_t rc = 1;
     const auto t = traced([&] { rc = VQ6192_DUMP_ReadDumpTbl(kChip, kAtmGroup, kPriTab, 0x12345, entry); });
     EXPECT_EQ(rc, 0u);
-    EXPECT_EQ(vqtest::writes(t), (std::vector<BusAccess>{wr(0xA000, 0xFFE6), wr(0xA002, 0x2345), wr(0xA004, 0xFFFC),
-                                                         wr(0xA004, 0xFFFF), wr(0xA004, 0xFFFC)}));
+    EXPECT_EQ(vqtest::writes(t),
+              (std::vector<BusAccess>{wr(0xA000, 0xFFE6), wr(0xA002, 0x2345), wr(0xA004, 0xFFFC),
+                                      wr(0xA004, 0xFFFF), wr(0xA004, 0xFFFC)}));
     EXPECT_EQ(entry[0], 0x22221111u);
     EXPECT_EQ(entry[4], 0xAAAA9999u);
     // Busy polled once before and once after the command; ten data registers from 0x5020.
@@ -167,8 +172,8 @@ TEST_F(TableReadTest, ReadsAnEntryWithTheRecordsProtocol) {
         }
     }
     EXPECT_EQ(busy, 2u);
-    EXPECT_EQ(data, (std::vector<uint32_t>{0xA040, 0xA042, 0xA044, 0xA046, 0xA048, 0xA04A, 0xA04C, 0xA04E, 0xA050,
-                                           0xA052}));
+    EXPECT_EQ(data, (std::vector<uint32_t>{0xA040, 0xA042, 0xA044, 0xA046, 0xA048, 0xA04A, 0xA04C, 0xA04E,
+                                           0xA050, 0xA052}));
     EXPECT_EQ(model.arbitrationsTaken(), 0u);
     EXPECT_EQ(model.cardPresentAsked(), 0u);
 }
@@ -250,8 +255,10 @@ TEST_F(TableReadTest, ParameterErrorsTouchNoRegister) {
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
         uint32_t entry[16] = {};
-        const auto t = traced(
-            [&] { EXPECT_EQ(VQ6192_DUMP_ReadDumpTbl(c.chip, c.group, c.table, 0, c.buffer ? entry : nullptr), c.status); });
+        const auto t = traced([&] {
+            EXPECT_EQ(VQ6192_DUMP_ReadDumpTbl(c.chip, c.group, c.table, 0, c.buffer ? entry : nullptr),
+                      c.status);
+        });
         EXPECT_TRUE(t.empty());
     }
 }

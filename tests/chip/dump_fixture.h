@@ -53,8 +53,8 @@ class DumpTest : public vqtest::ChipTest {
         reinstall(p);
     }
 
-    uint32_t init(const VQ6192_DUMP_REG_BLOCK_S *regs, uint32_t regCount, const VQ6192_DUMP_TBL_GROUP_S *groups,
-                  uint32_t groupCount, uintptr_t base = 0) {
+    uint32_t init(const VQ6192_DUMP_REG_BLOCK_S *regs, uint32_t regCount,
+                  const VQ6192_DUMP_TBL_GROUP_S *groups, uint32_t groupCount, uintptr_t base = 0) {
         EXPECT_EQ(VQ6192_DUMP_RegFileFunc(kChip, vqtest::MemFiles::open, vqtest::MemFiles::write,
                                           vqtest::MemFiles::close),
                   0u);

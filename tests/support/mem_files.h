@@ -30,6 +30,17 @@ class MemFiles {
     int failWriteAt = -1;
     bool failClose = false;
 
+    // Back to no files, no calls and no failures.
+    void reset() {
+        files.clear();
+        calls.clear();
+        failOpenMode.clear();
+        zeroHandleMode.clear();
+        failWriteAt = -1;
+        failClose = false;
+        writes_ = 0;
+    }
+
     size_t openHandles() const { return handles_.size(); }
     const std::vector<uint8_t> &file(const std::string &name) { return files[name]; }
 

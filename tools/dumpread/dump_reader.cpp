@@ -70,7 +70,8 @@ bool sameName(std::string_view a, std::string_view b) {
 int32_t catalogueIdFor(uint32_t groupId, size_t position, const std::string &name) {
     for (uint32_t g = 0; g < g_VQ6192_ChipDump_InDirectReg_Cnt; ++g) {
         const VQ6192_DUMP_TBL_GROUP_S &grp = g_VQ6192_ChipDump_InDirectReg[g];
-        if (grp.ulGroupId == groupId && position < grp.ucTblNum && sameName(grp.astTbl[position].pszName, name)) {
+        if (grp.ulGroupId == groupId && position < grp.ucTblNum &&
+            sameName(grp.astTbl[position].pszName, name)) {
             return vq::dump::defaultTableCatalogueId(g, static_cast<uint32_t>(position));
         }
     }
@@ -96,8 +97,8 @@ class Parser {
 
     DumpImage run() {
         if (file_.size() < kHead) {
-            return fail("truncated: the file header needs " + std::to_string(kHead) + " bytes, the file has " +
-                        std::to_string(file_.size()));
+            return fail("truncated: the file header needs " + std::to_string(kHead) +
+                        " bytes, the file has " + std::to_string(file_.size()));
         }
         if (file_[0] != VQ6192_DUMP_MARK_HEAD || std::memcmp(file_.data() + 1, "DUMP", 4) != 0) {
             return fail("not a chip dump: the file does not start with 0x7E \"DUMP\"");
@@ -321,13 +322,15 @@ void printDump(const DumpImage &image, const PrintOptions &o, std::ostream &out)
                         continue;
                     }
                     if (!shownHead) {
-                        std::snprintf(text, sizeof text, "register block %s, group %u, %zu range%s\n", b.name.c_str(),
-                                      b.groupId, b.ranges.size(), b.ranges.size() == 1 ? "" : "s");
+                        std::snprintf(text, sizeof text, "register block %s, group %u, %zu range%s\n",
+                                      b.name.c_str(), b.groupId, b.ranges.size(),
+                                      b.ranges.size() == 1 ? "" : "s");
                         out << text;
                         shownHead = true;
                     }
                     if (!shownRange) {
-                        std::snprintf(text, sizeof text, "  registers 0x%x..0x%x\n", r.base + r.first, r.base + r.last);
+                        std::snprintf(text, sizeof text, "  registers 0x%x..0x%x\n", r.base + r.first,
+                                      r.base + r.last);
                         out << text;
                         shownRange = true;
                     }
@@ -336,8 +339,8 @@ void printDump(const DumpImage &image, const PrintOptions &o, std::ostream &out)
                 }
             }
             if (!filtered && !shownHead) {
-                std::snprintf(text, sizeof text, "register block %s, group %u, no registers\n", b.name.c_str(),
-                              b.groupId);
+                std::snprintf(text, sizeof text, "register block %s, group %u, no registers\n",
+                              b.name.c_str(), b.groupId);
                 out << text;
             }
         }
@@ -350,14 +353,16 @@ void printDump(const DumpImage &image, const PrintOptions &o, std::ostream &out)
                     continue;
                 }
                 if (!shownHead) {
-                    std::snprintf(text, sizeof text, "table group %s, group %u, %zu table%s\n", g.name.c_str(),
-                                  g.groupId, g.tables.size(), g.tables.size() == 1 ? "" : "s");
+                    std::snprintf(text, sizeof text, "table group %s, group %u, %zu table%s\n",
+                                  g.name.c_str(), g.groupId, g.tables.size(),
+                                  g.tables.size() == 1 ? "" : "s");
                     out << text;
                     shownHead = true;
                 }
-                std::snprintf(text, sizeof text, "  table %s (%s), %u entries of %u bytes\n", t.name.c_str(),
-                              t.catalogueId >= 0 ? g_astVQ6192TblEntryList[t.catalogueId].pszName : "no layout",
-                              t.depth, t.entrySize);
+                std::snprintf(
+                    text, sizeof text, "  table %s (%s), %u entries of %u bytes\n", t.name.c_str(),
+                    t.catalogueId >= 0 ? g_astVQ6192TblEntryList[t.catalogueId].pszName : "no layout",
+                    t.depth, t.entrySize);
                 out << text;
                 for (uint32_t i = 0; i < t.depth; ++i) {
                     printEntry(t, i, out);

@@ -52,7 +52,7 @@ struct DumpImage {
 DumpImage parseDump(std::span<const uint8_t> file);
 
 struct PrintOptions {
-    std::vector<std::string> tables;                        // --table: dump or catalogue names
+    std::vector<std::string> tables;                      // --table: dump or catalogue names
     std::vector<std::pair<uint32_t, uint32_t>> regAddrs;  // --reg: byte address ranges, inclusive
 };
 
