@@ -139,6 +139,52 @@ TEST_F(ReaderTest, CesDumpReadsBackTheModelsRegistersAndEntries) {
     EXPECT_EQ(entries, 18u * 352 + 336);
 }
 
+TEST_F(ReaderTest, FullDefaultDumpReproducesEveryEntry) {
+    // Every table of every default group holds values in a spread of entries (its first, its last and
+    // every 509th); the reader must give back every entry of every table as the model holds it.
+    std::mt19937 rng(42);
+    for (uint32_t gi = 0; gi < g_VQ6192_ChipDump_InDirectReg_Cnt; ++gi) {
+        const VQ6192_DUMP_TBL_GROUP_S &g = g_VQ6192_ChipDump_InDirectReg[gi];
+        for (uint32_t t = 0; t < g.ucTblNum; ++t) {
+            const VQ6192_CHIP_TABLE_INFO_S &r = g.astTbl[t].stTbl;
+            const uint32_t select = r.stSelect.usValue1 & ((1u << r.stSelect.usWidth) - 1);
+            auto fill = [&](uint32_t i) {
+                TableEngine::Entry e{};
+                for (uint32_t k = 0; k < r.usData16; ++k) {
+                    e[k] = static_cast<uint16_t>(rng() | 1);
+                }
+                model.tables().setEntry(r.ulBlockBase, select, i & ((1u << r.stAddress.usWidth) - 1), e);
+            };
+            for (uint32_t i = 0; i < r.ulDepth; i += 509) {
+                fill(i);
+            }
+            fill(r.ulDepth - 1);
+        }
+    }
+    const Bytes file = defaultDump(VQ6192_DUMP_ALL_GROUPS);
+    const vqdump::DumpImage image = vqdump::parseDump(file);
+    ASSERT_TRUE(image.ok()) << image.error;
+    ASSERT_EQ(image.blocks.size(), 11u);
+    ASSERT_EQ(image.groups.size(), 7u);
+    size_t entries = 0;
+    for (uint32_t gi = 0; gi < image.groups.size(); ++gi) {
+        const VQ6192_DUMP_TBL_GROUP_S &g = g_VQ6192_ChipDump_InDirectReg[gi];
+        ASSERT_EQ(image.groups[gi].tables.size(), g.ucTblNum);
+        for (uint32_t t = 0; t < g.ucTblNum; ++t) {
+            const vqdump::Table &table = image.groups[gi].tables[t];
+            SCOPED_TRACE(table.name);
+            ASSERT_EQ(table.depth, g.astTbl[t].stTbl.ulDepth);
+            EXPECT_EQ(table.catalogueId, vq::dump::defaultTableCatalogueId(gi, t));
+            for (uint32_t i = 0; i < table.depth; ++i, ++entries) {
+                ASSERT_EQ(table.entry(i), expectedWords(g.astTbl[t], i, table.entrySize / 4))
+                    << "entry " << i;
+            }
+        }
+    }
+    RecordProperty("entries", static_cast<int>(entries));
+    RecordProperty("fileBytes", static_cast<int>(file.size()));
+}
+
 TEST_F(ReaderTest, AtmFilterDumpsOnlyTheAtmBlockAndGroup) {
     const vqdump::DumpImage image = vqdump::parseDump(defaultDump(4));
     ASSERT_TRUE(image.ok()) << image.error;
