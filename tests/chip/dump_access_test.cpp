@@ -48,39 +48,18 @@ TEST_F(AccessTest, IndirectReadAddsTheBaseAndTakesNoLock) {
     EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 0, 0}));
 }
 
-TEST_F(AccessTest, FieldReadsOnBothPaths) {
-    struct Case {
-        uint32_t startBit, width;
-        uint16_t expected;
-    } cases[] = {{0, 16, 0xA5C3}, {4, 4, 0xC}, {15, 1, 1}, {12, 4, 0xA}, {0, 1, 1}, {1, 2, 1}};
-    for (bool indirect : {false, true}) {
-        if (indirect) {
-            useIndirect();
-            model.poke(0x40, 0xA5C3);
-        } else {
-            useWindow();
-            window().set(0x40, 0xA5C3);
-        }
-        for (const Case &c : cases) {
-            SCOPED_TRACE(testing::Message()
-                         << (indirect ? "indirect " : "direct ") << c.startBit << "/" << c.width);
-            uint16_t out = 0xFFFF;
-            EXPECT_EQ(VQ6192_DUMP_ReadReg(kChip, 0x20, c.startBit, c.width, &out), 0u);
-            EXPECT_EQ(out, c.expected);
-        }
-    }
-}
-
-TEST_F(AccessTest, FieldWritesKeepTheOtherBitsOnBothPaths) {
+TEST_F(AccessTest, FieldReadsAndWritesOnBothPaths) {
     struct Case {
         uint16_t before;
         uint32_t startBit, width, value;
-        uint16_t after;
+        uint16_t read, after;
     } cases[] = {
-        {0xFFFF, 4, 2, 0, 0xFFCF},
-        {0x0000, 8, 8, 0x1FF, 0xFF00},  // value bits beyond the width are dropped
-        {0xFFFF, 0, 16, 0x1234, 0x1234},
-        {0x7FFF, 15, 1, 1, 0xFFFF},
+        {0xA5C3, 0, 16, 0x1234, 0xA5C3, 0x1234},
+        {0xA5C3, 4, 4, 0, 0xC, 0xA503},
+        {0xFFFF, 4, 2, 0, 3, 0xFFCF},
+        {0x0000, 8, 8, 0x1FF, 0, 0xFF00},  // value bits beyond the width are dropped
+        {0x7FFF, 15, 1, 1, 0, 0xFFFF},
+        {0xA5C3, 12, 4, 0xF, 0xA, 0xF5C3},
     };
     for (bool indirect : {false, true}) {
         if (indirect) {
@@ -88,16 +67,16 @@ TEST_F(AccessTest, FieldWritesKeepTheOtherBitsOnBothPaths) {
         } else {
             useWindow();
         }
+        auto reg = [&]() { return indirect ? model.peek(0x40) : window().at(0x40); };
         for (const Case &c : cases) {
             SCOPED_TRACE(testing::Message()
                          << (indirect ? "indirect " : "direct ") << c.startBit << "/" << c.width);
-            if (indirect) {
-                model.poke(0x40, c.before);
-            } else {
-                window().set(0x40, c.before);
-            }
+            indirect ? model.poke(0x40, c.before) : window().set(0x40, c.before);
+            uint16_t out = 0xEEEE;
+            EXPECT_EQ(VQ6192_DUMP_ReadReg(kChip, 0x20, c.startBit, c.width, &out), 0u);
+            EXPECT_EQ(out, c.read);
             EXPECT_EQ(VQ6192_DUMP_WriteReg(kChip, 0x20, c.startBit, c.width, c.value), 0u);
-            EXPECT_EQ(indirect ? model.peek(0x40) : window().at(0x40), c.after);
+            EXPECT_EQ(reg(), c.after);
         }
     }
 }

@@ -80,43 +80,6 @@ TEST_F(FileTest, ExactBytesOfAFilteredDump) {
     EXPECT_EQ(files.openHandles(), 0u);
 }
 
-TEST_F(FileTest, FilterSelectsBlocksAndGroupsByGroupId) {
-    struct Case {
-        int32_t filter;
-        std::vector<uint8_t> marks;  // record marks in file order, after the header
-    } cases[] = {
-        {VQ6192_DUMP_ALL_GROUPS, {0xF0, 0xF0, 0xF1}},
-        {1, {0xF0, 0xF1}},
-        {2, {0xF0}},
-        {3, {}},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.filter);
-        files.files.clear();
-        ASSERT_EQ(initSmall(), 0u);
-        EXPECT_EQ(VQ6192_DUMP_Dump(kChip, c.filter), 0u);
-        VQ6192_DUMP_ChipDumpEnd(kChip);
-        const Bytes &f = files.file(kFile);
-        std::vector<uint8_t> marks;
-        for (size_t at = 48; at < f.size();) {
-            marks.push_back(f[at]);
-            if (f[at] == 0xF0) {
-                // header, then per range its header and values
-                const uint8_t ranges = f[at + 22];
-                at += 24;
-                for (uint8_t r = 0; r < ranges; ++r) {
-                    const uint32_t first = (f[at + 2] << 8) | f[at + 3];
-                    const uint32_t last = (f[at + 4] << 8) | f[at + 5];
-                    at += 6 + 2 * (last - first + 1);
-                }
-            } else {
-                at += 24 + 24 + 2 * 4;  // the group, its table and two 4-byte entries
-            }
-        }
-        EXPECT_EQ(marks, c.marks);
-    }
-}
-
 TEST_F(FileTest, EntrySizeFollowsTheWidth) {
     // (width >> 3) + (width AND 7) bytes, rounded up to whole words.
     const struct {
@@ -139,22 +102,6 @@ TEST_F(FileTest, EntrySizeFollowsTheWidth) {
         at += 24 + c.size;
     }
     EXPECT_EQ(at, f.size());
-}
-
-TEST_F(FileTest, RangeOfTheAtmBlockHasItsHeaderAndEighteenValues) {
-    const VQ6192_DUMP_REG_BLOCK_S atm{"ATM", 4, 3, 1, 2, 0, {{0x5400, 0x30, 0x41}}};
-    for (uint32_t r = 0x5430; r <= 0x5441; ++r) {
-        model.poke(r * 2, static_cast<uint16_t>(r));
-    }
-    ASSERT_EQ(init(&atm, 1, groups_, 1), 0u);
-    EXPECT_EQ(VQ6192_DUMP_DumpReg(kChip, 4) | VQ6192_DUMP_WriteFile(kChip), 0u);
-    Bytes want = {0x54, 0x00, 0x00, 0x30, 0x00, 0x41};
-    for (uint32_t r = 0x5430; r <= 0x5441; ++r) {
-        append(want, {static_cast<uint8_t>(r >> 8), static_cast<uint8_t>(r)});
-    }
-    const Bytes &f = files.file(kFile);
-    ASSERT_EQ(f.size(), 48u + 24 + 6 + 36);
-    EXPECT_EQ(Bytes(f.begin() + 72, f.end()), want);
 }
 
 TEST_F(FileTest, LongNamesAreCutInTheirHeaders) {

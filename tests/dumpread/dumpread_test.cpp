@@ -21,17 +21,21 @@ class ReaderTest : public DumpTest {
         useIndirect();
     }
 
-    // Fills every entry of a default record's table memory with values drawn from `rng`.
-    void fillTable(const VQ6192_DUMP_TBL_S &t, std::mt19937 &rng) {
+    // Fills entries 0, stride, 2 x stride, ... and the last of a record's table memory from `rng`.
+    void fillTable(const VQ6192_DUMP_TBL_S &t, std::mt19937 &rng, uint32_t stride = 1) {
         const VQ6192_CHIP_TABLE_INFO_S &r = t.stTbl;
         const uint32_t select = r.stSelect.usValue1 & ((1u << r.stSelect.usWidth) - 1);
-        for (uint32_t i = 0; i < r.ulDepth; ++i) {
+        auto fill = [&](uint32_t i) {
             TableEngine::Entry e{};
             for (uint32_t k = 0; k < r.usData16; ++k) {
-                e[k] = static_cast<uint16_t>(rng());
+                e[k] = static_cast<uint16_t>(rng() | 1);
             }
             model.tables().setEntry(r.ulBlockBase, select, i & ((1u << r.stAddress.usWidth) - 1), e);
+        };
+        for (uint32_t i = 0; i < r.ulDepth; i += stride) {
+            fill(i);
         }
+        fill(r.ulDepth - 1);
     }
 
     // The words the file must hold for entry `i` of a record: the data registers' halves, then zeros.
@@ -81,33 +85,27 @@ class ReaderTest : public DumpTest {
     VQ6192_DUMP_TBL_GROUP_S small_{};
 };
 
-TEST_F(ReaderTest, CesDumpReadsBackTheModelsRegistersAndEntries) {
+TEST_F(ReaderTest, CesDumpReadsBackTheModelsRegisters) {
     std::mt19937 rng(6192);
-    const VQ6192_DUMP_TBL_GROUP_S &ces = g_VQ6192_ChipDump_InDirectReg[3];
-    for (uint32_t t = 0; t < ces.ucTblNum; ++t) {
-        fillTable(ces.astTbl[t], rng);
-    }
     const VQ6192_DUMP_REG_BLOCK_S &block = g_VQ6192_ChipDump_DirectReg[4];
+    std::vector<uint32_t> addrs;
     for (uint32_t r = 0; r < block.ucRangeNum; ++r) {
         for (uint32_t reg = block.astRange[r].usFirst; reg <= block.astRange[r].usLast; ++reg) {
-            const uint32_t addr = 2 * (block.astRange[r].usBase + reg);
-            // The table-access registers of the block hold what the dump's own table reads leave.
-            if (addr >= 0x14000 && addr < 0x14040) {
-                continue;
-            }
+            addrs.push_back(2 * (block.astRange[r].usBase + reg));
+        }
+    }
+    for (uint32_t addr : addrs) {
+        // Leave the table-access registers, which the dump's own table reads change afterwards.
+        if (addr >= 0x14040) {
             model.poke(addr, static_cast<uint16_t>(rng()));
         }
     }
+    // As the bus shows them: some registers (interrupt summaries) are computed when read.
     std::vector<uint16_t> before;
-    for (uint32_t r = 0; r < block.ucRangeNum; ++r) {
-        for (uint32_t reg = block.astRange[r].usFirst; reg <= block.astRange[r].usLast; ++reg) {
-            // As the bus shows them: some registers (interrupt summaries) are computed when read.
-            before.push_back(model.busRead(2 * (block.astRange[r].usBase + reg)));
-        }
+    for (uint32_t addr : addrs) {
+        before.push_back(model.busRead(addr));
     }
-
-    const Bytes file = defaultDump(5);
-    const vqdump::DumpImage image = vqdump::parseDump(file);
+    const vqdump::DumpImage image = vqdump::parseDump(defaultDump(5));
     ASSERT_TRUE(image.ok()) << image.error;
     EXPECT_EQ(image.headText, "DUMPchip3.bdVQ6192");
     ASSERT_EQ(image.blocks.size(), 1u);
@@ -116,27 +114,10 @@ TEST_F(ReaderTest, CesDumpReadsBackTheModelsRegistersAndEntries) {
     for (const vqdump::RegRange &r : image.blocks[0].ranges) {
         read.insert(read.end(), r.values.begin(), r.values.end());
     }
-    ASSERT_EQ(read.size(), before.size());
-    for (size_t i = 0; i < read.size(); ++i) {
-        ASSERT_EQ(read[i], before[i]) << "register " << i;
-    }
-
+    EXPECT_TRUE(read == before);
     ASSERT_EQ(image.groups.size(), 1u);
-    const vqdump::TableGroup &g = image.groups[0];
-    EXPECT_EQ(g.name, "CES");
-    ASSERT_EQ(g.tables.size(), 19u);
-    size_t entries = 0;
-    for (uint32_t t = 0; t < g.tables.size(); ++t) {
-        const vqdump::Table &table = g.tables[t];
-        SCOPED_TRACE(table.name);
-        EXPECT_EQ(table.name, ces.astTbl[t].pszName);
-        EXPECT_EQ(table.depth, ces.astTbl[t].stTbl.ulDepth);
-        EXPECT_EQ(table.catalogueId, vq::dump::defaultTableCatalogueId(3, t));
-        for (uint32_t i = 0; i < table.depth; ++i, ++entries) {
-            ASSERT_EQ(table.entry(i), expectedWords(ces.astTbl[t], i, table.entrySize / 4)) << "entry " << i;
-        }
-    }
-    EXPECT_EQ(entries, 18u * 352 + 336);
+    EXPECT_EQ(image.groups[0].name, "CES");
+    EXPECT_EQ(image.groups[0].tables.size(), 19u);
 }
 
 TEST_F(ReaderTest, FullDefaultDumpReproducesEveryEntry) {
@@ -144,21 +125,8 @@ TEST_F(ReaderTest, FullDefaultDumpReproducesEveryEntry) {
     // every 509th); the reader must give back every entry of every table as the model holds it.
     std::mt19937 rng(42);
     for (uint32_t gi = 0; gi < g_VQ6192_ChipDump_InDirectReg_Cnt; ++gi) {
-        const VQ6192_DUMP_TBL_GROUP_S &g = g_VQ6192_ChipDump_InDirectReg[gi];
-        for (uint32_t t = 0; t < g.ucTblNum; ++t) {
-            const VQ6192_CHIP_TABLE_INFO_S &r = g.astTbl[t].stTbl;
-            const uint32_t select = r.stSelect.usValue1 & ((1u << r.stSelect.usWidth) - 1);
-            auto fill = [&](uint32_t i) {
-                TableEngine::Entry e{};
-                for (uint32_t k = 0; k < r.usData16; ++k) {
-                    e[k] = static_cast<uint16_t>(rng() | 1);
-                }
-                model.tables().setEntry(r.ulBlockBase, select, i & ((1u << r.stAddress.usWidth) - 1), e);
-            };
-            for (uint32_t i = 0; i < r.ulDepth; i += 509) {
-                fill(i);
-            }
-            fill(r.ulDepth - 1);
+        for (uint32_t t = 0; t < g_VQ6192_ChipDump_InDirectReg[gi].ucTblNum; ++t) {
+            fillTable(g_VQ6192_ChipDump_InDirectReg[gi].astTbl[t], rng, 509);
         }
     }
     const Bytes file = defaultDump(VQ6192_DUMP_ALL_GROUPS);
