@@ -281,6 +281,10 @@ TEST_F(ReaderTest, CorruptFilesAreReported) {
          124,
          {0xFF, 0xFF, 0xFF, 0xFF},
          "truncated: table TS_DL_ET1_TAB at offset 0x6a needs 17179869180 bytes of entries, 36 left"},
+        {"empty entries, huge depth",
+         124,
+         {0xFF, 0xFF, 0xFF, 0xFF, 0x00, 0x00},
+         "corrupt: bad table name at offset 0x82 (table 1 of group TS)"},
         {"range last",
          76,
          {0xFF, 0xFF},
@@ -290,7 +294,11 @@ TEST_F(ReaderTest, CorruptFilesAreReported) {
         SCOPED_TRACE(c.what);
         Bytes bad = file;
         std::copy(c.bytes.begin(), c.bytes.end(), bad.begin() + static_cast<std::ptrdiff_t>(c.at));
-        EXPECT_EQ(vqdump::parseDump(bad).error, c.error);
+        const vqdump::DumpImage image = vqdump::parseDump(bad);
+        EXPECT_EQ(image.error, c.error);
+        std::ostringstream sink;
+        vqdump::printDump(image, {}, sink);
+        EXPECT_LT(sink.str().size(), 4096u);
     }
 }
 

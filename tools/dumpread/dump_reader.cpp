@@ -364,7 +364,8 @@ void printDump(const DumpImage &image, const PrintOptions &o, std::ostream &out)
                     t.catalogueId >= 0 ? g_astVQ6192TblEntryList[t.catalogueId].pszName : "no layout",
                     t.depth, t.entrySize);
                 out << text;
-                for (uint32_t i = 0; i < t.depth; ++i) {
+                // Entries of no bytes (a table of width 0) hold nothing to show, however many there are.
+                for (uint32_t i = 0; t.entrySize != 0 && i < t.depth; ++i) {
                     printEntry(t, i, out);
                 }
             }
