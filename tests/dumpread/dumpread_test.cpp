@@ -105,7 +105,8 @@ TEST_F(ReaderTest, CesDumpReadsBackTheModelsRegisters) {
     for (uint32_t addr : addrs) {
         before.push_back(model.busRead(addr));
     }
-    const vqdump::DumpImage image = vqdump::parseDump(defaultDump(5));
+    const Bytes file = defaultDump(5);
+    const vqdump::DumpImage image = vqdump::parseDump(file);
     ASSERT_TRUE(image.ok()) << image.error;
     EXPECT_EQ(image.headText, "DUMPchip3.bdVQ6192");
     ASSERT_EQ(image.blocks.size(), 1u);
@@ -154,7 +155,8 @@ TEST_F(ReaderTest, FullDefaultDumpReproducesEveryEntry) {
 }
 
 TEST_F(ReaderTest, AtmFilterDumpsOnlyTheAtmBlockAndGroup) {
-    const vqdump::DumpImage image = vqdump::parseDump(defaultDump(4));
+    const Bytes file = defaultDump(4);
+    const vqdump::DumpImage image = vqdump::parseDump(file);
     ASSERT_TRUE(image.ok()) << image.error;
     ASSERT_EQ(image.blocks.size(), 1u);
     EXPECT_EQ(image.blocks[0].name, "ATM");
@@ -171,7 +173,8 @@ TEST_F(ReaderTest, AtmFilterDumpsOnlyTheAtmBlockAndGroup) {
 }
 
 TEST_F(ReaderTest, PrintsRegistersAndMembersByName) {
-    const vqdump::DumpImage image = vqdump::parseDump(smallDump());
+    const Bytes file = smallDump();  // the image points into it
+    const vqdump::DumpImage image = vqdump::parseDump(file);
     ASSERT_TRUE(image.ok()) << image.error;
     EXPECT_EQ(print(image),
               "chip dump DUMPchip3.bdVQ6192\n"
@@ -188,7 +191,8 @@ TEST_F(ReaderTest, PrintsRegistersAndMembersByName) {
 }
 
 TEST_F(ReaderTest, Filters) {
-    const vqdump::DumpImage image = vqdump::parseDump(smallDump());
+    const Bytes file = smallDump();  // the image points into it
+    const vqdump::DumpImage image = vqdump::parseDump(file);
     struct Case {
         const char *what;
         vqdump::PrintOptions options;
