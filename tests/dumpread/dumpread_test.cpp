@@ -1,6 +1,12 @@
 // The dump reader on dumps made from the chip model: what it reads back equals the model's registers
 // and table memories, what it prints names tables and members by the catalogue, and a truncated or
 // corrupt file gives a clear error.
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <random>
 #include <set>
 #include <sstream>
@@ -352,6 +358,43 @@ TEST_F(ReaderTest, FuzzedDumpsNeverCrashTheReader) {
         EXPECT_FALSE(sink.str().empty());
     }
     EXPECT_GT(damaged, 1000u) << "the mutations should mostly break the file";
+}
+
+// The program: exit status 0 for a whole file, 2 for a damaged one, 1 for a usage or file error.
+TEST_F(ReaderTest, ProgramExitStatus) {
+    const Bytes file = smallDump();
+    const std::string dir =
+        std::filesystem::temp_directory_path().string() + "/vq6192-dumpread-" + std::to_string(getpid());
+    std::filesystem::create_directories(dir);
+    auto save = [&](const std::string &name, size_t size) {
+        std::ofstream(dir + "/" + name, std::ios::binary)
+            .write(reinterpret_cast<const char *>(file.data()), static_cast<std::streamsize>(size));
+    };
+    save("whole.bd", file.size());
+    save("cut.bd", file.size() - 3);
+    auto run = [&](const std::string &args, std::string *out) {
+        const std::string cmd = std::string(VQ6192_DUMPREAD) + " " + args + " 2>&1";
+        FILE *p = popen(cmd.c_str(), "r");
+        char chunk[256];
+        out->clear();
+        for (size_t n; (n = fread(chunk, 1, sizeof chunk, p)) > 0;) {
+            out->append(chunk, n);
+        }
+        return WEXITSTATUS(pclose(p));
+    };
+    std::string out;
+    EXPECT_EQ(run("--reg 0x22 " + dir + "/whole.bd", &out), 0);
+    EXPECT_EQ(out,
+              "chip dump DUMPchip3.bdVQ6192\nregister block GLB, group 1, 1 range\n  registers 0x10..0x11\n"
+              "    0x00022 = 0xc3d4\n");
+    EXPECT_EQ(run(dir + "/cut.bd", &out), 2);
+    EXPECT_NE(out.find("vq6192-dumpread: " + dir + "/cut.bd: truncated: table MYTABLE at offset 0x"),
+              std::string::npos)
+        << out;
+    EXPECT_EQ(run(dir + "/none.bd", &out), 1);
+    EXPECT_EQ(run("--reg 9-1 " + dir + "/whole.bd", &out), 1);
+    EXPECT_EQ(run("", &out), 1);
+    std::filesystem::remove_all(dir);
 }
 
 }  // namespace
