@@ -164,22 +164,6 @@ TEST_F(TableReadTest, OddDataRegisterCountKeepsTheHighHalf) {
     EXPECT_EQ(entry[0], 0xDEAD1234u);
 }
 
-TEST_F(TableReadTest, E3Vc4TimeslotRecordsReadWithCommandZero) {
-    // TS_DL_ET3_VC4_TAB is read with command value 0 then 3 and put back to 0.
-    model.poke(0x2156, 0xFFFC);  // command register 0x10ab
-    const auto t = traced([&] {
-        uint32_t entry[1] = {};
-        EXPECT_EQ(VQ6192_DUMP_ReadDumpTbl(kChip, kTsGroup, 1, 0, entry), 0u);
-    });
-    std::vector<uint32_t> cmd;
-    for (const BusAccess &a : vqtest::writes(t)) {
-        if (a.addr == 0x2156) {
-            cmd.push_back(a.value);
-        }
-    }
-    EXPECT_EQ(cmd, (std::vector<uint32_t>{0xFFFC, 0xFFFF, 0xFFFC}));
-}
-
 TEST_F(TableReadTest, BusyTimeOuts) {
     struct Case {
         const char *what;

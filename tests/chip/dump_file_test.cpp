@@ -292,18 +292,12 @@ TEST_F(FileTest, ParameterErrors) {
         std::function<uint32_t()> op;
         uint32_t status;
     } cases[] = {
-        {"hooks: null open", [&] { return VQ6192_DUMP_RegFileFunc(kChip, nullptr, write, close); }, kPara},
         {"hooks: null write", [&] { return VQ6192_DUMP_RegFileFunc(kChip, open, nullptr, close); }, kPara},
-        {"hooks: null close", [&] { return VQ6192_DUMP_RegFileFunc(kChip, open, write, nullptr); }, kPara},
         {"hooks: chip 264", [&] { return VQ6192_DUMP_RegFileFunc(264, open, write, close); }, 0x080B0001},
         {"init: null block list",
          [&] { return VQ6192_DUMP_InitializeDump(kChip, "c", 0, nullptr, 1, groups_, 1, "f"); }, kPara},
-        {"init: null group list",
-         [&] { return VQ6192_DUMP_InitializeDump(kChip, "c", 0, kBlocks, 1, nullptr, 1, "f"); }, kPara},
         {"init: null chip name",
          [&] { return VQ6192_DUMP_InitializeDump(kChip, nullptr, 0, kBlocks, 1, groups_, 1, "f"); }, kPara},
-        {"init: null file name",
-         [&] { return VQ6192_DUMP_InitializeDump(kChip, "c", 0, kBlocks, 1, groups_, 1, nullptr); }, kPara},
         {"init: chip never installed",
          [&] { return VQ6192_DUMP_InitializeDump(5, "c", 0, kBlocks, 1, groups_, 1, "f"); }, 0x050B0001},
         {"dump before initialisation", [&] { return VQ6192_DUMP_Dump(kChip, -1); }, kPara},

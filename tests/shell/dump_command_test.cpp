@@ -1,5 +1,5 @@
 // The shell's dump command: a long dump reports its progress, the file is the whole dump, and the
-// model chip's register path is given back afterwards.
+// model chip's register path is given back afterwards (short dumps: tests/shell/sessions/dump).
 #include <unistd.h>
 
 #include <filesystem>
@@ -41,17 +41,6 @@ TEST_F(ShellDump, LongDumpShowsProgressInTenths) {
     }
     EXPECT_EQ(tenth, 9);
     EXPECT_EQ(g_vq6192[0].ulRegIndirectFlag, 0u) << "the chip's register path is restored";
-}
-
-TEST_F(ShellDump, ShortDumpIsQuietAndFailuresAreShown) {
-    ASSERT_TRUE(session->runLine("dump 0 7 " + path));
-    EXPECT_EQ(out.str(), "chip 0 dumped to " + path + ": 482 bytes\n");
-    EXPECT_EQ(err.str(), "");
-    out.str("");
-    EXPECT_FALSE(session->runLine("dump 0 7 /nonexistent-dir/x.bd"));
-    EXPECT_EQ(out.str(),
-              "chip 0 dumped to /nonexistent-dir/x.bd: 0 bytes\n"
-              "status 0x000b0007: chip 0, DUMP, error 7\n");
 }
 
 }  // namespace
