@@ -12,6 +12,7 @@
 #include "vq6192/sim/sam.h"
 #include "vq6192/sim/sdh_paths.h"
 #include "vq6192/sim/telecom.h"
+#include "vq6192/sim/register_window.h"
 
 namespace vq6192::sim {
 
@@ -28,6 +29,7 @@ void installBlocks(ChipModel &model) {
     model.block<EthBlock>();
     model.block<MacBlock>();
     model.block<PppBlock>();
+    model.block<RegisterWindow>();
 }
 
 }  // namespace vq6192::sim
