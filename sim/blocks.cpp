@@ -1,5 +1,6 @@
 // Every block model of the chip, created with each chip model: one line per block.
 #include "vq6192/sim.h"
+#include "vq6192/sim/atm.h"
 #include "vq6192/sim/chip_control.h"
 #include "vq6192/sim/ddr.h"
 #include "vq6192/sim/framers.h"
@@ -14,6 +15,7 @@ void installBlocks(ChipModel &model) {
     model.block<RamBistBlock>();
     model.block<DdrBlock>();
     model.block<Framers>();
+    model.block<AtmBlock>();
 }
 
 }  // namespace vq6192::sim
