@@ -122,7 +122,8 @@ VQ6192_API uint32_t VQ6192_ATM_FillInsOamCell(uint32_t chip, uint32_t flow, uint
     }
     cell[3] = kHeaderByte3[flow - 1][level];
     cell[5] = static_cast<uint8_t>(func);
-    for (uint32_t i = 6; i <= 50; ++i) {
+    // The fill runs to the end of the cell: the reserved top bits of byte 51 are the fill's too.
+    for (uint32_t i = 6; i < kCellBytes; ++i) {
         cell[i] = kFill;
     }
     const uint32_t crc = VQ6192_ATM_crc10(chip, cell + kHeaderBytes, 1);
