@@ -69,7 +69,8 @@ AtmBlock::AtmBlock(ChipModel &model) : model_(model) {
 void AtmBlock::onTable(uint32_t select, uint32_t address, bool write) {
     if (write && select == kSelInsertFifo) {
         inserted_.push_back({entryBits(select, address, 0, 16) | entryBits(select, address, 16, 16) << 16,
-                             entryBits(select, address, kSocBit, 1) != 0, entryBits(select, address, kEocBit, 1) != 0});
+                             entryBits(select, address, kSocBit, 1) != 0,
+                             entryBits(select, address, kEocBit, 1) != 0});
         return;
     }
     if (write) {
@@ -113,12 +114,14 @@ void AtmBlock::loadFifoWord(uint32_t select, uint32_t address, FifoWord w) {
     model_.tables().setEntry(kTableBlock, select, address, e);
 }
 
-void AtmBlock::setEntryBits(uint32_t select, uint32_t address, uint32_t startBit, uint32_t width, uint32_t value) {
+void AtmBlock::setEntryBits(uint32_t select, uint32_t address, uint32_t startBit, uint32_t width,
+                            uint32_t value) {
     TableEngine::Entry e = model_.tables().entry(kTableBlock, select, address);
     for (uint32_t i = 0; i < width; ++i) {
         const uint32_t bit = startBit + i;
         const uint16_t mask = static_cast<uint16_t>(1u << (bit % 16));
-        e[bit / 16] = static_cast<uint16_t>((value >> i & 1u) != 0 ? (e[bit / 16] | mask) : (e[bit / 16] & ~mask));
+        e[bit / 16] =
+            static_cast<uint16_t>((value >> i & 1u) != 0 ? (e[bit / 16] | mask) : (e[bit / 16] & ~mask));
     }
     model_.tables().setEntry(kTableBlock, select, address, e);
 }

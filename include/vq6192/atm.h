@@ -150,7 +150,8 @@ VQ6192_API uint32_t VQ6192_ATM_AddAtmFwdConn(uint32_t chip, const ATM_SRV_CONN *
 VQ6192_API uint32_t VQ6192_ATM_AddAtmBwdConn(uint32_t chip, const ATM_SRV_CONN *conn);
 VQ6192_API uint32_t VQ6192_ATM_AddAtmLocalConn(uint32_t chip, const ATM_SRV_CONN *conn);
 VQ6192_API uint32_t VQ6192_ATM_AddAtmSrvConnBoth(uint32_t chip, const ATM_SRV_CONN_BOTH *conn);
-VQ6192_API uint32_t VQ6192_ATM_AddAtmSrvConnBothAndSingle(uint32_t chip, const ATM_SRV_CONN_BOTH_SINGLE *conn);
+VQ6192_API uint32_t VQ6192_ATM_AddAtmSrvConnBothAndSingle(uint32_t chip,
+                                                          const ATM_SRV_CONN_BOTH_SINGLE *conn);
 VQ6192_API uint32_t VQ6192_ATM_DelAtmSrvConn(uint32_t chip, const uint16_t rec[2]);
 VQ6192_API uint32_t VQ6192_ATM_DelAtmSrvConnBoth(uint32_t chip, const uint16_t rec[2]);
 VQ6192_API uint32_t VQ6192_ATM_GetAtmSrvConn(uint32_t chip, uint32_t vcx, ATM_SRV_CONN *conn);
@@ -165,25 +166,29 @@ VQ6192_API uint32_t VQ6192_ATM_GetAtmVcxEnStat(uint32_t chip, uint32_t vcx, uint
 
 VQ6192_API uint32_t VQ6192_ATM_SetAtmUpcNpcEn(uint32_t chip, uint32_t vcx, uint32_t enable);
 VQ6192_API uint32_t VQ6192_ATM_GetAtmUpcNpcEnStat(uint32_t chip, uint32_t vcx, uint8_t *byEnable);
-VQ6192_API uint32_t VQ6192_ATM_SetAtmPolicingID(uint32_t chip, uint32_t vcx, uint32_t upcNpc, uint32_t wPolicingID);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmPolicingID(uint32_t chip, uint32_t vcx, uint32_t upcNpc,
+                                                uint32_t wPolicingID);
 VQ6192_API uint32_t VQ6192_ATM_GetAtmPolicingID(uint32_t chip, uint32_t vcx, uint16_t *wPolicingID);
 VQ6192_API uint32_t VQ6192_ATM_GetLinkType(uint32_t chip, uint32_t vcx, uint16_t *wType);
 
 /* ---- Ports ------------------------------------------------------------------------------------------ */
 
 VQ6192_API uint32_t VQ6192_ATM_SetAtmPortEn(uint32_t chip, uint32_t port, uint32_t side, uint32_t byEnable);
-VQ6192_API uint32_t VQ6192_ATM_GetAtmPortEnStat(uint32_t chip, uint32_t port, uint32_t side, uint8_t *byEnable);
-VQ6192_API uint32_t VQ6192_ATM_SetAtmPortType(uint32_t chip, uint32_t port, uint32_t side, uint32_t byUniFlag);
-VQ6192_API uint32_t VQ6192_ATM_GetAtmPortType(uint32_t chip, uint32_t port, uint32_t side, uint8_t *byUniFlag);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPortEnStat(uint32_t chip, uint32_t port, uint32_t side,
+                                                uint8_t *byEnable);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmPortType(uint32_t chip, uint32_t port, uint32_t side,
+                                              uint32_t byUniFlag);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPortType(uint32_t chip, uint32_t port, uint32_t side,
+                                              uint8_t *byUniFlag);
 
 VQ6192_API uint32_t VQ6192_ATM_AddAtmTransConn(uint32_t chip, uint32_t linePort, uint32_t systemPort,
                                                const uint32_t th[3]);
-VQ6192_API uint32_t VQ6192_ATM_AddAtmTransConnSingle(uint32_t chip, uint32_t port, uint32_t peerPort, uint32_t side,
-                                                     const uint32_t th[3]);
+VQ6192_API uint32_t VQ6192_ATM_AddAtmTransConnSingle(uint32_t chip, uint32_t port, uint32_t peerPort,
+                                                     uint32_t side, const uint32_t th[3]);
 VQ6192_API uint32_t VQ6192_ATM_DelAtmTransConn(uint32_t chip, uint32_t linePort, uint32_t systemPort);
 VQ6192_API uint32_t VQ6192_ATM_DelAtmTransConnSingle(uint32_t chip, uint32_t port, uint32_t side);
-VQ6192_API uint32_t VQ6192_ATM_GetAtmTransConnSingle(uint32_t chip, uint32_t port, uint32_t side, uint8_t *byPortMap,
-                                                     uint16_t *wDstPort);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmTransConnSingle(uint32_t chip, uint32_t port, uint32_t side,
+                                                     uint8_t *byPortMap, uint16_t *wDstPort);
 VQ6192_API uint32_t VQ6192_ATM_GetAtmTransFiFo(uint32_t chip, uint32_t linePort, uint32_t th[3]);
 VQ6192_API uint32_t VQ6192_ATM_SetAtmPortLoopMode(uint32_t chip, uint32_t linePort, const uint32_t th[3]);
 VQ6192_API uint32_t VQ6192_ATM_DelAtmPortLoopMode(uint32_t chip, uint32_t linePort);
@@ -192,17 +197,20 @@ VQ6192_API uint32_t VQ6192_ATM_GetAtmPortLoopMode(uint32_t chip, uint32_t linePo
 /* ---- Queues and buffers ----------------------------------------------------------------------------- */
 
 VQ6192_API uint32_t VQ6192_ATM_DelAtmBwdQm(uint32_t chip, uint32_t index, uint32_t kind);
-VQ6192_API uint32_t VQ6192_ATM_SetAtmQm(uint32_t chip, uint32_t queueIndex, uint32_t port, uint32_t serviceType,
-                                        uint32_t qid);
-VQ6192_API uint32_t VQ6192_ATM_GetAtmQm(uint32_t chip, uint32_t queueIndex, uint16_t *wPort, uint32_t *renServiceType,
-                                        uint16_t *wQid);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmQm(uint32_t chip, uint32_t queueIndex, uint32_t port,
+                                        uint32_t serviceType, uint32_t qid);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmQm(uint32_t chip, uint32_t queueIndex, uint16_t *wPort,
+                                        uint32_t *renServiceType, uint16_t *wQid);
 VQ6192_API uint32_t VQ6192_ATM_SetAtmBmPvc(uint32_t chip, uint32_t vcx, const uint8_t bm[5]);
 VQ6192_API uint32_t VQ6192_ATM_GetAtmBmPvc(uint32_t chip, uint32_t vcx, uint8_t bm[5]);
-VQ6192_API uint32_t VQ6192_ATM_SetAtmImaQmTm(uint32_t chip, uint32_t linePort, uint32_t links, uint32_t tsBitmap,
-                                             uint32_t frameLenCode, uint32_t mode);
-VQ6192_API uint32_t VQ6192_ATM_SetAtmImaQm(uint32_t chip, uint32_t linePort, uint32_t threshold, uint32_t period);
-VQ6192_API uint32_t VQ6192_ATM_GetAtmImaQm(uint32_t chip, uint32_t linePort, uint16_t *threshold, uint32_t *period);
-VQ6192_API uint32_t VQ6192_ATM_SetAtmBmTh(uint32_t chip, uint32_t idx, uint32_t serviceType, const ATM_BM_TH *th);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmImaQmTm(uint32_t chip, uint32_t linePort, uint32_t links,
+                                             uint32_t tsBitmap, uint32_t frameLenCode, uint32_t mode);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmImaQm(uint32_t chip, uint32_t linePort, uint32_t threshold,
+                                           uint32_t period);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmImaQm(uint32_t chip, uint32_t linePort, uint16_t *threshold,
+                                           uint32_t *period);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmBmTh(uint32_t chip, uint32_t idx, uint32_t serviceType,
+                                          const ATM_BM_TH *th);
 VQ6192_API uint32_t VQ6192_ATM_GetAtmBmTh(uint32_t chip, uint32_t idx, uint32_t serviceType, ATM_BM_TH *th);
 VQ6192_API uint32_t VQ6192_ATM_SetAtmBmReg(uint32_t chip, const uint16_t v[14]);
 VQ6192_API uint32_t VQ6192_ATM_GetAtmBmReg(uint32_t chip, uint32_t v[7]);
@@ -253,13 +261,14 @@ typedef struct {
     uint16_t wUbrWeight;
 } ATM_EBS_CFG;
 
-VQ6192_API uint32_t VQ6192_ATM_SetAtmPolcfgQos(uint32_t chip, uint32_t policingId, const ATM_TRAFFIC_DESC *desc);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmPolcfgQos(uint32_t chip, uint32_t policingId,
+                                               const ATM_TRAFFIC_DESC *desc);
 VQ6192_API uint32_t VQ6192_ATM_SetAtmShapcfgQos(uint32_t chip, uint32_t linePort, uint32_t shaperClass,
                                                 const ATM_TRAFFIC_DESC *desc);
 
 VQ6192_API void VQ6192_ATM_ConvertPolicingPara(uint32_t chip, uint32_t type, uint32_t PCR, uint32_t SCR,
                                                uint32_t CDVT, uint32_t MBS, ATM_BUCKET_PAIR *pair);
-#define VQ6192_ATM_CONVERT_DECL(name)                                                                     \
+#define VQ6192_ATM_CONVERT_DECL(name)                                                            \
     VQ6192_API void name(uint32_t chip, uint32_t PCR, uint32_t SCR, uint32_t CDVT, uint32_t MBS, \
                          ATM_BUCKET_PAIR *pair)
 VQ6192_ATM_CONVERT_DECL(VQ6192_ATM_ConvertPolicing2);
@@ -287,11 +296,12 @@ VQ6192_ATM_CONVERT_DECL(VQ6192_ATM_ConvertShapping13);
 
 VQ6192_API uint32_t VQ6192_ATM_CalcPolicingPara(uint32_t chip, const ATM_BUCKET_PAIR *pair, uint16_t out[6]);
 VQ6192_API uint32_t VQ6192_ATM_CalcShappingPara(uint32_t chip, const ATM_BUCKET_PAIR *pair, uint16_t out[6]);
-VQ6192_API uint32_t VQ6192_ATM_VQ6192PoliceSet(uint32_t chip, uint32_t policingId, const ATM_BUCKET_PAIR *pair);
+VQ6192_API uint32_t VQ6192_ATM_VQ6192PoliceSet(uint32_t chip, uint32_t policingId,
+                                               const ATM_BUCKET_PAIR *pair);
 VQ6192_API uint32_t VQ6192_ATM_VQ6192ShapingSet(uint32_t chip, uint32_t linePort, uint32_t shaperClass,
                                                 const ATM_BUCKET_PAIR *pair);
-VQ6192_API uint32_t VQ6192_ATM_GetExponent(uint32_t chip, uint16_t *mantissa, uint16_t *exponent, uint32_t base,
-                                           double value);
+VQ6192_API uint32_t VQ6192_ATM_GetExponent(uint32_t chip, uint16_t *mantissa, uint16_t *exponent,
+                                           uint32_t base, double value);
 VQ6192_API void VQ6192_ATM_Calibrate_CDVT_BT(uint32_t chip, double *tolerance);
 VQ6192_API uint32_t VQ6192_ATM_CheckDoubleNotZero(double value);
 VQ6192_API double VQ6192_ATM_ComputeAtmPolCdvt(uint32_t chip, uint32_t rate);
@@ -306,9 +316,12 @@ VQ6192_API uint32_t VQ6192_ATM_GetAtmShapcfg(uint32_t chip, uint32_t linePort, u
 VQ6192_API uint32_t VQ6192_ATM_SetAtmEbs(uint32_t chip, uint32_t linePort, const ATM_EBS_CFG *rec);
 VQ6192_API uint32_t VQ6192_ATM_GetAtmEbs(uint32_t chip, uint32_t linePort, ATM_EBS_CFG *rec);
 VQ6192_API uint32_t VQ6192_ATM_SetAtmShVc(uint32_t chip, uint32_t linePort, uint32_t cls, uint32_t rate);
-VQ6192_API uint32_t VQ6192_ATM_GetAtmShVc(uint32_t chip, uint32_t linePort, uint32_t cls, uint32_t *dwShvcCell);
-VQ6192_API uint32_t VQ6192_ATM_SetAtmShVcByPeriod(uint32_t chip, uint32_t linePort, uint32_t cls, uint32_t period);
-VQ6192_API uint32_t VQ6192_ATM_GetAtmShVcPeriod(uint32_t chip, uint32_t linePort, uint32_t cls, uint32_t *period);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmShVc(uint32_t chip, uint32_t linePort, uint32_t cls,
+                                          uint32_t *dwShvcCell);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmShVcByPeriod(uint32_t chip, uint32_t linePort, uint32_t cls,
+                                                  uint32_t period);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmShVcPeriod(uint32_t chip, uint32_t linePort, uint32_t cls,
+                                                uint32_t *period);
 
 /* ---- OAM cells and CRC-10 --------------------------------------------------------------------------- */
 
@@ -317,10 +330,12 @@ VQ6192_API uint32_t VQ6192_ATM_GetAtmShVcPeriod(uint32_t chip, uint32_t linePort
 VQ6192_API extern uint16_t g_VQ6192_byte_crc10_table[VQ6192_CHIP_RECORD_NUM][256];
 
 VQ6192_API uint32_t VQ6192_ATM_gen_byte_crc10_table(uint32_t chip);
-VQ6192_API uint16_t VQ6192_ATM_update_crc10_by_bytes(uint32_t chip, uint16_t crc, const uint8_t *data, int32_t len);
+VQ6192_API uint16_t VQ6192_ATM_update_crc10_by_bytes(uint32_t chip, uint16_t crc, const uint8_t *data,
+                                                     int32_t len);
 VQ6192_API uint32_t VQ6192_ATM_crc10(uint32_t chip, uint8_t payload[48], uint32_t insert);
 
-VQ6192_API uint32_t VQ6192_ATM_FillInsertCellHead(uint32_t chip, uint32_t flow, uint32_t level, uint8_t *byte3);
+VQ6192_API uint32_t VQ6192_ATM_FillInsertCellHead(uint32_t chip, uint32_t flow, uint32_t level,
+                                                  uint8_t *byte3);
 VQ6192_API uint32_t VQ6192_ATM_FillInsOamCell(uint32_t chip, uint32_t flow, uint32_t level, uint32_t func,
                                               uint8_t cell[53]);
 VQ6192_API uint32_t VQ6192_ATM_InsertLBCell(uint32_t chip, uint32_t vcx, const uint8_t llid[16],
@@ -341,8 +356,10 @@ VQ6192_API uint32_t VQ6192_ATM_GetOamLinkCC(uint32_t chip, uint32_t vcx, uint8_t
                                             uint32_t *state);
 VQ6192_API uint32_t VQ6192_ATM_SetOamSegEnd(uint32_t chip, uint32_t vcx, uint32_t renSegEndType);
 VQ6192_API uint32_t VQ6192_ATM_GetOamSegEnd(uint32_t chip, uint32_t vcx, uint32_t *renSegEndType);
-VQ6192_API uint32_t VQ6192_ATM_SetOamAutoInsertEn(uint32_t chip, uint32_t vcx, uint32_t kind, uint32_t enable);
-VQ6192_API uint32_t VQ6192_ATM_GetOamAutoInsertEnStat(uint32_t chip, uint32_t vcx, uint32_t kind, uint8_t *byEnable);
+VQ6192_API uint32_t VQ6192_ATM_SetOamAutoInsertEn(uint32_t chip, uint32_t vcx, uint32_t kind,
+                                                  uint32_t enable);
+VQ6192_API uint32_t VQ6192_ATM_GetOamAutoInsertEnStat(uint32_t chip, uint32_t vcx, uint32_t kind,
+                                                      uint8_t *byEnable);
 VQ6192_API uint32_t VQ6192_ATM_GetOamVcxFifo(uint32_t chip, uint16_t *vcx);
 VQ6192_API uint32_t VQ6192_ATM_GetOamCcloc(uint32_t chip, uint32_t vcx, uint8_t *bCcloc);
 VQ6192_API uint32_t VQ6192_ATM_SetOamCapFifoClear(uint32_t chip);

@@ -47,7 +47,8 @@ bool legalQid(uint32_t stype, uint32_t qid) {
 }
 
 bool legalConn(const ATM_SRV_CONN &c) {
-    if (c.cType >= 2 || c.Tag >= 3 || c.UpcNpc >= 2 || c.PolicingId >= 8192 || c.Stype >= 6 || c.Vcx >= 8192) {
+    if (c.cType >= 2 || c.Tag >= 3 || c.UpcNpc >= 2 || c.PolicingId >= 8192 || c.Stype >= 6 ||
+        c.Vcx >= 8192) {
         return false;
     }
     if (c.SrcPort > (c.Tag == DRV_VQ6192_ATM_DIR_EGRESS ? 2047 : 335)) {
@@ -258,7 +259,8 @@ VQ6192_API uint32_t VQ6192_ATM_AddAtmLocalConn(uint32_t chip, const ATM_SRV_CONN
 
 VQ6192_API uint32_t VQ6192_ATM_AddAtmSrvConn(uint32_t chip, const ATM_SRV_CONN *conn) {
     if (VQ6192_ATM_IsConnParasLegal(chip, conn) != 0) {
-        return stepErr(chip, "Err. VQ6192_ATM_AddAtmSrvConn: IsConnParasLegal parameter error! ChipID: %#x\r\n");
+        return stepErr(chip,
+                       "Err. VQ6192_ATM_AddAtmSrvConn: IsConnParasLegal parameter error! ChipID: %#x\r\n");
     }
     switch (conn->Tag) {
         case DRV_VQ6192_ATM_DIR_INGRESS:
@@ -315,8 +317,8 @@ uint32_t addPair(uint32_t chip, const ATM_SRV_CONN &egress, const ATM_SRV_CONN &
 extern "C" {
 
 VQ6192_API uint32_t VQ6192_ATM_AddAtmSrvConnBoth(uint32_t chip, const ATM_SRV_CONN_BOTH *conn) {
-    if (!vq::validChip(chip) || conn == nullptr || conn->wInPolicingId >= 8192 || conn->wEgPolicingId >= 8192 ||
-        conn->wInUpcNpc >= 2 || conn->wEgUpcNpc >= 2) {
+    if (!vq::validChip(chip) || conn == nullptr || conn->wInPolicingId >= 8192 ||
+        conn->wEgPolicingId >= 8192 || conn->wInUpcNpc >= 2 || conn->wEgUpcNpc >= 2) {
         return paraErr(chip);
     }
     const ATM_SRV_CONN_BOTH &b = *conn;
@@ -327,8 +329,8 @@ VQ6192_API uint32_t VQ6192_ATM_AddAtmSrvConnBoth(uint32_t chip, const ATM_SRV_CO
         if (b.wLink >= VQ6192_ATM_LINK_NUM || b.wInStype >= 6 || b.wEgStype >= 6) {
             return paraErr(chip);
         }
-        const ATM_SRV_CONN eg = leg(2u * b.wLink + 1, DRV_VQ6192_ATM_DIR_EGRESS, b.cType, sys, line, b.wEgStype,
-                                    b.wEgUpcNpc, b.wEgPolicingId, b.Qid, bm);
+        const ATM_SRV_CONN eg = leg(2u * b.wLink + 1, DRV_VQ6192_ATM_DIR_EGRESS, b.cType, sys, line,
+                                    b.wEgStype, b.wEgUpcNpc, b.wEgPolicingId, b.Qid, bm);
         const ATM_SRV_CONN in = leg(2u * b.wLink, DRV_VQ6192_ATM_DIR_INGRESS, b.cType, line, sys, b.wInStype,
                                     b.wInUpcNpc, b.wInPolicingId, b.Qid, bm);
         return addPair(chip, eg, in);
@@ -344,7 +346,8 @@ VQ6192_API uint32_t VQ6192_ATM_AddAtmSrvConnBoth(uint32_t chip, const ATM_SRV_CO
     return stepErr(chip, kBothDirErr);
 }
 
-VQ6192_API uint32_t VQ6192_ATM_AddAtmSrvConnBothAndSingle(uint32_t chip, const ATM_SRV_CONN_BOTH_SINGLE *conn) {
+VQ6192_API uint32_t VQ6192_ATM_AddAtmSrvConnBothAndSingle(uint32_t chip,
+                                                          const ATM_SRV_CONN_BOTH_SINGLE *conn) {
     if (!vq::validChip(chip) || conn == nullptr) {
         return paraErr(chip);
     }
@@ -361,15 +364,16 @@ VQ6192_API uint32_t VQ6192_ATM_AddAtmSrvConnBothAndSingle(uint32_t chip, const A
     const uint16_t egSrc[3] = {b.wEgSrcPort, b.wEgSrcVpi, b.wEgSrcVci};
     const uint16_t egDst[3] = {b.wEgDstPort, b.wEgDstVpi, b.wEgDstVci};
     const uint8_t bm[5] = {b.Clpt, b.Fd, b.Pfd, b.Red, b.idx};
-    const ATM_SRV_CONN eg = leg(2u * b.wLink + 1, DRV_VQ6192_ATM_DIR_EGRESS, b.cType, egSrc, egDst, b.wEgStype,
-                                b.wEgUpcNpc, b.wEgPolicingId, b.Qid, bm);
+    const ATM_SRV_CONN eg = leg(2u * b.wLink + 1, DRV_VQ6192_ATM_DIR_EGRESS, b.cType, egSrc, egDst,
+                                b.wEgStype, b.wEgUpcNpc, b.wEgPolicingId, b.Qid, bm);
     const ATM_SRV_CONN in = leg(2u * b.wLink, DRV_VQ6192_ATM_DIR_INGRESS, b.cType, inSrc, inDst, b.wInStype,
                                 b.wInUpcNpc, b.wInPolicingId, b.Qid, bm);
     return addPair(chip, eg, in);
 }
 
 VQ6192_API uint32_t VQ6192_ATM_DelAtmSrvConn(uint32_t chip, const uint16_t rec[2]) {
-    if (!vq::validChip(chip) || rec == nullptr || rec[0] > VQ6192_ATM_VCX_NUM || rec[1] > DRV_VQ6192_ATM_DIR_LOCAL) {
+    if (!vq::validChip(chip) || rec == nullptr || rec[0] > VQ6192_ATM_VCX_NUM ||
+        rec[1] > DRV_VQ6192_ATM_DIR_LOCAL) {
         return paraErr(chip);
     }
     const uint32_t vcx = rec[0];
@@ -387,7 +391,8 @@ VQ6192_API uint32_t VQ6192_ATM_DelAtmSrvConn(uint32_t chip, const uint16_t rec[2
             vq::OSK_TaskDelay(kDrainTicks);
         }
         if (round == kDrainRounds) {
-            VQ6192_ATM_TRACE(chip, "Err. VQ6192_ATM_DelAtmSrvConn: Len has Cell after Cycle %d!  ChipID: %#x\r\n",
+            VQ6192_ATM_TRACE(chip,
+                             "Err. VQ6192_ATM_DelAtmSrvConn: Len has Cell after Cycle %d!  ChipID: %#x\r\n",
                              static_cast<int>(round), chip);
         }
     }
@@ -426,20 +431,23 @@ VQ6192_API uint32_t VQ6192_ATM_DelAtmSrvConnBoth(uint32_t chip, const uint16_t r
         const uint16_t in[2] = {static_cast<uint16_t>(2 * n), DRV_VQ6192_ATM_DIR_INGRESS};
         if (VQ6192_ATM_DelAtmSrvConn(chip, in) != 0) {
             return stepErr(chip,
-                           "Err. VQ6192_ATM_DelAtmSrvConnBoth: Delete DRV_VQ6192_ATM_DIR_INGRESS Error! ChipID: %#x\r\n");
+                           "Err. VQ6192_ATM_DelAtmSrvConnBoth: Delete DRV_VQ6192_ATM_DIR_INGRESS Error! "
+                           "ChipID: %#x\r\n");
         }
         const uint16_t eg[2] = {static_cast<uint16_t>(2 * n + 1), DRV_VQ6192_ATM_DIR_EGRESS};
         if (VQ6192_ATM_DelAtmSrvConn(chip, eg) != 0) {
-            return stepErr(chip,
-                           "Err. VQ6192_ATM_DelAtmSrvConnBoth: Delete DRV_VQ6192_ATM_DIR_EGRESS Error! ChipID: %#x\r\n");
+            return stepErr(
+                chip,
+                "Err. VQ6192_ATM_DelAtmSrvConnBoth: Delete DRV_VQ6192_ATM_DIR_EGRESS Error! ChipID: %#x\r\n");
         }
         return 0;
     }
     if (rec[1] == 2 && n <= VQ6192_ATM_VCX_NUM) {
         const uint16_t local[2] = {static_cast<uint16_t>(n), DRV_VQ6192_ATM_DIR_LOCAL};
         if (VQ6192_ATM_DelAtmSrvConn(chip, local) != 0) {
-            return stepErr(chip,
-                           "Err. VQ6192_ATM_DelAtmSrvConnBoth: Delete DRV_VQ6192_ATM_DIR_LOCAL Error! ChipID: %#x\r\n");
+            return stepErr(
+                chip,
+                "Err. VQ6192_ATM_DelAtmSrvConnBoth: Delete DRV_VQ6192_ATM_DIR_LOCAL Error! ChipID: %#x\r\n");
         }
         return 0;
     }
@@ -524,7 +532,8 @@ VQ6192_API uint32_t VQ6192_ATM_GetAtmUpcNpcEnStat(uint32_t chip, uint32_t vcx, u
     return rc;
 }
 
-VQ6192_API uint32_t VQ6192_ATM_SetAtmPolicingID(uint32_t chip, uint32_t vcx, uint32_t upcNpc, uint32_t wPolicingID) {
+VQ6192_API uint32_t VQ6192_ATM_SetAtmPolicingID(uint32_t chip, uint32_t vcx, uint32_t upcNpc,
+                                                uint32_t wPolicingID) {
     if (!vq::validChip(chip) || vcx > VQ6192_ATM_VCX_NUM || upcNpc > 1 || wPolicingID >= 8192) {
         return paraErr(chip);
     }

@@ -35,7 +35,8 @@ VQ6192_API uint32_t VQ6192_ATM_gen_byte_crc10_table(uint32_t chip) {
     return 0;
 }
 
-VQ6192_API uint16_t VQ6192_ATM_update_crc10_by_bytes(uint32_t chip, uint16_t crc, const uint8_t *data, int32_t len) {
+VQ6192_API uint16_t VQ6192_ATM_update_crc10_by_bytes(uint32_t chip, uint16_t crc, const uint8_t *data,
+                                                     int32_t len) {
     if (data == nullptr || !vq::recordIndex(chip)) {
         paraErr(chip);
         return crc;

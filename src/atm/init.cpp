@@ -68,8 +68,8 @@ VQ6192_API uint32_t VQ6192_ATM_InitAtm(uint32_t chip, uint32_t mode) {
     uint32_t rc = VQ6192_ATM_SetAtmTabClr(chip, 5, 1);
     VQ6192_ATM_TRACE(chip, "Err. VQ6192_ATM_InitAtm: initializtion BM drop limit! ChipID: %#x\r\n", chip);
     rc |= VQ6192_ATM_SetAtmBmReg(chip, kStartBmLimits);
-    VQ6192_ATM_TRACE(chip, "Err. VQ6192_ATM_InitAtm: initializtion Ingress ATM to PWE3 times! ChipID: %#x\r\n",
-                     chip);
+    VQ6192_ATM_TRACE(
+        chip, "Err. VQ6192_ATM_InitAtm: initializtion Ingress ATM to PWE3 times! ChipID: %#x\r\n", chip);
     // The ingress cell-to-PWE3 time belongs to the pseudowire side; its start value is set here.
     VQ6192_WriteRegField(chip, kSendPwe3TimeReg, kStartPwe3Time, 0, 16);
     VQ6192_ATM_TRACE(chip, "Err. VQ6192_ATM_InitAtm: initializtion CRC Enable! ChipID: %#x\r\n", chip);

@@ -43,8 +43,8 @@ uint32_t pushWord(uint32_t chip, uint32_t data, uint32_t soc, uint32_t eoc) {
 }
 
 uint32_t bytesWord(const uint8_t *b) {
-    return static_cast<uint32_t>(b[0]) << 24 | static_cast<uint32_t>(b[1]) << 16 | static_cast<uint32_t>(b[2]) << 8 |
-           b[3];
+    return static_cast<uint32_t>(b[0]) << 24 | static_cast<uint32_t>(b[1]) << 16 |
+           static_cast<uint32_t>(b[2]) << 8 | b[3];
 }
 
 uint32_t insertFm(uint32_t chip, uint32_t vcx, uint32_t flow, uint32_t level, uint32_t func) {
@@ -104,7 +104,8 @@ bool vctFlag(uint32_t kind, vq::EntryField *f) {
 
 extern "C" {
 
-VQ6192_API uint32_t VQ6192_ATM_FillInsertCellHead(uint32_t chip, uint32_t flow, uint32_t level, uint8_t *byte3) {
+VQ6192_API uint32_t VQ6192_ATM_FillInsertCellHead(uint32_t chip, uint32_t flow, uint32_t level,
+                                                  uint8_t *byte3) {
     if (byte3 == nullptr || !flowLevelLegal(flow, level)) {
         return paraErr(chip);
     }
@@ -114,7 +115,8 @@ VQ6192_API uint32_t VQ6192_ATM_FillInsertCellHead(uint32_t chip, uint32_t flow, 
 
 VQ6192_API uint32_t VQ6192_ATM_FillInsOamCell(uint32_t chip, uint32_t flow, uint32_t level, uint32_t func,
                                               uint8_t cell[53]) {
-    if (cell == nullptr || !flowLevelLegal(flow, level) || (func != kFuncAis && func != kFuncRdi && func != kFuncCc)) {
+    if (cell == nullptr || !flowLevelLegal(flow, level) ||
+        (func != kFuncAis && func != kFuncRdi && func != kFuncCc)) {
         return paraErr(chip);
     }
     for (uint32_t i = 0; i < kHeaderBytes; ++i) {
@@ -330,7 +332,8 @@ VQ6192_API uint32_t VQ6192_ATM_GetOamSegEnd(uint32_t chip, uint32_t vcx, uint32_
     return rc;
 }
 
-VQ6192_API uint32_t VQ6192_ATM_SetOamAutoInsertEn(uint32_t chip, uint32_t vcx, uint32_t kind, uint32_t enable) {
+VQ6192_API uint32_t VQ6192_ATM_SetOamAutoInsertEn(uint32_t chip, uint32_t vcx, uint32_t kind,
+                                                  uint32_t enable) {
     vq::EntryField f{};
     if (!vq::validChip(chip) || vcx >= VQ6192_ATM_VCX_NUM || enable > 1 || !vctFlag(kind, &f)) {
         return paraErr(chip);
@@ -338,7 +341,8 @@ VQ6192_API uint32_t VQ6192_ATM_SetOamAutoInsertEn(uint32_t chip, uint32_t vcx, u
     return modifyEntry(chip, kVct, vcx, [&](Entry &e) { e.set(f, enable); });
 }
 
-VQ6192_API uint32_t VQ6192_ATM_GetOamAutoInsertEnStat(uint32_t chip, uint32_t vcx, uint32_t kind, uint8_t *byEnable) {
+VQ6192_API uint32_t VQ6192_ATM_GetOamAutoInsertEnStat(uint32_t chip, uint32_t vcx, uint32_t kind,
+                                                      uint8_t *byEnable) {
     vq::EntryField f{};
     if (!vq::validChip(chip) || vcx >= VQ6192_ATM_VCX_NUM || byEnable == nullptr || !vctFlag(kind, &f)) {
         return paraErr(chip);

@@ -176,8 +176,8 @@ VQ6192_API void VQ6192_ATM_Calibrate_CDVT_BT(uint32_t chip, double *tolerance) {
     }
 }
 
-VQ6192_API uint32_t VQ6192_ATM_GetExponent(uint32_t chip, uint16_t *mantissa, uint16_t *exponent, uint32_t base,
-                                           double value) {
+VQ6192_API uint32_t VQ6192_ATM_GetExponent(uint32_t chip, uint16_t *mantissa, uint16_t *exponent,
+                                           uint32_t base, double value) {
     if (mantissa == nullptr || exponent == nullptr) {
         return paraErr(chip);
     }
@@ -203,10 +203,10 @@ VQ6192_API void VQ6192_ATM_ConvertPolicingPara(uint32_t chip, uint32_t type, uin
     convertOne(chip, type, PCR, SCR, CDVT, MBS, pair);
 }
 
-#define VQ6192_ATM_CONVERT_POLICING(n)                                                                        \
+#define VQ6192_ATM_CONVERT_POLICING(n)                                                                      \
     VQ6192_API void VQ6192_ATM_ConvertPolicing##n(uint32_t chip, uint32_t PCR, uint32_t SCR, uint32_t CDVT, \
-                                                  uint32_t MBS, ATM_BUCKET_PAIR *pair) {                      \
-        convertOne(chip, n, PCR, SCR, CDVT, MBS, pair);                                                       \
+                                                  uint32_t MBS, ATM_BUCKET_PAIR *pair) {                    \
+        convertOne(chip, n, PCR, SCR, CDVT, MBS, pair);                                                     \
     }
 VQ6192_ATM_CONVERT_POLICING(2)
 VQ6192_ATM_CONVERT_POLICING(3)
@@ -231,7 +231,8 @@ VQ6192_API uint32_t VQ6192_ATM_CalcPolicingPara(uint32_t chip, const ATM_BUCKET_
     return 0;
 }
 
-VQ6192_API uint32_t VQ6192_ATM_VQ6192PoliceSet(uint32_t chip, uint32_t policingId, const ATM_BUCKET_PAIR *pair) {
+VQ6192_API uint32_t VQ6192_ATM_VQ6192PoliceSet(uint32_t chip, uint32_t policingId,
+                                               const ATM_BUCKET_PAIR *pair) {
     if (!vq::validChip(chip) || policingId >= 8192 || pair == nullptr) {
         return paraErr(chip);
     }
@@ -251,7 +252,8 @@ VQ6192_API uint32_t VQ6192_ATM_VQ6192PoliceSet(uint32_t chip, uint32_t policingI
     });
 }
 
-VQ6192_API uint32_t VQ6192_ATM_SetAtmPolcfgQos(uint32_t chip, uint32_t policingId, const ATM_TRAFFIC_DESC *desc) {
+VQ6192_API uint32_t VQ6192_ATM_SetAtmPolcfgQos(uint32_t chip, uint32_t policingId,
+                                               const ATM_TRAFFIC_DESC *desc) {
     if (!vq::validChip(chip) || policingId >= 8192 || desc == nullptr || desc->type < 1 || desc->type > 15) {
         return paraErr(chip);
     }

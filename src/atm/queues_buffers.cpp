@@ -72,10 +72,10 @@ VQ6192_API uint32_t VQ6192_ATM_DelAtmBwdQm(uint32_t chip, uint32_t index, uint32
     return paraCode(chip) | rcRead;
 }
 
-VQ6192_API uint32_t VQ6192_ATM_SetAtmQm(uint32_t chip, uint32_t queueIndex, uint32_t port, uint32_t serviceType,
-                                        uint32_t qid) {
-    if (!vq::validChip(chip) || queueIndex > kQueueNum || port >= VQ6192_ATM_LINE_PORT_NUM || serviceType > 5 ||
-        !legalQid(serviceType, qid)) {
+VQ6192_API uint32_t VQ6192_ATM_SetAtmQm(uint32_t chip, uint32_t queueIndex, uint32_t port,
+                                        uint32_t serviceType, uint32_t qid) {
+    if (!vq::validChip(chip) || queueIndex > kQueueNum || port >= VQ6192_ATM_LINE_PORT_NUM ||
+        serviceType > 5 || !legalQid(serviceType, qid)) {
         return paraErr(chip);
     }
     return modifyEntry(chip, kLinkQm, queueIndex, [&](Entry &e) {
@@ -86,8 +86,8 @@ VQ6192_API uint32_t VQ6192_ATM_SetAtmQm(uint32_t chip, uint32_t queueIndex, uint
     });
 }
 
-VQ6192_API uint32_t VQ6192_ATM_GetAtmQm(uint32_t chip, uint32_t queueIndex, uint16_t *wPort, uint32_t *renServiceType,
-                                        uint16_t *wQid) {
+VQ6192_API uint32_t VQ6192_ATM_GetAtmQm(uint32_t chip, uint32_t queueIndex, uint16_t *wPort,
+                                        uint32_t *renServiceType, uint16_t *wQid) {
     if (!vq::validChip(chip) || queueIndex > kQueueNum || wPort == nullptr || renServiceType == nullptr ||
         wQid == nullptr) {
         return paraErr(chip);
@@ -101,8 +101,8 @@ VQ6192_API uint32_t VQ6192_ATM_GetAtmQm(uint32_t chip, uint32_t queueIndex, uint
 }
 
 VQ6192_API uint32_t VQ6192_ATM_SetAtmBmPvc(uint32_t chip, uint32_t vcx, const uint8_t bm[5]) {
-    if (!vq::validChip(chip) || vcx > VQ6192_ATM_VCX_NUM || bm == nullptr || bm[0] > 1 || bm[1] > 1 || bm[2] > 1 ||
-        bm[3] > 1 || bm[4] >= 64) {
+    if (!vq::validChip(chip) || vcx > VQ6192_ATM_VCX_NUM || bm == nullptr || bm[0] > 1 || bm[1] > 1 ||
+        bm[2] > 1 || bm[3] > 1 || bm[4] >= 64) {
         return paraErr(chip);
     }
     return modifyEntry(chip, kBmPvc, vcx, [&](Entry &e) {
@@ -128,8 +128,8 @@ VQ6192_API uint32_t VQ6192_ATM_GetAtmBmPvc(uint32_t chip, uint32_t vcx, uint8_t 
     return rc;
 }
 
-VQ6192_API uint32_t VQ6192_ATM_SetAtmImaQmTm(uint32_t chip, uint32_t linePort, uint32_t links, uint32_t tsBitmap,
-                                             uint32_t frameLenCode, uint32_t mode) {
+VQ6192_API uint32_t VQ6192_ATM_SetAtmImaQmTm(uint32_t chip, uint32_t linePort, uint32_t links,
+                                             uint32_t tsBitmap, uint32_t frameLenCode, uint32_t mode) {
     if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM || links >= VQ6192_ATM_LINE_PORT_NUM ||
         frameLenCode > 3 || mode > 3) {
         return paraErr(chip);
@@ -163,7 +163,8 @@ VQ6192_API uint32_t VQ6192_ATM_SetAtmImaQmTm(uint32_t chip, uint32_t linePort, u
     });
 }
 
-VQ6192_API uint32_t VQ6192_ATM_SetAtmImaQm(uint32_t chip, uint32_t linePort, uint32_t threshold, uint32_t period) {
+VQ6192_API uint32_t VQ6192_ATM_SetAtmImaQm(uint32_t chip, uint32_t linePort, uint32_t threshold,
+                                           uint32_t period) {
     if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM || threshold >= 1024) {
         return paraErr(chip);
     }
@@ -173,8 +174,10 @@ VQ6192_API uint32_t VQ6192_ATM_SetAtmImaQm(uint32_t chip, uint32_t linePort, uin
     });
 }
 
-VQ6192_API uint32_t VQ6192_ATM_GetAtmImaQm(uint32_t chip, uint32_t linePort, uint16_t *threshold, uint32_t *period) {
-    if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM || threshold == nullptr || period == nullptr) {
+VQ6192_API uint32_t VQ6192_ATM_GetAtmImaQm(uint32_t chip, uint32_t linePort, uint16_t *threshold,
+                                           uint32_t *period) {
+    if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM || threshold == nullptr ||
+        period == nullptr) {
         return paraErr(chip);
     }
     Entry e;
@@ -184,7 +187,8 @@ VQ6192_API uint32_t VQ6192_ATM_GetAtmImaQm(uint32_t chip, uint32_t linePort, uin
     return rc;
 }
 
-VQ6192_API uint32_t VQ6192_ATM_SetAtmBmTh(uint32_t chip, uint32_t idx, uint32_t serviceType, const ATM_BM_TH *th) {
+VQ6192_API uint32_t VQ6192_ATM_SetAtmBmTh(uint32_t chip, uint32_t idx, uint32_t serviceType,
+                                          const ATM_BM_TH *th) {
     if (!vq::validChip(chip) || idx >= 64 || serviceType < 1 || serviceType > 5 || th == nullptr ||
         !bmTemplateLegal(*th)) {
         return paraErr(chip);

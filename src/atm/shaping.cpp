@@ -88,10 +88,10 @@ VQ6192_API void VQ6192_ATM_ConvertShappingPara(uint32_t chip, uint32_t type, uin
     convertOne(chip, type, PCR, SCR, CDVT, MBS, pair);
 }
 
-#define VQ6192_ATM_CONVERT_SHAPING(n)                                                                         \
+#define VQ6192_ATM_CONVERT_SHAPING(n)                                                                       \
     VQ6192_API void VQ6192_ATM_ConvertShapping##n(uint32_t chip, uint32_t PCR, uint32_t SCR, uint32_t CDVT, \
-                                                  uint32_t MBS, ATM_BUCKET_PAIR *pair) {                      \
-        convertOne(chip, n, PCR, SCR, CDVT, MBS, pair);                                                       \
+                                                  uint32_t MBS, ATM_BUCKET_PAIR *pair) {                    \
+        convertOne(chip, n, PCR, SCR, CDVT, MBS, pair);                                                     \
     }
 VQ6192_ATM_CONVERT_SHAPING(2)
 VQ6192_ATM_CONVERT_SHAPING(5)
@@ -144,8 +144,8 @@ VQ6192_API uint32_t VQ6192_ATM_SetAtmShapcfg(uint32_t chip, uint32_t linePort, u
                                              const ATM_POLICING_CFG *rec) {
     uint32_t table = 0;
     ShaperFields f{};
-    if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM || rec == nullptr || rec->wIncrA > 32767 ||
-        !shaperTable(shaperClass, &table, &f)) {
+    if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM || rec == nullptr ||
+        rec->wIncrA > 32767 || !shaperTable(shaperClass, &table, &f)) {
         return paraErr(chip);
     }
     const ATM_POLICING_CFG r = *rec;
@@ -218,7 +218,8 @@ VQ6192_API uint32_t VQ6192_ATM_SetAtmShVc(uint32_t chip, uint32_t linePort, uint
     return writeShVcPeriod(chip, linePort, cls, period);
 }
 
-VQ6192_API uint32_t VQ6192_ATM_GetAtmShVc(uint32_t chip, uint32_t linePort, uint32_t cls, uint32_t *dwShvcCell) {
+VQ6192_API uint32_t VQ6192_ATM_GetAtmShVc(uint32_t chip, uint32_t linePort, uint32_t cls,
+                                          uint32_t *dwShvcCell) {
     if (dwShvcCell == nullptr) {
         return paraErr(chip);
     }
@@ -231,7 +232,8 @@ VQ6192_API uint32_t VQ6192_ATM_GetAtmShVc(uint32_t chip, uint32_t linePort, uint
     return rc;
 }
 
-VQ6192_API uint32_t VQ6192_ATM_SetAtmShVcByPeriod(uint32_t chip, uint32_t linePort, uint32_t cls, uint32_t period) {
+VQ6192_API uint32_t VQ6192_ATM_SetAtmShVcByPeriod(uint32_t chip, uint32_t linePort, uint32_t cls,
+                                                  uint32_t period) {
     if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM || cls >= kShVcClasses ||
         (period != 0 && (period < kShVcPeriodMin || period > kShVcPeriodMax))) {
         return paraErr(chip);
@@ -239,8 +241,10 @@ VQ6192_API uint32_t VQ6192_ATM_SetAtmShVcByPeriod(uint32_t chip, uint32_t linePo
     return writeShVcPeriod(chip, linePort, cls, period);
 }
 
-VQ6192_API uint32_t VQ6192_ATM_GetAtmShVcPeriod(uint32_t chip, uint32_t linePort, uint32_t cls, uint32_t *period) {
-    if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM || cls >= kShVcClasses || period == nullptr) {
+VQ6192_API uint32_t VQ6192_ATM_GetAtmShVcPeriod(uint32_t chip, uint32_t linePort, uint32_t cls,
+                                                uint32_t *period) {
+    if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM || cls >= kShVcClasses ||
+        period == nullptr) {
         return paraErr(chip);
     }
     Entry e;

@@ -81,7 +81,8 @@ struct PortTable {
     vq::EntryField field;
 };
 
-bool portField(uint32_t port, uint32_t side, vq::EntryField lineField, vq::EntryField sysField, PortTable *out) {
+bool portField(uint32_t port, uint32_t side, vq::EntryField lineField, vq::EntryField sysField,
+               PortTable *out) {
     if (side == 0 && port < VQ6192_ATM_LINE_PORT_NUM) {
         *out = {kLpct, lineField};
         return true;
@@ -111,7 +112,8 @@ VQ6192_API uint32_t VQ6192_ATM_SetAtmPortEn(uint32_t chip, uint32_t port, uint32
     return modifyEntry(chip, t.table, port, [&](Entry &e) { e.set(t.field, byEnable); });
 }
 
-VQ6192_API uint32_t VQ6192_ATM_GetAtmPortEnStat(uint32_t chip, uint32_t port, uint32_t side, uint8_t *byEnable) {
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPortEnStat(uint32_t chip, uint32_t port, uint32_t side,
+                                                uint8_t *byEnable) {
     if (!vq::validChip(chip) || side > 2 || byEnable == nullptr || port >= VQ6192_ATM_SYS_PORT_NUM) {
         return paraErr(chip);
     }
@@ -128,7 +130,8 @@ VQ6192_API uint32_t VQ6192_ATM_GetAtmPortEnStat(uint32_t chip, uint32_t port, ui
     return rc;
 }
 
-VQ6192_API uint32_t VQ6192_ATM_SetAtmPortType(uint32_t chip, uint32_t port, uint32_t side, uint32_t byUniFlag) {
+VQ6192_API uint32_t VQ6192_ATM_SetAtmPortType(uint32_t chip, uint32_t port, uint32_t side,
+                                              uint32_t byUniFlag) {
     PortTable t{};
     if (!vq::validChip(chip) || byUniFlag > 1 || !portField(port, side, kLpctNetattr, kSpctNetattr, &t)) {
         return paraErr(chip);
@@ -136,9 +139,11 @@ VQ6192_API uint32_t VQ6192_ATM_SetAtmPortType(uint32_t chip, uint32_t port, uint
     return modifyEntry(chip, t.table, port, [&](Entry &e) { e.set(t.field, byUniFlag); });
 }
 
-VQ6192_API uint32_t VQ6192_ATM_GetAtmPortType(uint32_t chip, uint32_t port, uint32_t side, uint8_t *byUniFlag) {
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPortType(uint32_t chip, uint32_t port, uint32_t side,
+                                              uint8_t *byUniFlag) {
     PortTable t{};
-    if (!vq::validChip(chip) || byUniFlag == nullptr || !portField(port, side, kLpctNetattr, kSpctNetattr, &t)) {
+    if (!vq::validChip(chip) || byUniFlag == nullptr ||
+        !portField(port, side, kLpctNetattr, kSpctNetattr, &t)) {
         return paraErr(chip);
     }
     Entry e;
@@ -149,8 +154,8 @@ VQ6192_API uint32_t VQ6192_ATM_GetAtmPortType(uint32_t chip, uint32_t port, uint
 
 VQ6192_API uint32_t VQ6192_ATM_AddAtmTransConn(uint32_t chip, uint32_t linePort, uint32_t systemPort,
                                                const uint32_t th[3]) {
-    if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM || systemPort >= VQ6192_ATM_SYS_PORT_NUM ||
-        !thresholdsLegal(th)) {
+    if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM ||
+        systemPort >= VQ6192_ATM_SYS_PORT_NUM || !thresholdsLegal(th)) {
         return paraErr(chip);
     }
     uint32_t rc = bindPortQueue(chip, linePort);
@@ -160,15 +165,16 @@ VQ6192_API uint32_t VQ6192_ATM_AddAtmTransConn(uint32_t chip, uint32_t linePort,
     return rc;
 }
 
-VQ6192_API uint32_t VQ6192_ATM_AddAtmTransConnSingle(uint32_t chip, uint32_t port, uint32_t peerPort, uint32_t side,
-                                                     const uint32_t th[3]) {
+VQ6192_API uint32_t VQ6192_ATM_AddAtmTransConnSingle(uint32_t chip, uint32_t port, uint32_t peerPort,
+                                                     uint32_t side, const uint32_t th[3]) {
     if (!vq::validChip(chip) || th == nullptr) {
         return paraErr(chip);
     }
     if (side == 0 && port < VQ6192_ATM_LINE_PORT_NUM && peerPort < VQ6192_ATM_SYS_PORT_NUM) {
         return mapLinePort(chip, port, peerPort);
     }
-    if (side == 1 && port < VQ6192_ATM_SYS_PORT_NUM && peerPort < VQ6192_ATM_LINE_PORT_NUM && thresholdsLegal(th)) {
+    if (side == 1 && port < VQ6192_ATM_SYS_PORT_NUM && peerPort < VQ6192_ATM_LINE_PORT_NUM &&
+        thresholdsLegal(th)) {
         uint32_t rc = bindPortQueue(chip, peerPort);
         rc |= writeThresholds(chip, peerPort, th);
         rc |= mapSystemPort(chip, port, peerPort);
@@ -178,7 +184,8 @@ VQ6192_API uint32_t VQ6192_ATM_AddAtmTransConnSingle(uint32_t chip, uint32_t por
 }
 
 VQ6192_API uint32_t VQ6192_ATM_DelAtmTransConn(uint32_t chip, uint32_t linePort, uint32_t systemPort) {
-    if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM || systemPort >= VQ6192_ATM_SYS_PORT_NUM) {
+    if (!vq::validChip(chip) || linePort >= VQ6192_ATM_LINE_PORT_NUM ||
+        systemPort >= VQ6192_ATM_SYS_PORT_NUM) {
         return paraErr(chip);
     }
     uint32_t rc = unmapLinePort(chip, linePort);
@@ -203,8 +210,8 @@ VQ6192_API uint32_t VQ6192_ATM_DelAtmTransConnSingle(uint32_t chip, uint32_t por
     return paraErr(chip);
 }
 
-VQ6192_API uint32_t VQ6192_ATM_GetAtmTransConnSingle(uint32_t chip, uint32_t port, uint32_t side, uint8_t *byPortMap,
-                                                     uint16_t *wDstPort) {
+VQ6192_API uint32_t VQ6192_ATM_GetAtmTransConnSingle(uint32_t chip, uint32_t port, uint32_t side,
+                                                     uint8_t *byPortMap, uint16_t *wDstPort) {
     PortTable map{};
     if (!vq::validChip(chip) || byPortMap == nullptr || wDstPort == nullptr ||
         !portField(port, side, kLpctPortmap, kSpctPortmap, &map)) {

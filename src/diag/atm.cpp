@@ -12,13 +12,14 @@ namespace {
 constexpr uint32_t kNoBuffer = 2;
 constexpr char kSignedValueLine[] = " %s    :    0x%x(%d)\n";
 
-constexpr char kConnHeader[] = "| Vcx| Tag| cType| SrcPort| SrcVpi| SrcVci| DstPort| DstVpi| DstVci| Stype| UpcNpc| "
-                               "PolicingId|   Qid| Clpt|  Fd| Pfd| Red| idx|\n";
+constexpr char kConnHeader[] =
+    "| Vcx| Tag| cType| SrcPort| SrcVpi| SrcVci| DstPort| DstVpi| DstVci| Stype| UpcNpc| "
+    "PolicingId|   Qid| Clpt|  Fd| Pfd| Red| idx|\n";
 constexpr char kConnRow[] = "|%4u|%4u|%6u|%8u|%7u|%7u|%8u|%7u|%7u|%6u|%7u|%11u|%6u|%5u|%4u|%4u|%4u|%4u| \n";
 
 void connRow(TextBuilder &text, const ATM_SRV_CONN &c) {
-    text.add(kConnRow, c.Vcx, c.Tag, c.cType, c.SrcPort, c.SrcVpi, c.SrcVci, c.DstPort, c.DstVpi, c.DstVci, c.Stype,
-             c.UpcNpc, c.PolicingId, c.Qid, c.Clpt, c.Fd, c.Pfd, c.Red, c.idx);
+    text.add(kConnRow, c.Vcx, c.Tag, c.cType, c.SrcPort, c.SrcVpi, c.SrcVci, c.DstPort, c.DstVpi, c.DstVci,
+             c.Stype, c.UpcNpc, c.PolicingId, c.Qid, c.Clpt, c.Fd, c.Pfd, c.Red, c.idx);
 }
 
 // A dashed line as wide as the connection header.
@@ -67,16 +68,16 @@ VQ6192_API uint32_t getatmsrvconn(uint32_t chip, uint32_t vcx, char *buf) {
     return rc;
 }
 
-#define VQ6192_DIAG_U8_BY_VCX(cmd, op, title, label)                    \
-    VQ6192_API uint32_t cmd(uint32_t chip, uint32_t vcx, char *buf) {  \
-        if (buf == nullptr) {                                          \
-            return vq::diag::kNoBuffer;                                \
-        }                                                              \
-        uint8_t v = 0;                                                 \
-        const uint32_t rc = op(chip, vcx, &v);                         \
-        TextBuilder text(buf);                                         \
-        framed(text, kMacSep, title, {{label, v}});                    \
-        return rc;                                                     \
+#define VQ6192_DIAG_U8_BY_VCX(cmd, op, title, label)                  \
+    VQ6192_API uint32_t cmd(uint32_t chip, uint32_t vcx, char *buf) { \
+        if (buf == nullptr) {                                         \
+            return vq::diag::kNoBuffer;                               \
+        }                                                             \
+        uint8_t v = 0;                                                \
+        const uint32_t rc = op(chip, vcx, &v);                        \
+        TextBuilder text(buf);                                        \
+        framed(text, kMacSep, title, {{label, v}});                   \
+        return rc;                                                    \
     }
 VQ6192_DIAG_U8_BY_VCX(getatmvcxenstat, VQ6192_ATM_GetAtmVcxEnStat, "GetAtmVcxEnStat()", "byEnable")
 VQ6192_DIAG_U8_BY_VCX(getatmupcnpcenstat, VQ6192_ATM_GetAtmUpcNpcEnStat, "GetAtmUpcNpcEnStat()", "byEnable")
@@ -147,7 +148,8 @@ VQ6192_API uint32_t getatmtransfifo(uint32_t chip, uint32_t linePort, char *buf)
     uint32_t th[3] = {};
     const uint32_t rc = VQ6192_ATM_GetAtmTransFiFo(chip, linePort, th);
     TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmTransFiFo()", {{"dwBmPause", th[0]}, {"dwBmCancel", th[1]}, {"dwBmFifoDrop", th[2]}});
+    framed(text, kMacSep, "GetAtmTransFiFo()",
+           {{"dwBmPause", th[0]}, {"dwBmCancel", th[1]}, {"dwBmFifoDrop", th[2]}});
     return rc;
 }
 
@@ -373,7 +375,8 @@ VQ6192_API uint32_t getlinkdata(uint32_t /*chip*/, char *buf) {
     text.add("| LcptPort| ScptPort| BmPause| BmCancel| BmFifoDrop|\n");
     for (const ATM_PORT_DATA &row : g_atmportdata) {
         if (row.wUsed == 1) {
-            text.add("|%8u|%8u|%8u|%8u|%8u|\n", row.LcptPort, row.ScptPort, row.BmPause, row.BmCancel, row.BmFifoDrop);
+            text.add("|%8u|%8u|%8u|%8u|%8u|\n", row.LcptPort, row.ScptPort, row.BmPause, row.BmCancel,
+                     row.BmFifoDrop);
             ++ports;
         }
     }
@@ -407,7 +410,8 @@ namespace {
 
 constexpr Command kCommands[] = {
     // Connections
-    VQ6192_DIAG_COMMAND(getatmvcx, "ATM", "chip link dir", "VCX of a link's ingress (0) or egress (1) connection"),
+    VQ6192_DIAG_COMMAND(getatmvcx, "ATM", "chip link dir",
+                        "VCX of a link's ingress (0) or egress (1) connection"),
     VQ6192_DIAG_COMMAND(getatmsrvconn, "ATM", "chip vcx", "read a connection back from the switching tables"),
     VQ6192_DIAG_COMMAND(getatmvcxenstat, "ATM", "chip vcx", "whether a connection is valid (switching)"),
     VQ6192_DIAG_COMMAND(getatmupcnpcenstat, "ATM", "chip vcx", "whether a connection is policed"),

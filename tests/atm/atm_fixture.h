@@ -61,7 +61,9 @@ class AtmTest : public vqtest::ChipTest {
         model.tables().setEntry(kAtmBlock, sel, index, e);
     }
     // Every bit of an entry set, so that a write that clobbers a neighbour shows.
-    void fillEntry(uint32_t sel, uint32_t index, uint32_t widthBits) { setBits(sel, index, 0, widthBits, ~0ull); }
+    void fillEntry(uint32_t sel, uint32_t index, uint32_t widthBits) {
+        setBits(sel, index, 0, widthBits, ~0ull);
+    }
     void fillEntryWide(uint32_t sel, uint32_t index, uint32_t widthBits) {
         for (uint32_t b = 0; b < widthBits; b += 32) {
             setBits(sel, index, b, widthBits - b < 32 ? widthBits - b : 32, ~0ull);

@@ -159,7 +159,8 @@ TEST_F(ConnTest, IllegalRecordsAreRefusedUntouched) {
         EXPECT_EQ(VQ6192_ATM_AddAtmSrvConn(kChip, &k.c), kPara);
         EXPECT_TRUE(model.trace().empty());
         EXPECT_TRUE(traced("ParaErr. \r\n"));
-        EXPECT_TRUE(traced("Err. VQ6192_ATM_AddAtmSrvConn: IsConnParasLegal parameter error! ChipID: 0x3\r\n"));
+        EXPECT_TRUE(
+            traced("Err. VQ6192_ATM_AddAtmSrvConn: IsConnParasLegal parameter error! ChipID: 0x3\r\n"));
     }
     // An ingress record does not look at the queue and buffer fields.
     ATM_SRV_CONN loose = with(in, [](auto &c) { c.Qid = 0, c.idx = 200, c.Clpt = 9; });
@@ -296,7 +297,8 @@ TEST_F(ConnTest, IndependentLegsOfAPair) {
     b.wKind = 1;
     b.cType = 1;
     b.wInSrcPort = 3, b.wInSrcVpi = 4, b.wInSrcVci = 5, b.wInDstPort = 6, b.wInDstVpi = 7, b.wInDstVci = 8;
-    b.wEgSrcPort = 9, b.wEgSrcVpi = 10, b.wEgSrcVci = 11, b.wEgDstPort = 12, b.wEgDstVpi = 13, b.wEgDstVci = 14;
+    b.wEgSrcPort = 9, b.wEgSrcVpi = 10, b.wEgSrcVci = 11, b.wEgDstPort = 12, b.wEgDstVpi = 13,
+    b.wEgDstVci = 14;
     b.wInStype = 5, b.wEgStype = 3, b.wInPolicingId = 19, b.wEgPolicingId = 20, b.Qid = 21;
     ASSERT_EQ(VQ6192_ATM_AddAtmSrvConnBothAndSingle(kChip, &b), 0u);
     EXPECT_EQ(bits(kTcam, 5, 0, 40), (2048ull + 9) << 28 | 10u << 16 | 11u);
@@ -379,7 +381,8 @@ TEST_F(ConnTest, AFlushThatIsNeverAcknowledgedFailsTheDeletion) {
     const uint16_t pair[2] = {4, 2};  // the local connection 4 was never laid: its flush fails too
     capture.clear();
     EXPECT_EQ(VQ6192_ATM_DelAtmSrvConnBoth(kChip, pair), kPara);
-    EXPECT_TRUE(traced("Err. VQ6192_ATM_DelAtmSrvConnBoth: Delete DRV_VQ6192_ATM_DIR_LOCAL Error! ChipID: 0x3\r\n"));
+    EXPECT_TRUE(
+        traced("Err. VQ6192_ATM_DelAtmSrvConnBoth: Delete DRV_VQ6192_ATM_DIR_LOCAL Error! ChipID: 0x3\r\n"));
 }
 
 TEST_F(ConnTest, DeletingPairsAndRefusals) {

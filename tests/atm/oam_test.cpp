@@ -54,7 +54,8 @@ TEST_F(OamTest, Crc10TableAndChecks) {
     // Entry i is i x^10 modulo the generator.
     for (uint32_t i = 0; i < 256; ++i) {
         const uint32_t v = i << 10;
-        const uint8_t b[3] = {static_cast<uint8_t>(v >> 16), static_cast<uint8_t>(v >> 8), static_cast<uint8_t>(v)};
+        const uint8_t b[3] = {static_cast<uint8_t>(v >> 16), static_cast<uint8_t>(v >> 8),
+                              static_cast<uint8_t>(v)};
         EXPECT_EQ(g_VQ6192_byte_crc10_table[kChip][i], polyMod(b, 3)) << i;
     }
     uint32_t seed = 12345;
@@ -227,12 +228,14 @@ TEST_F(OamTest, GuardedReadOfTheReportFlag) {
     model.refuseArbitration(1);
     capture.clear();
     EXPECT_EQ(VQ6192_ATM_GetOamCellTest(kChip, &vcx, got.data()), 0x03020008u);
-    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{"chip 3 pwe3 read reg get attrb fail oam,addr 0xa262"}));
+    EXPECT_EQ(capture.logTexts(),
+              (std::vector<std::string>{"chip 3 pwe3 read reg get attrb fail oam,addr 0xa262"}));
     EXPECT_EQ(failCounters()[0], 1u);
     VQ6192_Platform_FailSemGives(0, 1);
     capture.clear();
     EXPECT_EQ(VQ6192_ATM_GetOamCellTest(kChip, &vcx, got.data()), 0x03020008u);
-    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{"chip 3 pwe3 read reg give sem fail,addr 0xa262"}));
+    EXPECT_EQ(capture.logTexts(),
+              (std::vector<std::string>{"chip 3 pwe3 read reg give sem fail,addr 0xa262"}));
     EXPECT_EQ(VQ6192_ATM_GetOamCellTest(kChip, &vcx, got.data()), 0u);
     EXPECT_EQ(vcx, 3);
 }

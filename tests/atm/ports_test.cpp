@@ -77,8 +77,9 @@ TEST_F(PortTest, TransparentPortRefusals) {
         const uint32_t *th;
     };
     const Case cases[] = {
-        {"line port 336", 336, 0, good}, {"system port 2048", 0, 2048, good}, {"no thresholds", 0, 0, nullptr},
-        {"pause", 0, 0, over[0]},        {"cancel", 0, 0, over[1]},          {"drop", 0, 0, over[2]},
+        {"line port 336", 336, 0, good},  {"system port 2048", 0, 2048, good},
+        {"no thresholds", 0, 0, nullptr}, {"pause", 0, 0, over[0]},
+        {"cancel", 0, 0, over[1]},        {"drop", 0, 0, over[2]},
     };
     for (const Case &k : cases) {
         SCOPED_TRACE(k.name);
@@ -193,8 +194,8 @@ TEST_F(PortTest, QueueDeleteHandshake) {
         EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), k.waitedUs);
         const uint32_t queue = k.index & 0x1FFFu;
         const uint32_t kindBit = k.kind == 0 ? 0x2000u : 0u;
-        std::vector<RegWrite> expect = {{0xA860, 0}, {0xA860, queue}, {0xA860, queue | kindBit},
-                                        {0xA860, 0xC000u | queue | kindBit}};
+        std::vector<RegWrite> expect = {
+            {0xA860, 0}, {0xA860, queue}, {0xA860, queue | kindBit}, {0xA860, 0xC000u | queue | kindBit}};
         if (k.rewritten) {
             expect.push_back({0xA860, queue | kindBit});
         }
@@ -295,16 +296,9 @@ TEST_F(PortTest, ModuleStart) {
     EXPECT_LT(std::chrono::steady_clock::now() - t0, std::chrono::milliseconds(100));
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 0u) << "the start sequence does not wait";
     const std::vector<RegWrite> expect = {
-        {0xA008, 0x1F},
-        {0xA420, 0x7}, {0xA422, 0xFC00},
-        {0xA440, 0x2}, {0xA442, 0x0000},
-        {0xA460, 0x1}, {0xA462, 0x0000},
-        {0xA480, 0x1}, {0xA482, 0x0000},
-        {0xA4A0, 0x1}, {0xA4A2, 0x0000},
-        {0xA4C0, 0x0}, {0xA4C2, 0xEBFF},
-        {0xA4E0, 0x0}, {0xA4E2, 0x1001},
-        {0xA2E8, 32},
-        {0xA2C0, 1},
+        {0xA008, 0x1F},   {0xA420, 0x7}, {0xA422, 0xFC00}, {0xA440, 0x2}, {0xA442, 0x0000}, {0xA460, 0x1},
+        {0xA462, 0x0000}, {0xA480, 0x1}, {0xA482, 0x0000}, {0xA4A0, 0x1}, {0xA4A2, 0x0000}, {0xA4C0, 0x0},
+        {0xA4C2, 0xEBFF}, {0xA4E0, 0x0}, {0xA4E2, 0x1001}, {0xA2E8, 32},  {0xA2C0, 1},
     };
     EXPECT_EQ(regWrites(), expect);
     EXPECT_EQ(capture.traceTexts(),

@@ -15,9 +15,12 @@ struct Codes {
 class TrafficTest : public AtmTest {
   protected:
     Codes policer(uint32_t id) {
-        return {static_cast<uint32_t>(bits(kPolCfg, id, 8, 3)),  static_cast<uint32_t>(bits(kPolCfg, id, 11, 15)),
-                static_cast<uint32_t>(bits(kPolCfg, id, 0, 8)),  static_cast<uint32_t>(bits(kPolCfg, id, 34, 3)),
-                static_cast<uint32_t>(bits(kPolCfg, id, 37, 15)), static_cast<uint32_t>(bits(kPolCfg, id, 26, 8))};
+        return {static_cast<uint32_t>(bits(kPolCfg, id, 8, 3)),
+                static_cast<uint32_t>(bits(kPolCfg, id, 11, 15)),
+                static_cast<uint32_t>(bits(kPolCfg, id, 0, 8)),
+                static_cast<uint32_t>(bits(kPolCfg, id, 34, 3)),
+                static_cast<uint32_t>(bits(kPolCfg, id, 37, 15)),
+                static_cast<uint32_t>(bits(kPolCfg, id, 26, 8))};
     }
 };
 
@@ -81,8 +84,8 @@ TEST_F(TrafficTest, ExponentAndMantissa) {
         uint16_t mantissa, exponent;
     };
     const Case cases[] = {
-        {2.0, 1024, 0, 1},       {1.5, 1024, 512, 0}, {1280.0, 8, 2, 10}, {1.0, 1024, 0, 0},
-        {3.999, 8, 7, 1},        {0.5, 1024, static_cast<uint16_t>(-512), 0},
+        {2.0, 1024, 0, 1}, {1.5, 1024, 512, 0}, {1280.0, 8, 2, 10},
+        {1.0, 1024, 0, 0}, {3.999, 8, 7, 1},    {0.5, 1024, static_cast<uint16_t>(-512), 0},
     };
     for (const Case &k : cases) {
         SCOPED_TRACE(k.value);

@@ -55,7 +55,8 @@ TEST_F(AtmDiagTest, FramedValues) {
     ASSERT_EQ(getatmvcx(kChip, 5, 1, buf.data()), 0u);
     EXPECT_EQ(text(), std::string(kSep) + "        GetAtmVcx()\n" + kSep + " wVCX    :    0xb(11)\n" + kSep);
 
-    EXPECT_EQ(getatmvcx(kChip, 4096, 1, buf.data()), 0x03020001u) << "the operation's status, text still printed";
+    EXPECT_EQ(getatmvcx(kChip, 4096, 1, buf.data()), 0x03020001u)
+        << "the operation's status, text still printed";
     EXPECT_EQ(text(), std::string(kSep) + "        GetAtmVcx()\n" + kSep + " wVCX    :    0x0(0)\n" + kSep);
 
     const uint32_t th[3] = {0x100, 0x80, 0x7FFFF};
@@ -68,7 +69,8 @@ TEST_F(AtmDiagTest, FramedValues) {
                           kSep);
     ASSERT_EQ(VQ6192_ATM_SetOamSegEnd(kChip, 3, 3), 0u);
     ASSERT_EQ(getoamsegend(kChip, 3, buf.data()), 0u);
-    EXPECT_EQ(text(), std::string(kSep) + "        GetOamSegEnd()\n" + kSep + " renSegEndType    :    0x3(3)\n" + kSep);
+    EXPECT_EQ(text(), std::string(kSep) + "        GetOamSegEnd()\n" + kSep +
+                          " renSegEndType    :    0x3(3)\n" + kSep);
 }
 
 TEST_F(AtmDiagTest, ConnectionRowFromTheChip) {
@@ -76,12 +78,13 @@ TEST_F(AtmDiagTest, ConnectionRowFromTheChip) {
     ASSERT_EQ(VQ6192_ATM_AddAtmSrvConn(kChip, &c), 0u);
     ASSERT_EQ(getatmsrvconn(kChip, 11, buf.data()), 0u);
     const std::string stars(128, '*');
-    EXPECT_EQ(text(), stars + "\n" +
-                          "| Wcx| Tag| cType| SrcPort| SrcVpi| SrcVci| DstPort| DstVpi| DstVci| Stype| UpcNpc| "
-                          "PolicingId|   Qid| Clpt|  Fd| Pfd| Red| idx|\n"
-                          "|  11|   1|     1|    2000|      1|    100|      12|      2|    200|     3|      0|"
-                          "         40|     8|    0|   1|   0|   0|   5| \n" +
-                          stars + "\n");
+    EXPECT_EQ(text(),
+              stars + "\n" +
+                  "| Wcx| Tag| cType| SrcPort| SrcVpi| SrcVci| DstPort| DstVpi| DstVci| Stype| UpcNpc| "
+                  "PolicingId|   Qid| Clpt|  Fd| Pfd| Red| idx|\n"
+                  "|  11|   1|     1|    2000|      1|    100|      12|      2|    200|     3|      0|"
+                  "         40|     8|    0|   1|   0|   0|   5| \n" +
+                  stars + "\n");
 }
 
 TEST_F(AtmDiagTest, ShadowListings) {
@@ -90,20 +93,22 @@ TEST_F(AtmDiagTest, ShadowListings) {
     g_atmportdata[12] = {1, 12, 2000, 10, 20, 30};
     ASSERT_EQ(getlinkdata(kChip, buf.data()), 0u);
     const std::string dash(128, '-');  // as wide as the header
-    EXPECT_EQ(text(), "| Vcx| Tag| cType| SrcPort| SrcVpi| SrcVci| DstPort| DstVpi| DstVci| Stype| UpcNpc| "
-                      "PolicingId|   Qid| Clpt|  Fd| Pfd| Red| idx|\n"
-                      "|  11|   1|     1|    2000|      1|    100|      12|      2|    200|     3|      0|"
-                      "         40|     8|    0|   1|   0|   0|   5| \n" +
-                          dash +
-                          "\n| LcptPort| ScptPort| BmPause| BmCancel| BmFifoDrop|\n"
-                          "|      12|    2000|      10|      20|      30|\n"
-                          "| ATM link num count is:  = 1\n"
-                          "| ATM Port num count is:  = 1\n");
+    EXPECT_EQ(text(),
+              "| Vcx| Tag| cType| SrcPort| SrcVpi| SrcVci| DstPort| DstVpi| DstVci| Stype| UpcNpc| "
+              "PolicingId|   Qid| Clpt|  Fd| Pfd| Red| idx|\n"
+              "|  11|   1|     1|    2000|      1|    100|      12|      2|    200|     3|      0|"
+              "         40|     8|    0|   1|   0|   0|   5| \n" +
+                  dash +
+                  "\n| LcptPort| ScptPort| BmPause| BmCancel| BmFifoDrop|\n"
+                  "|      12|    2000|      10|      20|      30|\n"
+                  "| ATM link num count is:  = 1\n"
+                  "| ATM Port num count is:  = 1\n");
 
     g_bmtemplatedata[64 + 3] = {3, 2, {100, 200, 9, 1, 2, 3, 4, 5, 6}};
     ASSERT_EQ(getbmtemplate(kChip, buf.data()), 0u);
-    EXPECT_EQ(text(), "| idx| ServiceType| Clp0S0| Clp1S1| RedMax| RedMin| FdTh0| FdTh1| ClpTh0| ClpTh1|\n"
-                      "|   3|       2|   100|   200|     9|     1|     2|     3|     4|     5|     6\n");
+    EXPECT_EQ(text(),
+              "| idx| ServiceType| Clp0S0| Clp1S1| RedMax| RedMin| FdTh0| FdTh1| ClpTh0| ClpTh1|\n"
+              "|   3|       2|   100|   200|     9|     1|     2|     3|     4|     5|     6\n");
 
     // Every connection in use: the listing stops at the end of the buffer.
     for (ATM_CONN_DATA &r : g_conndata) {
@@ -142,8 +147,9 @@ TEST_F(AtmDiagTest, OamReports) {
     model.block<vq6192::sim::AtmBlock>().setCcloc(5, true);
     model.block<vq6192::sim::AtmBlock>().setCcloc(8191, true);
     ASSERT_EQ(getcclocall(kChip, buf.data()), 0u);
-    EXPECT_EQ(text(), "VCX=       5            CCLOC=       1\n"
-                      "VCX=    8191            CCLOC=       1\n");
+    EXPECT_EQ(text(),
+              "VCX=       5            CCLOC=       1\n"
+              "VCX=    8191            CCLOC=       1\n");
 }
 
 TEST_F(AtmDiagTest, EveryCommandRefusesANullBufferAndHasHelp) {
