@@ -76,22 +76,19 @@ void AtmBlock::onTable(uint32_t select, uint32_t address, bool write) {
     if (write) {
         return;
     }
+    // A FIFO with nothing queued leaves its read entry as it is.
     if (select == kSelReportFifo) {
-        FifoWord w{0, false, false};
         if (!report_.empty()) {
-            w = report_.front();
+            loadFifoWord(select, address, report_.front());
             report_.pop_front();
         }
-        loadFifoWord(select, address, w);
     } else if (select == kSelVcxFifo) {
-        uint32_t vcx = 0;
         if (!vcxFifo_.empty()) {
-            vcx = vcxFifo_.front();
+            TableEngine::Entry e{};
+            e[0] = static_cast<uint16_t>(vcxFifo_.front() & 0x1FFFu);
             vcxFifo_.pop_front();
+            model_.tables().setEntry(kTableBlock, select, address, e);
         }
-        TableEngine::Entry e{};
-        e[0] = static_cast<uint16_t>(vcx & 0x1FFFu);
-        model_.tables().setEntry(kTableBlock, select, address, e);
     } else if (select == kSelLinkQm) {
         auto it = drains_.find(address);
         if (it == drains_.end()) {

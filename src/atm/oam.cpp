@@ -199,6 +199,7 @@ VQ6192_API uint32_t VQ6192_ATM_GetOamCellTest(uint32_t chip, uint16_t *vcx, uint
     VQ6192_CHIP_RECORD &rec = g_vq6192[chip];
     constexpr uint32_t kWaitTicks = 5;
     if (rec.pSem != nullptr && vq::iof_sema_timewait(rec.pSem, kWaitTicks) != 0) {
+        rec.aulRegFailInfo[VQ6192_FAIL_SEM_TAKE]++;
         return vq::makeStatus(chip, kModule, VQ6192_ERR_TIMEOUT);
     }
     if (rec.pfnGetArbitrate != nullptr && rec.pfnGetArbitrate(chip) != 0) {

@@ -225,6 +225,8 @@ TEST_F(OamTest, GuardedReadOfTheReportFlag) {
     VQ6192_Platform_FailSemTakes(0, 1);
     EXPECT_EQ(VQ6192_ATM_GetOamCellTest(kChip, &vcx, got.data()), 0x03020003u);
     EXPECT_TRUE(capture.traceTexts().empty());
+    EXPECT_TRUE(capture.logTexts().empty());
+    EXPECT_EQ(failCounters()[1], 1u);
     model.refuseArbitration(1);
     capture.clear();
     EXPECT_EQ(VQ6192_ATM_GetOamCellTest(kChip, &vcx, got.data()), 0x03020008u);

@@ -1,7 +1,8 @@
 // Chip model: the ATM switch's moving parts. The queue-delete handshake (its acknowledge answers after
 // a number of polls, or never), queue lengths that drain after a number of reads (or never), the OAM
 // insertion FIFO that keeps the words pushed into it, the OAM report FIFO and the VCX FIFO that pop
-// on read with their not-empty flags, the loss-of-continuity bit, and the FIFO clear pulses.
+// on read with their not-empty flags (an empty one leaves its last word), the loss-of-continuity bit,
+// and the FIFO clear pulses.
 #pragma once
 
 #include <array>
