@@ -33,27 +33,19 @@ constexpr uint32_t bmTemplateIndex(uint32_t idx, uint32_t serviceType) {
 extern "C" {
 
 VQ6192_API uint32_t VQ6192_ATM_DelAtmBwdQm(uint32_t chip, uint32_t index, uint32_t kind) {
-    if (!vq::validChip(chip)) {
+    // A queue out of range is refused before the chip is touched; an unknown kind clears the command
+    // field first, as the chip's delete sequence does.
+    if (!vq::validChip(chip) || (kind == 0 && index >= VQ6192_ATM_LINE_PORT_NUM) ||
+        (kind == 1 && index > VQ6192_ATM_VCX_NUM)) {
         return paraErr(chip);
     }
     VQ6192_WriteRegField(chip, kQmDelCmdReg, 0, kQmDelCmdBit, kQmDelCmdWidth);
-    uint32_t entryIndex = 0;
-    uint32_t portQueue = 0;
-    if (kind == 0) {
-        if (index >= VQ6192_ATM_LINE_PORT_NUM) {
-            return paraErr(chip);
-        }
-        entryIndex = kPortQueueBase + index;
-        portQueue = 1;
-    } else if (kind == 1) {
-        if (index > VQ6192_ATM_VCX_NUM) {
-            return paraErr(chip);
-        }
-        entryIndex = index;
-    } else {
+    if (kind > 1) {
         VQ6192_ATM_TRACE(chip, "Err. VQ6192_ATM_DelAtmBwdQm: Config is error! ChipID: %#x\r\n", chip);
         return paraCode(chip);
     }
+    const uint32_t portQueue = kind == 0 ? 1u : 0u;
+    const uint32_t entryIndex = kind == 0 ? kPortQueueBase + index : index;
     Entry q;
     const uint32_t rcRead = readEntry(chip, kLinkQm, entryIndex, q);
     q.set(kQmBinding, 0);

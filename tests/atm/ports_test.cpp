@@ -211,6 +211,7 @@ TEST_F(PortTest, QueueDeleteHandshake) {
     model.clearTrace();
     EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, 336, 0), kPara);
     EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, 8193, 1), kPara);
+    EXPECT_TRUE(model.trace().empty());
 }
 
 TEST_F(PortTest, PortQueueRates) {
