@@ -501,3 +501,54 @@ TEST_F(ConnTest, LinksAndPerConnectionAttributes) {
 }
 
 }  // namespace
+
+namespace {
+
+using namespace atmtest;
+
+class ConnFailTest : public AtmTest {};
+
+TEST_F(ConnFailTest, DeletionAndReadBackStepFailures) {
+    // Table commands of deleting an egress connection with an empty queue: valid bit (1, 2), queue
+    // length (3), TCAM (4, 5), connection information (6, 7), queue flush (8, 9), buffers (10, 11).
+    struct Case {
+        uint32_t failAt;
+        const char *message;
+    };
+    const Case cases[] = {
+        {4, "Err. VQ6192_ATM_DelAtmSrvConn: Delete Switch Error!  ChipID: 0x3\r\n"},
+        {7, "Err. VQ6192_ATM_DelAtmSrvConn: Delete Switch Error!  ChipID: 0x3\r\n"},
+        {8, "Err. VQ6192_ATM_DelAtmSrvConn: Delete DelAtmBwdQm Error!  ChipID: 0x3\r\n"},
+        {10, "Err. VQ6192_ATM_DelAtmSrvConn: Delete SetAtmBmPvc Error!  ChipID: 0x3\r\n"},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.failAt);
+        model.tables().clear();
+        model.tables().holdBusy(kAtmBlock, 0);
+        setBits(kVct, 6, 0, 69, ~0ull);
+        setBits(kBmPvc, 6, 0, 10, 0x3FF);
+        capture.clear();
+        model.tables().failCommand(kAtmBlock, k.failAt);
+        const uint16_t rec[2] = {6, 1};
+        EXPECT_EQ(VQ6192_ATM_DelAtmSrvConn(kChip, rec), kPara);
+        EXPECT_TRUE(traced(k.message));
+        EXPECT_EQ(bits(kVct, 6, 0, 1), 0u) << "stopped switching first";
+        EXPECT_EQ(bits(kBmPvc, 6, 0, 10), 0x3FFu) << "buffers not cleared";
+        model.tables().failCommand(kAtmBlock, 0);
+    }
+    // Reading back: TCAM (1), connection information (2), port attribute (3).
+    for (uint32_t failAt : {1u, 2u, 3u}) {
+        SCOPED_TRACE(failAt);
+        model.tables().clear();
+        model.tables().holdBusy(kAtmBlock, 0);
+        setBits(kVct, 6, 0, 1, 1);
+        capture.clear();
+        model.tables().failCommand(kAtmBlock, failAt);
+        ATM_SRV_CONN out{};
+        EXPECT_EQ(VQ6192_ATM_GetAtmSrvConn(kChip, 6, &out), kPara);
+        EXPECT_EQ(traced("Err. VQ6192_ATM_GetAtmSrvConn: get UNIFlag is error! ChipID: 0x3\r\n"), failAt > 1);
+        model.tables().failCommand(kAtmBlock, 0);
+    }
+}
+
+}  // namespace

@@ -207,6 +207,14 @@ TEST_F(TrafficTest, ShaperEntries) {
     EXPECT_EQ(VQ6192_ATM_SetAtmShapcfgQos(kChip, 336, 2, &d), kPara);
     EXPECT_TRUE(model.trace().empty());
 
+    // A shaper write that does not complete.
+    model.tables().failCommand(kAtmBlock, 1);
+    capture.clear();
+    EXPECT_EQ(VQ6192_ATM_SetAtmShapcfgQos(kChip, 1, 2, &d), kPara);
+    EXPECT_TRUE(traced("Err. VQ6192_ATM_SetAtmShapcfgQos: CONFIGURE error!  ChipID: 0x3\r\n"));
+    model.tables().failCommand(kAtmBlock, 0);
+    model.tables().holdBusy(kAtmBlock, 0);
+
     const ATM_POLICING_CFG raw{0, 0, 0, 0x1234, 3, 0x1AB};
     ASSERT_EQ(VQ6192_ATM_SetAtmShapcfg(kChip, 5, 3, &raw), 0u);
     EXPECT_EQ(bits(kNrtVbrShap, 5, 0, 24), 0x1234u << 9 | 1u << 8 | 0xABu);
