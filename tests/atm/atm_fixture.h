@@ -47,7 +47,8 @@ class AtmTest : public vqtest::ChipTest {
         uint64_t v = 0;
         for (uint32_t i = 0; i < width; ++i) {
             const uint32_t b = start + i;
-            v |= static_cast<uint64_t>(e[b / 16] >> (b % 16) & 1u) << i;
+            // Past 64 bits a set bit folds into the top bit, so a wide entry still reads as non-zero.
+            v |= static_cast<uint64_t>(e[b / 16] >> (b % 16) & 1u) << (i < 64 ? i : 63);
         }
         return v;
     }
@@ -56,7 +57,9 @@ class AtmTest : public vqtest::ChipTest {
         for (uint32_t i = 0; i < width; ++i) {
             const uint32_t b = start + i;
             const uint16_t m = static_cast<uint16_t>(1u << (b % 16));
-            e[b / 16] = static_cast<uint16_t>((value >> i & 1u) != 0 ? (e[b / 16] | m) : (e[b / 16] & ~m));
+            // Past 64 bits the value's top bit is repeated, so ~0 fills and 0 clears a wide entry.
+            const bool one = (value >> (i < 64 ? i : 63) & 1u) != 0;
+            e[b / 16] = static_cast<uint16_t>(one ? (e[b / 16] | m) : (e[b / 16] & ~m));
         }
         model.tables().setEntry(kAtmBlock, sel, index, e);
     }
