@@ -1,6 +1,7 @@
 // Every block model of the chip, created with each chip model: one line per block.
 #include "vq6192/sim.h"
 #include "vq6192/sim/ces.h"
+#include "vq6192/sim/atm.h"
 #include "vq6192/sim/chip_control.h"
 #include "vq6192/sim/ddr.h"
 #include "vq6192/sim/eth.h"
@@ -30,6 +31,7 @@ void installBlocks(ChipModel &model) {
     model.block<MacBlock>();
     model.block<PppBlock>();
     model.block<RegisterWindow>();
+    model.block<AtmBlock>();
 }
 
 }  // namespace vq6192::sim
