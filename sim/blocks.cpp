@@ -3,6 +3,7 @@
 #include "vq6192/sim/chip_control.h"
 #include "vq6192/sim/ddr.h"
 #include "vq6192/sim/framers.h"
+#include "vq6192/sim/ima_processor.h"
 #include "vq6192/sim/interrupts.h"
 #include "vq6192/sim/ram_bist.h"
 
@@ -14,6 +15,7 @@ void installBlocks(ChipModel &model) {
     model.block<RamBistBlock>();
     model.block<DdrBlock>();
     model.block<Framers>();
+    model.block<ImaProcessor>();
 }
 
 }  // namespace vq6192::sim
