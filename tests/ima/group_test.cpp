@@ -60,7 +60,8 @@ TEST_F(GroupTest, AddGroupLaysEveryTable) {
         const uint32_t expect = lid == 0 ? 10 : lid == 2 ? 47 : 511;
         EXPECT_EQ(bits(Proc::kTxBlock, kMap, kGrp * 32 + lid, 0, 9), expect) << "LID " << lid;
     }
-    EXPECT_EQ(word(Proc::kTxBlock, kTxGpc, kGrp), 0x4903u) << "reference LID 2, Txm 1, 4-ahead = bit 0, stuff, label 3";
+    EXPECT_EQ(word(Proc::kTxBlock, kTxGpc, kGrp), 0x4903u)
+        << "reference LID 2, Txm 1, 4-ahead = bit 0, stuff, label 3";
     EXPECT_EQ(bits(Proc::kTxBlock, kTxLkc, 10, 0, 8), 3u);
     EXPECT_EQ(bits(Proc::kTxBlock, kTxLkc, 47, 0, 8), 7u);
     EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, kGrp, 0, 64), (1ull << 10) | (1ull << 47));
@@ -115,37 +116,47 @@ TEST_F(GroupTest, GroupCheckMessages) {
     };
     const Case cases[] = {
         {"clock", [](IMA_GRP_CFG &c) { c.byClockMd = 2; },
-         "Err. VQ6192_IMA_checkGrpParams(3,5)---byClockMd >= VQ6192_IMA_GRP_CLK_MD_CTC---   pstCfg->byClockMd = 2\r\n"},
+         "Err. VQ6192_IMA_checkGrpParams(3,5)---byClockMd >= VQ6192_IMA_GRP_CLK_MD_CTC---   "
+         "pstCfg->byClockMd = 2\r\n"},
         {"CTC with stuff mode 1", [](IMA_GRP_CFG &c) { c.byClockMd = 1, c.byStuffMd = 1; },
          "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byClockMd != VQ6192_IMA_GRP_CLK_MD_CTC or byStuffMd != "
          "VQ6192_IMA_GRP_STUFF_MD_ITC---    pstCfg->byClockMd = 1, pstCfg->byStuffMd = 1\n"},
         {"symmetry", [](IMA_GRP_CFG &c) { c.bySymmetryMd = 3; },
-         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---bySymmetryMd >= VQ6192_IMA_GRP_ASYM---   pstCfg->bySymmetryMd = 3\n"},
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---bySymmetryMd >= VQ6192_IMA_GRP_ASYM---   "
+         "pstCfg->bySymmetryMd = 3\n"},
         {"version", [](IMA_GRP_CFG &c) { c.byImaVersion = 2; },
-         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byImaVersion >= VQ6192_VERSION_10---   pstCfg->byImaVersion = 2\n"},
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byImaVersion >= VQ6192_VERSION_10---   "
+         "pstCfg->byImaVersion = 2\n"},
         {"label 2", [](IMA_GRP_CFG &c) { c.byImaOamLabel = 2; },
-         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byImaOamLabel >= VQ6192_OAM_LABEL_11 and byImaOamLabel != 2---   "
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byImaOamLabel >= VQ6192_OAM_LABEL_11 and byImaOamLabel "
+         "!= 2---   "
          "pstCfg->byImaOamLabel = 2\n"},
         {"rx id config", [](IMA_GRP_CFG &c) { c.byRxImaIdCfgEn = 2; },
          "Err. VQ6192_IMA_checkGrpParams(3,5)   ---byRxImaIdCfgEn > 1---   pstCfg->byRxImaIdCfgEn = 2\n"},
         {"vphy", [](IMA_GRP_CFG &c) { c.wRxVphy = 336; },
-         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---wTxVphy >= VQ6192_MAX_GCNT or wRxVphy >= VQ6192_MAX_GCNT---   "
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---wTxVphy >= VQ6192_MAX_GCNT or wRxVphy >= "
+         "VQ6192_MAX_GCNT---   "
          "pstCfg->wTxVphy = 5; pstCfg->wRxVphy = 336\n"},
         {"rxM 0", [](IMA_GRP_CFG &c) { c.byRxM = 0; },
-         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byRxM > VQ6192_IMA_GRP_MAX_RXM or byRxM == 0---   pstCfg->byRxM = 0\n"},
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byRxM > VQ6192_IMA_GRP_MAX_RXM or byRxM == 0---   "
+         "pstCfg->byRxM = 0\n"},
         {"pRx 33", [](IMA_GRP_CFG &c) { c.byPRx = 33; },
-         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byPRx > VQ6192_MAX_LID or byPRx == 0---   pstCfg->byPRx = 33\n"},
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byPRx > VQ6192_MAX_LID or byPRx == 0---   pstCfg->byPRx "
+         "= 33\n"},
         {"txM", [](IMA_GRP_CFG &c) { c.byTxM = 4; },
          "Err. VQ6192_IMA_checkGrpParams(3,5)   ---byTxM > VQ6192_IMA_GRP_MAX_TXM---   pstCfg->byTxM = 4\n"},
         {"pTx 0", [](IMA_GRP_CFG &c) { c.byPTx = 0; },
-         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byPTx > VQ6192_MAX_LID or byPTx == 0---   pstCfg->byPTx = 0\n"},
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byPTx > VQ6192_MAX_LID or byPTx == 0---   pstCfg->byPTx "
+         "= 0\n"},
         {"symmetric minimums differ", [](IMA_GRP_CFG &c) { c.byPTx = 1; },
-         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---bySymmetryMd == VQ6192_IMA_GRP_SYM or byPRx != byPTx---   "
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---bySymmetryMd == VQ6192_IMA_GRP_SYM or byPRx != byPTx---  "
+         " "
          "pstCfg->bySymmetryMd = 0; pstCfg->byPRx = 2;  pstCfg->byPTx = 1\n"},
         {"delay", [](IMA_GRP_CFG &c) { c.wMaxDelay = 1024; },
          "Err. VQ6192_IMA_checkGrpParams(3,5)   ---wMaxDelay > 1023---   pstCfg->wMaxDelay = 1024\n"},
         {"stuff advance 2", [](IMA_GRP_CFG &c) { c.byStuffAdvMd = 2; },
-         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byStuffAdvMd !=VQ6192_IMA_GRP_STUFF_ADV_1_AHEAD or byStuffAdvMd "
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byStuffAdvMd !=VQ6192_IMA_GRP_STUFF_ADV_1_AHEAD or "
+         "byStuffAdvMd "
          "!=VQ6192_IMA_GRP_STUFF_ADV_4_AHEAD---   pstCfg->byStuffAdvMd = 2\n"},
         {"reference link not sent", [](IMA_GRP_CFG &c) { c.wTxTrlPhy = 11; },
          "Err. VQ6192_IMA_checkGrpParams(3,5)   ---wNumTxLinks <= i---   pstCfg->wNumTxLinks=2; i=2\n"},
@@ -179,7 +190,8 @@ TEST_F(GroupTest, AddGroupDrainAndStepFailures) {
     EXPECT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), 0u) << "a drain that never ends does not stop the add";
     const auto texts = capture.traceTexts();
     ASSERT_FALSE(texts.empty());
-    EXPECT_EQ(texts[0], "Err. VQ6192_IMA_AddImaGrp.VQ6192_Read_Table(3,140,10)i=0  GetDEPTH   ErrCode[0x30d0004]\r\n");
+    EXPECT_EQ(texts[0],
+              "Err. VQ6192_IMA_AddImaGrp.VQ6192_Read_Table(3,140,10)i=0  GetDEPTH   ErrCode[0x30d0004]\r\n");
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 100u * 500u + 1u) << "100 polls 500 us apart";
 
     // The refused add_group command is the step's result.
@@ -189,7 +201,8 @@ TEST_F(GroupTest, AddGroupDrainAndStepFailures) {
     capture.clear();
     EXPECT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), kRefusedCmd);
     EXPECT_EQ(capture.traceTexts(),
-              std::vector<std::string>{"Err. VQ6192_imaAddGrp.VQ6192_IMA_utlRippCmd(3,5)       ErrCode[0x30d0009]\r\n"});
+              std::vector<std::string>{
+                  "Err. VQ6192_imaAddGrp.VQ6192_IMA_utlRippCmd(3,5)       ErrCode[0x30d0009]\r\n"});
 }
 
 TEST_F(GroupTest, AddLinksAroundStartupAndLasr) {
@@ -204,18 +217,16 @@ TEST_F(GroupTest, AddLinksAroundStartupAndLasr) {
         uint64_t ticks;
     };
     const Case cases[] = {
-        {0, 0, 0, 1, 0},
-        {1, 0, 0, 1, 0},
-        {2, 0, 0, 1, 10},
-        {2, 2, 0, 3, 10},            // refused twice: the later attempts find the LASR stopped
-        {0, 3, kRefusedCmd, 3, 0},   // three refusals end it
+        {0, 0, 0, 1, 0},           {1, 0, 0, 1, 0}, {2, 0, 0, 1, 10},
+        {2, 2, 0, 3, 10},           // refused twice: the later attempts find the LASR stopped
+        {0, 3, kRefusedCmd, 3, 0},  // three refusals end it
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(testing::Message() << "Gwpactive " << c.gwp << " refusals " << c.refusals);
         proc().clearCommands();
         VQ6192_Platform_ResetVirtualTime();
         setBits(Proc::kProcBlock, kGps, kGrp * 8, 53, 2, c.gwp);
-        setBits(Proc::kProcBlock, kGps, kGrp * 8 + 2, 0, 32, 0xFFFFFFFF);  // Txlasract
+        setBits(Proc::kProcBlock, kGps, kGrp * 8 + 2, 0, 32, 0xFFFFFFFF);   // Txlasract
         setBits(Proc::kProcBlock, kGps, kGrp * 8 + 4, 32, 32, 0xFFFFFFFF);  // Rxlasract
         setBits(Proc::kProcBlock, kGpc, kGrp * 16 + 3, 0, 32, 0xFFFFFFFF);
         proc().refuse(c.refusals);
@@ -234,13 +245,16 @@ TEST_F(GroupTest, AddLinksAroundStartupAndLasr) {
     EXPECT_EQ(word(Proc::kProcBlock, kTxc, 100), 0xC0052000u);
     EXPECT_EQ(bits(Proc::kProcBlock, kGpc, kGrp * 16 + 5 + 1, 9, 9), 100u) << "position 4: word 6, slot 1";
 
-    expectRefused("no receive link", kPara, [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 0, 1, rx, tx, &cfg); });
-    expectRefused("33 links", kPara, [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 33, 1, rx, tx, &cfg); });
+    expectRefused("no receive link", kPara,
+                  [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 0, 1, rx, tx, &cfg); });
+    expectRefused("33 links", kPara,
+                  [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 33, 1, rx, tx, &cfg); });
     const IMA_TX_LINK badOffset[1] = {{4, 64, 100}};
     capture.clear();
     EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 1, 1, rx, badOffset, &cfg), kPara);
-    EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{"Err. VQ6192_checkTxLinkParams(3,1,1) "
-                                                             "pstTxLinks[i].ucIcpOffset[0x40]     ErrCode[0x30d0001]\r\n"});
+    EXPECT_EQ(capture.traceTexts(),
+              std::vector<std::string>{"Err. VQ6192_checkTxLinkParams(3,1,1) "
+                                       "pstTxLinks[i].ucIcpOffset[0x40]     ErrCode[0x30d0001]\r\n"});
     setBits(Proc::kTcBlock, kTxCfg, 100, 46, 1, 1);
     proc().setDrainReads(Proc::kForever);
     EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 1, 1, rx, tx, &cfg), kNoEnd);
@@ -252,12 +266,14 @@ TEST_F(GroupTest, DeleteLinksAndGroup) {
     const IMA_TX_LINK tx[1] = {{2, 7, 47}};
     ASSERT_EQ(VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 1, rx, tx, 0), 0u);
     EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, kGrp, 0, 64), (1ull << 10) | (1ull << 63));
-    ASSERT_EQ(VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 0, rx, nullptr, 2), 0u) << "asymmetric: position = link number";
+    ASSERT_EQ(VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 0, rx, nullptr, 2), 0u)
+        << "asymmetric: position = link number";
     ASSERT_EQ(VQ6192_IMA_DelImaGrp(kChip, kGrp), 0u);
     const std::vector<Proc::Command> expect = {
         {9, kGrp, 1u << 2, 1u << 2, 0}, {9, kGrp, 0, 0, 0}, {1, kGrp, 0, 0, 0}};
     EXPECT_EQ(proc().commands(), expect) << "link 47 has no position bit in an asymmetric group";
-    expectRefused("nothing to delete", kPara, [&] { return VQ6192_IMA_DelImaLink(kChip, kGrp, 0, 0, rx, tx, 0); });
+    expectRefused("nothing to delete", kPara,
+                  [&] { return VQ6192_IMA_DelImaLink(kChip, kGrp, 0, 0, rx, tx, 0); });
     expectRefused("receive link 336", kPara, [&] {
         const uint16_t bad[1] = {336};
         return VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 1, bad, tx, 0);

@@ -35,8 +35,11 @@ class ImaProcessor : public ChipBlock {
     // ---- faults and timing ----
     // The busy bit reads 1 for the next n polls whatever happens (kForever: never clears).
     void holdBusy(uint32_t polls) { holdBusy_ = polls; }
-    // Each command keeps the busy bit set for n polls after its start.
-    void setCommandBusy(uint32_t polls) { commandBusy_ = polls; }
+    // Each command keeps the busy bit set for n polls after its start (a command still running ends now).
+    void setCommandBusy(uint32_t polls) {
+        commandBusy_ = polls;
+        busyLeft_ = 0;
+    }
     // The next n commands are refused (accepted bit 0; kForever: all).
     void refuse(uint32_t commands) { refuse_ = commands; }
     // The event fetch keeps its busy bit for n polls (kForever: never ends).
