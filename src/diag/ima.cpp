@@ -370,6 +370,9 @@ constexpr Command kCommands[] = {
     VQ6192_DIAG_COMMAND(getrxtestptn, "IMA", "chip grp n links", "received test pattern per link"),
     VQ6192_DIAG_COMMAND(getdelayinfo, "IMA", "chip grp", "differential delay of a group's links"),
     VQ6192_DIAG_COMMAND(getimatimetick, "IMA", "chip", "IMA processor time tick"),
+    VQ6192_DIAG_COMMAND(
+        MCARD_IMA_Dbg_ImaHardWareInfo, "IMA", "chip type arg1 arg2",
+        "IMA hardware diagnostics: tables, processor, transmit and receive views (type 0: help)"),
 };
 
 }  // namespace
