@@ -315,3 +315,39 @@ TEST_F(GroupTest, ConfigurationReadBack) {
 }
 
 }  // namespace
+
+namespace {
+
+using namespace imatest;
+
+class StepFailureTest : public ImaTest {};
+
+TEST_F(StepFailureTest, TableFailuresEndTheStepWithItsMessage) {
+    struct Case {
+        uint32_t block;
+        std::function<uint32_t()> op;
+        const char *message;
+    };
+    static const IMA_GRP_CFG cfg = groupCfg();
+    const Case cases[] = {
+        {Proc::kTcBlock, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
+         "Err. VQ6192_IMA_AddImaGrp.VQ6192_Read_Table(3,138,10) i=0     ErrCode[0x30c0003]\r\n"},
+        {Proc::kTxBlock, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
+         "Err. VQ6192_imaAddGrp.VQ6192_clrTimaGrpParams(3,5)       ErrCode[0x30c0003]\r\n"},
+        {Proc::kProcBlock, [] { return VQ6192_IMA_ResetIma(kChip); },
+         "Err. VQ6192_IMA_ResetIma.VQ6192_Write_Table(3,143,0)      ErrCode[0x30c0003]\r\n"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.message);
+        model.tables().holdBusy(c.block, vq6192::sim::TableEngine::kForever);
+        capture.clear();
+        EXPECT_EQ(c.op(), 0x030C0003u) << "the table access's own code";
+        const auto texts = capture.traceTexts();
+        ASSERT_EQ(texts.size(), 2u) << "the table layer's line, then the step's";
+        EXPECT_EQ(texts[1], c.message);
+        model.tables().holdBusy(c.block, 0);
+    }
+    EXPECT_TRUE(proc().commands().empty());
+}
+
+}  // namespace
