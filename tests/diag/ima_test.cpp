@@ -1,5 +1,6 @@
 // IMA diagnostic commands and hardware diagnostics: their text byte for byte, refusals and the
 // argument helper.
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -157,6 +158,44 @@ TEST_F(ImaDiagTest, HardwareTablePrints) {
     EXPECT_NE(MCARD_IMA_DiagHardwareGetImatx(kChip, 8, 6, buf.data()), 0);
     EXPECT_EQ(text(), "ASIC_Read_Table failed, ret=0x30C0003\r\n");
     model.tables().holdBusy(Proc::kTxBlock, 0);
+}
+
+TEST_F(ImaDiagTest, HardwareSnapshotLayouts) {
+    // Read_event snapshot: LID 3 reports Rxlid 0x1F.
+    proc().setEntryBits(Proc::kProcBlock, 6, 3, 32, 5, 0x1F);
+    EXPECT_EQ(MCARD_IMA_DiagHardwareGetImapp(kChip, 7, 9, buf.data()), 0);
+    EXPECT_EQ(proc().commands(), (std::vector<Proc::Command>{{24, 9, 0, 0, 0}}));
+    std::string rxlid = "            Rxlid =";
+    for (int lid = 0; lid < 32; ++lid) {
+        rxlid += lid == 3 ? " 31" : " 0 ";
+    }
+    const std::string t = text();
+    EXPECT_NE(t.find("                  1  2  3  4  5  6  7  8  9 10 11 12 13 14 15 16 17 18 19 20 21 22 23 "
+                     "24 25 26 27 "
+                     "28 29 30 31 32\r\n"),
+              std::string::npos);
+    EXPECT_NE(t.find(rxlid + "\r\n"), std::string::npos);
+
+    // Read delay: one row per LID from entry group + LID.
+    proc().setEntryBits(Proc::kRxBlock, 9, 2 + 4, 0, 32, (1u << 28) | (1u << 27) | (3u << 21) | 0xBEEF);
+    EXPECT_EQ(MCARD_IMA_DiagHardwareGetImarx(kChip, 10, 2, buf.data()), 0);
+    const auto l = lines();
+    const auto head = std::find(l.begin(), l.end(),
+                                "Reserved imarx_overrun lcd lif Reserved ifsm_state Reserved write_ptr");
+    ASSERT_NE(head, l.end());
+    EXPECT_EQ(*(head + 1), "-------- ------------- --- --- -------- ---------- -------- ---------");
+    EXPECT_EQ(*(head + 6), "  4:        0             1   1   0        0          3        0      beef");
+
+    // Transmit ICP buffer: octets 11..51, the bytes outside the cell as reserved.
+    for (uint32_t w = 0; w < 11; ++w) {
+        proc().setEntryBits(Proc::kTxBlock, 1, 16 + w, 0, 32, 0x11223344u);
+    }
+    EXPECT_EQ(MCARD_IMA_DiagHardwareGetImatx(kChip, 2, 1, buf.data()), 0);
+    EXPECT_EQ(lines().at(0), "  ICP octet 11 ~ 13:      22 33 44");
+    EXPECT_EQ(lines().at(1), "  ICP octet 14 ~ 17:   11 22 33 44");
+    EXPECT_EQ(lines().at(9), "  ICP octet 46 ~ 49:   11 22 33 44");
+    EXPECT_EQ(lines().at(10), "  ICP octet 50 ~ 51:   11 22");
+    EXPECT_EQ(lines().at(11), "  Reserved: 11  Reserved: 33  Reserved: 44");
 }
 
 }  // namespace
