@@ -391,6 +391,23 @@ uint32_t imarx(TextBuilder &t, uint32_t chip, uint32_t sel, uint32_t object) {
     }
 }
 
+constexpr const char *kDumpModules[] = {"GLB_CFG", "IMA",   "PPP", "ATM", "CES",  "SAM",
+                                        "DDR2C",   "MDDRC", "ETH", "TS",  "E1Map"};
+
+// Dump modules are numbered 1..11; any other number lists them.
+bool dumpModuleValid(TextBuilder &t, uint32_t module) {
+    if (module >= 1 && module <= sizeof kDumpModules / sizeof kDumpModules[0]) {
+        return true;
+    }
+    t.add("module ID(%u) is invalid. all valid module IDs are listed below:\r\n", module);
+    for (uint32_t i = 0; i < sizeof kDumpModules / sizeof kDumpModules[0]; ++i) {
+        char number[8];
+        snprintf(number, sizeof number, "%u.", i + 1);
+        t.add("  %-3s %s\r\n", number, kDumpModules[i]);
+    }
+    return false;
+}
+
 bool issCode(uint32_t code) {
     switch (code) {
         case 0:
@@ -579,7 +596,15 @@ VQ6192_API int32_t MCARD_IMA_Dbg_ImaHardWareInfo(uint32_t chip, uint32_t type, u
             return MCARD_IMA_DiagHardwareSetExtraPara(chip, arg1, arg2, buf);
         case 7:
             return MCARD_IMA_DiagHardwareSetImaIss(chip, arg1, arg2, buf);
-        case 1:   // the chip dump
+        case 1: {  // the chip dump
+            vq::TextBuilder t(buf);
+            if (!dumpModuleValid(t, arg1)) {
+                return 0;
+            }
+            // The dump of a valid module needs the chip dump operations; until they are built the
+            // dispatcher refuses it without output.
+            return kRefused;
+        }
         case 8:   // ATM connection view
         case 9:   // ATM pseudowire view
         case 10:  // ATM drop counters
