@@ -104,7 +104,8 @@ void waitUs(uint32_t us) {
 }
 
 uint32_t runCmd(uint32_t chip, uint32_t code, uint32_t grp, uint32_t p1, uint32_t p2, uint32_t p3) {
-    uint32_t rc = status(chip, kErrTimeout);  // still busy after every poll: the command is written all the same
+    uint32_t rc =
+        status(chip, kErrTimeout);  // still busy after every poll: the command is written all the same
     for (uint32_t i = 0; i < kMboxBusyPolls; ++i) {
         if (get(chip, kMboxBusy) == 0) {
             rc = 0;

@@ -74,7 +74,8 @@ TEST_F(ParamsTest, Vc4PortRemoval) {
     ASSERT_EQ(VQ6192_IMA_DelVc4(kChip, 2, 9), 0u);
     EXPECT_EQ(model.peek(0x4C24), 0xFDFFu) << "only the enable bit cleared";
     EXPECT_EQ(model.peek(0x5028), 0xFFFBu);
-    EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, 170, 168, 3), 3u) << "link 170 (bit 2 of the three) leaves group 170";
+    EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, 170, 168, 3), 3u)
+        << "link 170 (bit 2 of the three) leaves group 170";
     ASSERT_EQ(proc().commands().size(), 84u);
     EXPECT_EQ(proc().commands().front(), (Proc::Command{13, 168, 0, 0, 0}));
     EXPECT_EQ(proc().commands().back(), (Proc::Command{13, 251, 0, 0, 0}));
