@@ -296,13 +296,13 @@ TEST_F(GroupTest, ConfigurationReadBack) {
     EXPECT_EQ(out.byTxM, 1u);
     EXPECT_EQ(out.byPRx, 2u);
     EXPECT_EQ(out.byPTx, 2u);
-    EXPECT_EQ(out.wMaxDelay, 500u);
+    EXPECT_EQ(static_cast<uint32_t>(out.wMaxDelay), 500u);
     EXPECT_EQ(out.byStuffAdvMd, 0u) << "4 is stored as bit 0 and read back as that bit";
-    EXPECT_EQ(out.wTxTrlPhy, 47u);
-    EXPECT_EQ(out.wTxVphy, kGrp);
+    EXPECT_EQ(static_cast<uint32_t>(out.wTxTrlPhy), 47u);
+    EXPECT_EQ(static_cast<uint32_t>(out.wTxVphy), kGrp);
     EXPECT_EQ(out.byStuffMd, 2u);
-    EXPECT_EQ(out.wNumTxLinks, 2u);
-    EXPECT_EQ(out.wNumRxLinks, 2u);
+    EXPECT_EQ(static_cast<uint32_t>(out.wNumTxLinks), 2u);
+    EXPECT_EQ(static_cast<uint32_t>(out.wNumRxLinks), 2u);
     IMA_TX_LINK tx[2];
     uint16_t rx[2];
     std::memcpy(tx, reinterpret_cast<const uint8_t *>(&out) + offsetof(IMA_GRP_CFG, pstTxLinks), sizeof tx);
