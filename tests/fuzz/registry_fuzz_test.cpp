@@ -255,7 +255,8 @@ TEST_F(RegistryFuzz, EveryCommandSurvivesHostileArguments) {
                             a.u32 - args[i - 1].u32 > kMaxSpan) {
                             a.u32 = args[i - 1].u32 + a.u32 % (kMaxSpan + 1);
                         }
-                        shown += " " + std::to_string(a.u32);
+                        shown += ' ';
+                        shown += std::to_string(a.u32);
                         break;
                     case ArgKind::Bytes:
                         a.bytes = gen.array<uint8_t>(0xFF);
