@@ -141,17 +141,18 @@ constexpr const char *kMacPerNames[VQ6192_ETH_MAC_PER_NUM] = {
 // clang-format on
 
 // The MAC attribute record as one u16 per field, in record order.
-#define VQ6192_MAC_ATTR_FIELDS(X)                                                                            \
-    X(byPortEn)                                                                                              \
-    X(byTxEn)                                                                                                \
-    X(byRxEn)                                                                                                \
-    X(byCfSlientEn) X(bySoftRstMII) X(bySoftRstRx) X(bySoftRstTx) X(wMaxFrmSize) X(sFdFcAddrL) X(sFdFcAddrM) \
-        X(sFdFcAddrH) X(wAddrL) X(wAddrM) X(wAddrH) X(byPadEnable) X(byStripPadEn) X(byRxRuntPktEn)          \
-            X(byShortRuntsThr) X(byCrcAdd) X(byStripCRCEn) X(byCRCErrPass) X(byIpgTxTimer) X(byRxDflSgl)     \
-                X(byCf2DfTwoPartDf1) X(bySerDesOrd) X(wVLanType) X(byVlanDropEn) X(byBcDropEn)               \
-                    X(byMcMatchEn) X(byUcMatchEn) X(byTxFdFc) X(byRxFdFc) X(byAutoEegEnable) X(wFdFcType)    \
-                        X(wFcTxTimer) X(wPauseThr) X(byDropUnkCtlFrm) X(byPauseFrmPass) X(byNoRmiiPreamble)  \
-                            X(byNoMiiPreamble) X(byNoGmiiPreamble)
+#define VQ6192_MAC_ATTR_FIELDS(X)                                                                          \
+    X(byPortEn)                                                                                            \
+    X(byTxEn)                                                                                              \
+    X(byRxEn)                                                                                              \
+    X(byCfSlientEn)                                                                                        \
+    X(bySoftRstMII) X(bySoftRstRx) X(bySoftRstTx) X(wMaxFrmSize) X(sFdFcAddrL) X(sFdFcAddrM) X(sFdFcAddrH) \
+        X(wAddrL) X(wAddrM) X(wAddrH) X(byPadEnable) X(byStripPadEn) X(byRxRuntPktEn) X(byShortRuntsThr)   \
+            X(byCrcAdd) X(byStripCRCEn) X(byCRCErrPass) X(byIpgTxTimer) X(byRxDflSgl) X(byCf2DfTwoPartDf1) \
+                X(bySerDesOrd) X(wVLanType) X(byVlanDropEn) X(byBcDropEn) X(byMcMatchEn) X(byUcMatchEn)    \
+                    X(byTxFdFc) X(byRxFdFc) X(byAutoEegEnable) X(wFdFcType) X(wFcTxTimer) X(wPauseThr)     \
+                        X(byDropUnkCtlFrm) X(byPauseFrmPass) X(byNoRmiiPreamble) X(byNoMiiPreamble)        \
+                            X(byNoGmiiPreamble)
 
 #define VQ6192_COUNT_FIELD(f) +1
 constexpr size_t kMacAttrFields = 0 VQ6192_MAC_ATTR_FIELDS(VQ6192_COUNT_FIELD);
@@ -209,7 +210,11 @@ VQ6192_API uint32_t getpsnethinfo(uint32_t chip, uint32_t ch, uint32_t type, cha
 }
 
 // The record is 72 bytes: each field a big-endian u32 in record order.
+// A missing record goes to the operation as a null pointer, which it refuses.
 VQ6192_API uint32_t setpsnethinfo(uint32_t chip, uint32_t ch, uint32_t type, const uint8_t *info, char *buf) {
+    if (info == nullptr) {
+        return setter(buf, "setpsnethinfo", VQ6192_ETH_SetPSNEthInfo(chip, ch, type, nullptr));
+    }
     const VQ6192_ETH_PSN_INFO_S i = psnOf(info);
     return setter(buf, "setpsnethinfo", VQ6192_ETH_SetPSNEthInfo(chip, ch, type, &i));
 }
@@ -217,6 +222,9 @@ VQ6192_API uint32_t setpsnethinfo(uint32_t chip, uint32_t ch, uint32_t type, con
 // The mask is 18 bytes, one per field; the record 72 bytes as for setpsnethinfo.
 VQ6192_API uint32_t modifypsnethinfo(uint32_t chip, uint32_t ch, uint32_t type, const uint8_t *mask,
                                      const uint8_t *info, char *buf) {
+    if (mask == nullptr || info == nullptr) {
+        return setter(buf, "modifypsnethinfo", VQ6192_ETH_ModifyPSNEthInfo(chip, ch, type, nullptr, nullptr));
+    }
     uint32_t m[VQ6192_ETH_PSN_INFO_NUM];
     for (uint32_t k = 0; k < VQ6192_ETH_PSN_INFO_NUM; ++k) {
         m[k] = mask[k];
@@ -431,6 +439,9 @@ VQ6192_API uint32_t getpmuudpsport(uint32_t chip, char *buf) {
 
 // Selectors and values: fifteen bytes each, in the order of the pattern control record.
 VQ6192_API uint32_t setpmuptnctrl(uint32_t chip, const uint8_t *sel, const uint8_t *val, char *buf) {
+    if (sel == nullptr || val == nullptr) {
+        return setter(buf, "setpmuptnctrl", VQ6192_ETH_SetPmuPtnCtrl(chip, nullptr, nullptr));
+    }
     VQ6192_ETH_PMU_PTN_S s, v;
     std::memcpy(&s, sel, sizeof s);
     std::memcpy(&v, val, sizeof v);
@@ -523,6 +534,9 @@ VQ6192_API uint32_t getserdesmacaddr(uint32_t chip, uint32_t mac, char *buf) {
 // Attributes and selectors: one 16-bit value per field, in the order of the attribute record.
 VQ6192_API uint32_t setmacattr(uint32_t chip, uint32_t mac, const uint16_t *attr, const uint16_t *sel,
                                char *buf) {
+    if (attr == nullptr || sel == nullptr) {
+        return setter(buf, "setmacattr", VQ6192_ETH_SetMACAttr(chip, mac, nullptr, nullptr));
+    }
     const VQ6192_ETH_MAC_ATTR_S a = macAttrOf(attr), s = macAttrOf(sel);
     return setter(buf, "setmacattr", VQ6192_ETH_SetMACAttr(chip, mac, &a, &s));
 }

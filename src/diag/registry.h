@@ -26,8 +26,9 @@ enum class ArgKind : uint8_t { U32, Bytes, U16Array, Text };
 const char *argKindName(ArgKind kind);
 
 // Byte strings and arrays are handed over padded with zeros to at least this many elements, so that a
-// command reading a fixed-size array never reads past what was parsed.
-inline constexpr size_t kMinArrayElems = 256;
+// command reading a fixed-size array, or as many bytes as its length argument allows (a PPP protocol
+// packet: up to 4095), never reads past what was parsed.
+inline constexpr size_t kMinArrayElems = 4096;
 
 struct ArgValue {
     ArgKind kind = ArgKind::U32;

@@ -45,7 +45,7 @@ TOOL
     chmod +x "$bin"/*
 }
 
-all="cmake make g++ libgtest-dev libgmock-dev libbenchmark-dev libedit-dev pkg-config"
+all="cmake make g++ libgtest-dev libgmock-dev libbenchmark-dev libedit-dev pkg-config clang libclang-rt-dev"
 passed=0
 failed=0
 
@@ -86,7 +86,7 @@ check() {
 
 inst="apt-get install -y --no-install-recommends"
 check nothing-missing "$all" 0 "" "" -- deps test
-check two-missing "cmake make g++ libgmock-dev libbenchmark-dev pkg-config" 0 \
+check two-missing "cmake make g++ libgmock-dev libbenchmark-dev pkg-config clang libclang-rt-dev" 0 \
     "apt-get update | $inst libgtest-dev libedit-dev" "installing the missing Debian packages: libgtest-dev libedit-dev" \
     -- deps test
 check all-missing "" 0 "apt-get update | $inst $all" "" -- deps test
