@@ -405,6 +405,10 @@ VQ6192_API int32_t MCARD_IMA_DiagHardwareSetExtraPara(uint32_t chip, uint32_t in
                                                       char *buf);
 VQ6192_API int32_t MCARD_IMA_DiagHardwareSetImaIss(uint32_t chip, uint32_t command, uint32_t group,
                                                    char *buf);
+VQ6192_API int32_t MCARD_IMA_DiagHardwareGet6192Dump(uint32_t chip, uint32_t module, uint32_t object,
+                                                     char *buf);
+VQ6192_API int32_t MCARD_IMA_DiagHardwareGetAtmConnCfg(uint32_t chip, uint32_t connId, uint32_t dir,
+                                                       char *buf);
 VQ6192_API int32_t MCARD_IMA_DiagHardwarePrint6192Table(uint32_t chip, uint32_t tableId, uint32_t object,
                                                         uint32_t word, char *buf);
 

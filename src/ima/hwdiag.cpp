@@ -1,6 +1,12 @@
 // IMA hardware diagnostics: one dispatcher that prints chip tables entry by entry, the IMA processor,
-// transmit and receive tables of a group or link, and issues raw IMA processor commands.
+// transmit and receive tables of a group or link, issues raw IMA processor commands, dumps a module of
+// the chip to a file and prints one ATM connection with its policer and OAM settings.
 #include <cstdio>
+
+#include "vq6192/atm.h"
+#include "vq6192/core.h"
+#include "vq6192/dump.h"
+#include "vq6192/platform.h"
 
 #include "core/table_print.h"
 #include "ima/ima_internal.h"
@@ -408,6 +414,95 @@ bool dumpModuleValid(TextBuilder &t, uint32_t module) {
     return false;
 }
 
+// Where the dump files go on the card; the file name itself is Dump<chip><module, two digits>.log.
+constexpr char kDumpDir[] = "log/";
+constexpr char kDumpChipName[] = "VQ6192";
+
+uint32_t dumpModule(TextBuilder &t, uint32_t chip, uint32_t module) {
+    t.add("\r\nASIC dump\r\n");
+    uintptr_t base = 0;
+    uint32_t rc = VQ6192_Base_GetChipBaseAddr(chip, &base);
+    if (rc != 0) {
+        t.add("ASIC_Base_GetChipBaseAddr return 0x%x\r\n", rc);
+        return rc;
+    }
+    t.add("chip base addr: 0x%x\r\n", static_cast<unsigned>(base));
+    char file[VQ6192_DUMP_FILE_NAME_MAX + 1];
+    snprintf(file, sizeof file, "%sDump%u%02u.log", kDumpDir, chip, module);
+    // The file functions go in first: the dump context refuses to initialise without them.
+    rc = VQ6192_DUMP_RegFileFunc(chip, vq6192_fileopen_func, vq6192_filewrite_func, vq6192_fileclose_func);
+    if (rc != 0) {
+        t.add("ASIC_DUMP_RegFileFunc return 0x%x\r\n", rc);
+        return rc;
+    }
+    rc = VQ6192_DUMP_InitializeDump(chip, kDumpChipName, base, g_VQ6192_ChipDump_DirectReg,
+                                    g_VQ6192_ChipDump_DirectReg_Cnt, g_VQ6192_ChipDump_InDirectReg,
+                                    g_VQ6192_ChipDump_InDirectReg_Cnt, file);
+    if (rc != 0) {
+        t.add("ASIC_DUMP_InitializeDump return 0x%x\r\n", rc);
+        return rc;
+    }
+    // The module number is the group id of its register blocks and table groups.
+    rc = VQ6192_DUMP_Dump(chip, static_cast<int32_t>(module));
+    VQ6192_DUMP_ChipDumpEnd(chip);
+    if (rc != 0) {
+        t.add("ASIC_DUMP_Dump return 0x%x\r\n", rc);
+        return rc;
+    }
+    t.add("dump '%s' finished with a success\r\n", file);
+    return 0;
+}
+
+// One connection read back from the switching tables, in the layout of the connection listing.
+void connRow(TextBuilder &t, const ATM_SRV_CONN &c) {
+    t.add(
+        "| Vcx| Tag| cType| SrcPort| SrcVpi| SrcVci| DstPort| DstVpi| DstVci| Stype| UpcNpc| PolicingId|   "
+        "Qid| "
+        "Clpt|  Fd| Pfd| Red| idx|\n");
+    t.add("|%4u|%4u|%6u|%8u|%7u|%7u|%8u|%7u|%7u|%6u|%7u|%11u|%6u|%5u|%4u|%4u|%4u|%4u| \n", c.Vcx, c.Tag,
+          c.cType, c.SrcPort, c.SrcVpi, c.SrcVci, c.DstPort, c.DstVpi, c.DstVci, c.Stype, c.UpcNpc,
+          c.PolicingId, c.Qid, c.Clpt, c.Fd, c.Pfd, c.Red, c.idx);
+}
+
+uint32_t atmConn(TextBuilder &t, uint32_t chip, uint32_t connId, uint32_t dir) {
+    uint16_t vcx = 0;
+    uint32_t rc = VQ6192_ATM_GetAtmVcx(chip, connId, dir, &vcx);
+    if (rc != 0) {
+        // No connection number for that pair: nothing to show (the ATM layer has traced the refusal).
+        return rc;
+    }
+    t.add("usVcx = %u\r\n", vcx);
+    t.add("Tag: 0 Ingress, 1 Egress, 2 Local\r\n");
+    t.add("cType: 0 VP, 1 VC\r\n");
+    t.add("Stype: 1 CBR, 2 RTVBR, 3 NRTVBR, 4 UBR+, 5 UBR\r\n");
+    ATM_SRV_CONN c{};
+    rc = VQ6192_ATM_GetAtmSrvConn(chip, vcx, &c);
+    connRow(t, c);
+
+    ATM_POLICING_CFG p{};
+    rc |= VQ6192_ATM_GetAtmPolcfg(chip, c.PolicingId, &p);
+    t.add("\r\n----------------POLICY------------------\r\n");
+    t.add("wIncrB      : %4x \r\n", p.wIncrB);
+    t.add("wPBMode     : %4x \r\n", p.wPBMode);
+    t.add("wLimitB     : %4x \r\n", p.wLimitB);
+    t.add("wIncrA      : %4x \r\n", p.wIncrA);
+    t.add("wPAMode     : %4x \r\n", p.wPAMode);
+    t.add("wLimitA     : %4x \r\n", p.wLimitA);
+
+    uint8_t srcType = 0;
+    uint8_t sinkType = 0;
+    uint32_t ccState = 0;
+    uint32_t segEnd = 0;
+    rc |= VQ6192_ATM_GetOamLinkCC(chip, vcx, &srcType, &sinkType, &ccState);
+    rc |= VQ6192_ATM_GetOamSegEnd(chip, vcx, &segEnd);
+    t.add("\r\n---------------OAM SET------------------\r\n");
+    t.add("CC  Type (0 seg, 1 end)                    : %u, %u\r\n", srcType, sinkType);
+    t.add("CC  Flag (0 None,1 src,2 sink,3 src+sink,4 disable src, 5 disable sink)  : %d\r\n",
+          static_cast<int>(ccState));
+    t.add("OAM Type (0 None, 1 seg, 2 end, 3 seg+end) : %d\r\n", static_cast<int>(segEnd));
+    return rc;
+}
+
 bool issCode(uint32_t code) {
     switch (code) {
         case 0:
@@ -576,6 +671,28 @@ VQ6192_API int32_t MCARD_IMA_DiagHardwareSetImaIss(uint32_t chip, uint32_t comma
     return static_cast<int32_t>(rc);
 }
 
+VQ6192_API int32_t MCARD_IMA_DiagHardwareGet6192Dump(uint32_t chip, uint32_t module, uint32_t object,
+                                                     char *buf) {
+    (void)object;  // a module is dumped whole
+    if (refused(chip, buf)) {
+        return kRefused;
+    }
+    vq::TextBuilder t(buf);
+    if (!dumpModuleValid(t, module)) {
+        return 0;
+    }
+    return static_cast<int32_t>(dumpModule(t, chip, module));
+}
+
+VQ6192_API int32_t MCARD_IMA_DiagHardwareGetAtmConnCfg(uint32_t chip, uint32_t connId, uint32_t dir,
+                                                       char *buf) {
+    if (refused(chip, buf)) {
+        return kRefused;
+    }
+    vq::TextBuilder t(buf);
+    return static_cast<int32_t>(atmConn(t, chip, connId, dir));
+}
+
 VQ6192_API int32_t MCARD_IMA_Dbg_ImaHardWareInfo(uint32_t chip, uint32_t type, uint32_t arg1, uint32_t arg2,
                                                  char *buf) {
     if (refused(chip, buf)) {
@@ -596,20 +713,14 @@ VQ6192_API int32_t MCARD_IMA_Dbg_ImaHardWareInfo(uint32_t chip, uint32_t type, u
             return MCARD_IMA_DiagHardwareSetExtraPara(chip, arg1, arg2, buf);
         case 7:
             return MCARD_IMA_DiagHardwareSetImaIss(chip, arg1, arg2, buf);
-        case 1: {  // the chip dump
-            vq::TextBuilder t(buf);
-            if (!dumpModuleValid(t, arg1)) {
-                return 0;
-            }
-            // The dump of a valid module needs the chip dump operations; until they are built the
-            // dispatcher refuses it without output.
-            return kRefused;
-        }
-        case 8:   // ATM connection view
+        case 1:
+            return MCARD_IMA_DiagHardwareGet6192Dump(chip, arg1, arg2, buf);
+        case 8:
+            return MCARD_IMA_DiagHardwareGetAtmConnCfg(chip, arg1, arg2, buf);
         case 9:   // ATM pseudowire view
         case 10:  // ATM drop counters
-            // These views need the chip dump and the ATM operations; until they are built the
-            // dispatcher refuses them without output.
+            // These views need the ATM pseudowire and drop statistics operations; until they are
+            // built the dispatcher refuses them without output.
             return kRefused;
         default: {
             vq::TextBuilder t(buf);

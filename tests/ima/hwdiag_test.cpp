@@ -1,0 +1,222 @@
+// IMA hardware diagnostics that reach other blocks: a module dumped to a file through the chip dump,
+// and one ATM connection with its policer and OAM settings read back from the switching tables.
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "atm/atm_fixture.h"
+#include "support/mem_files.h"
+#include "vq6192/dump.h"
+#include "vq6192/ima.h"
+#include "vq6192/sim/register_window.h"
+
+namespace {
+
+using namespace atmtest;
+
+constexpr uint32_t kTableTimeout = 0x030C0003;
+
+class HwDiagTest : public AtmTest {
+  protected:
+    std::vector<char> buf = std::vector<char>(VQ6192_DIAG_BUF_SIZE);
+    std::string text() const { return std::string(buf.data()); }
+    vqtest::MemFiles files;
+
+    // The chip's registers are the model's register window, so the dump reads them as host memory.
+    uintptr_t useWindow() {
+        VQ6192_INSTALL_PARA p = model.installPara(kChip, false);
+        p.ulBaseAddr = model.block<vq6192::sim::RegisterWindow>().base();
+        reinstall(p);
+        return p.ulBaseAddr;
+    }
+};
+
+std::string hex(uintptr_t v) {
+    char s[32];
+    snprintf(s, sizeof s, "0x%x", static_cast<unsigned>(v));
+    return s;
+}
+
+TEST_F(HwDiagTest, DumpWritesTheModuleToItsOwnFile) {
+    const uintptr_t base = useWindow();
+    const VQ6192_PLATFORM_FILE_HOOKS hooks = vqtest::MemFiles::platformHooks();
+    VQ6192_Platform_SetFileHooks(&hooks);
+    // Twice: the second dump starts its file again rather than appending to the first.
+    for (int round = 0; round < 2; ++round) {
+        ASSERT_EQ(MCARD_IMA_Dbg_ImaHardWareInfo(kChip, 1, 7, 99, buf.data()), 0);
+        EXPECT_EQ(text(), "\r\nASIC dump\r\nchip base addr: " + hex(base) +
+                              "\r\ndump 'log/Dump307.log' finished with a success\r\n");
+    }
+    ASSERT_EQ(MCARD_IMA_DiagHardwareGet6192Dump(kChip, 11, 0, buf.data()), 0);
+    EXPECT_NE(text().find("dump 'log/Dump311.log' finished with a success\r\n"), std::string::npos);
+    VQ6192_Platform_SetFileHooks(nullptr);
+
+    // Header, then the DDR2C register block alone: one range of registers 0x00..0xC9.
+    const std::vector<uint8_t> &f = files.file("log/Dump307.log");
+    ASSERT_EQ(f.size(), 48u + 24 + 6 + 2 * 0xCA);
+    EXPECT_EQ(f[0], 0x7E);
+    EXPECT_EQ(std::string(f.begin() + 1, f.begin() + 26), "DUMPlog/Dump307.logVQ6192");
+    EXPECT_EQ(f[26], 0);
+    EXPECT_EQ(f[48], 0xF0);
+    EXPECT_EQ(std::string(f.begin() + 49, f.begin() + 54), "DDR2C");
+}
+
+TEST_F(HwDiagTest, DumpFailuresAndModuleList) {
+    struct Case {
+        const char *name;
+        uint32_t chip, module;
+        int32_t rc;
+        std::string text;
+    };
+    const std::string list =
+        "  1.  GLB_CFG\r\n  2.  IMA\r\n  3.  PPP\r\n  4.  ATM\r\n  5.  CES\r\n  6.  SAM\r\n  7.  DDR2C\r\n"
+        "  8.  MDDRC\r\n  9.  ETH\r\n  10. TS\r\n  11. E1Map\r\n";
+    const Case cases[] = {
+        {"module 0", kChip, 0, 0,
+         "module ID(0) is invalid. all valid module IDs are listed below:\r\n" + list},
+        {"module 12", kChip, 12, 0,
+         "module ID(12) is invalid. all valid module IDs are listed below:\r\n" + list},
+        // Without host file functions the library's hooks give no file, and the last flush fails.
+        {"no file", kChip, 4, 0x030B0002,
+         "\r\nASIC dump\r\nchip base addr: 0x0\r\nASIC_DUMP_Dump return 0x30b0002\r\n"},
+        // A chip that is not installed has no dump context.
+        {"not installed", 5, 4, 0x050B0001,
+         "\r\nASIC dump\r\nchip base addr: 0x0\r\nASIC_DUMP_RegFileFunc return 0x50b0001\r\n"},
+        {"chip 34", 34, 4, -1, ""},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.name);
+        buf[0] = '\0';
+        model.clearTrace();
+        EXPECT_EQ(MCARD_IMA_Dbg_ImaHardWareInfo(k.chip, 1, k.module, 0, buf.data()), k.rc);
+        EXPECT_EQ(text(), k.text);
+        if (k.module == 0 || k.module == 12 || k.chip != kChip) {
+            EXPECT_TRUE(model.trace().empty());
+        }
+    }
+    EXPECT_EQ(MCARD_IMA_DiagHardwareGet6192Dump(kChip, 4, 0, nullptr), -1);
+    EXPECT_TRUE(files.calls.empty());
+}
+
+// The connection with every field distinct, laid straight into the chip's tables.
+struct Laid {
+    uint32_t vcx, tcamPort, dir, lineNni;
+    uint16_t dstVpi;
+    uint32_t tag, srcPort;
+};
+
+class ConnViewTest : public HwDiagTest {
+  protected:
+    void lay(const Laid &l) {
+        setBits(kTcam, l.vcx, 0, 16, 0x1234);
+        setBits(kTcam, l.vcx, 16, 12, 0xABC);
+        setBits(kTcam, l.vcx, 28, 12, l.tcamPort);
+        setBits(kVct, l.vcx, 0, 1, 1);
+        setBits(kVct, l.vcx, 1, 16, 0xFEDC);
+        setBits(kVct, l.vcx, 17, 8, 0xA7);
+        setBits(kVct, l.vcx, 25, 4, 0x5);
+        setBits(kVct, l.vcx, 29, 11, 300);
+        setBits(kVct, l.vcx, 40, 1, l.dir);
+        setBits(kVct, l.vcx, 41, 1, 1);
+        setBits(kVct, l.vcx, 46, 6, 0b101110);  // Seg, CC source and sink, source end-to-end
+        setBits(kVct, l.vcx, 52, 1, 1);
+        setBits(kVct, l.vcx, 53, 13, 0x1234);
+        setBits(kVct, l.vcx, 66, 3, 3);
+        setBits(l.dir ? kLpct : kSpct, 300, l.dir ? 2 : 1, 1, l.lineNni);
+        setBits(kLinkQm, l.vcx, 0, 13, 77);
+        setBits(kBmPvc, l.vcx, 0, 10, 63 | 1u << 7 | 1u << 9);
+        // Policer 0x1234: limit A, mode A, increment A, limit B, mode B, increment B.
+        setBits(kPolCfg, 0x1234, 0, 8, 0xAB);
+        setBits(kPolCfg, 0x1234, 8, 3, 5);
+        setBits(kPolCfg, 0x1234, 11, 15, 0x1ABC);
+        setBits(kPolCfg, 0x1234, 26, 8, 0xCD);
+        setBits(kPolCfg, 0x1234, 34, 3, 6);
+        setBits(kPolCfg, 0x1234, 37, 15, 0x2DEF);
+    }
+    static std::string row(const Laid &l) {
+        char s[256];
+        snprintf(s, sizeof s, "|%4u|%4u|%6u|%8u|%7u|%7u|%8u|%7u|%7u|%6u|%7u|%11u|%6u|%5u|%4u|%4u|%4u|%4u| \n",
+                 l.vcx, l.tag, 1u, l.srcPort, 0xABCu, 0x1234u, 300u, unsigned{l.dstVpi}, 0xFEDCu, 3u, 1u,
+                 0x1234u, 77u, 1u, 0u, 1u, 0u, 63u);
+        return s;
+    }
+};
+
+TEST_F(ConnViewTest, ConnectionPolicerAndOam) {
+    const std::string tail =
+        "\r\n----------------POLICY------------------\r\n"
+        "wIncrB      : 2def \r\n"
+        "wPBMode     :    6 \r\n"
+        "wLimitB     :   cd \r\n"
+        "wIncrA      : 1abc \r\n"
+        "wPAMode     :    5 \r\n"
+        "wLimitA     :   ab \r\n"
+        "\r\n---------------OAM SET------------------\r\n"
+        "CC  Type (0 seg, 1 end)                    : 1, 0\r\n"
+        "CC  Flag (0 None,1 src,2 sink,3 src+sink,4 disable src, 5 disable sink)  : 3\r\n"
+        "OAM Type (0 None, 1 seg, 2 end, 3 seg+end) : 1\r\n";
+    struct Case {
+        const char *name;
+        uint32_t link, dir;
+        Laid laid;
+    };
+    const Case cases[] = {
+        // Egress leg of link 10 from system port 1500 to NNI line port 300: a 12-bit VPI.
+        {"egress NNI", 10, 1, {21, 2048 + 1500, 1, 1, 0x5A7, 1, 1500}},
+        // Ingress leg of link 4095 from line port 7 to UNI system port 300: an 8-bit VPI.
+        {"ingress UNI", 4095, 0, {8190, 7, 0, 0, 0xA7, 0, 7}},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.name);
+        model.tables().clear();
+        lay(k.laid);
+        ASSERT_EQ(MCARD_IMA_Dbg_ImaHardWareInfo(kChip, 8, k.link, k.dir, buf.data()), 0);
+        EXPECT_EQ(text(),
+                  "usVcx = " + std::to_string(k.laid.vcx) +
+                      "\r\n"
+                      "Tag: 0 Ingress, 1 Egress, 2 Local\r\n"
+                      "cType: 0 VP, 1 VC\r\n"
+                      "Stype: 1 CBR, 2 RTVBR, 3 NRTVBR, 4 UBR+, 5 UBR\r\n"
+                      "| Vcx| Tag| cType| SrcPort| SrcVpi| SrcVci| DstPort| DstVpi| DstVci| Stype| UpcNpc| "
+                      "PolicingId|   Qid| Clpt|  Fd| Pfd| Red| idx|\n" +
+                      row(k.laid) + tail);
+        EXPECT_EQ(tableCommands() - model.tables().readsExecuted(kAtmBlock), 0u) << "reads only";
+    }
+}
+
+TEST_F(ConnViewTest, RefusalsAndFailingReads) {
+    struct Case {
+        const char *name;
+        uint32_t chip, link, dir;
+        bool buffer;
+        int32_t rc;
+    };
+    const Case cases[] = {
+        {"chip 34", 34, 0, 0, true, -1},
+        {"no buffer", kChip, 0, 0, false, -1},
+        {"link 4096", kChip, 4096, 0, true, static_cast<int32_t>(kPara)},
+        {"direction 2", kChip, 1, 2, true, static_cast<int32_t>(kPara)},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.name);
+        buf[0] = '\0';
+        model.clearTrace();
+        EXPECT_EQ(MCARD_IMA_DiagHardwareGetAtmConnCfg(k.chip, k.link, k.dir, k.buffer ? buf.data() : nullptr),
+                  k.rc);
+        EXPECT_EQ(text(), "");
+        EXPECT_TRUE(model.trace().empty());
+    }
+
+    // The policer read (the sixth table command) never completes: the rest is printed as read, and
+    // the table time-out is returned.
+    lay({21, 2048 + 1500, 1, 1, 0x5A7, 1, 1500});
+    model.tables().failCommand(kAtmBlock, 6);
+    EXPECT_EQ(MCARD_IMA_DiagHardwareGetAtmConnCfg(kChip, 10, 1, buf.data()),
+              static_cast<int32_t>(kTableTimeout));
+    model.tables().failCommand(kAtmBlock, 0);
+    model.tables().holdBusy(kAtmBlock, 0);
+    EXPECT_NE(text().find(row({21, 2048 + 1500, 1, 1, 0x5A7, 1, 1500})), std::string::npos);
+    EXPECT_NE(text().find("wIncrB      :    0 \r\n"), std::string::npos);
+}
+
+}  // namespace
