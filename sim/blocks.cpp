@@ -2,7 +2,9 @@
 #include "vq6192/sim.h"
 #include "vq6192/sim/ces.h"
 #include "vq6192/sim/chip_control.h"
+#include "vq6192/sim/clocks.h"
 #include "vq6192/sim/ddr.h"
+#include "vq6192/sim/ddr_ctrl.h"
 #include "vq6192/sim/framers.h"
 #include "vq6192/sim/interrupts.h"
 #include "vq6192/sim/ram_bist.h"
@@ -16,6 +18,8 @@ void installBlocks(ChipModel &model) {
     model.block<DdrBlock>();
     model.block<Framers>();
     model.block<CesBlock>();
+    model.block<ClockBlock>();
+    model.block<DdrCtrlBlock>();
 }
 
 }  // namespace vq6192::sim
