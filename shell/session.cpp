@@ -8,6 +8,7 @@
 #include <cstring>
 #include <map>
 
+#include "chip/bringup.h"
 #include "core/entry_field.h"
 #include "core/table_print.h"
 #include "diag/registry.h"
@@ -19,12 +20,6 @@ namespace {
 constexpr size_t kGuard = 64;
 constexpr char kGuardByte = '\x5A';
 constexpr uint32_t kMaxDumpRegs = 4096;
-
-// Chip bring-up runs here once the chip initialisation operation exists; until then a chip on the
-// model starts from its power-on register values.
-uint32_t bringUpChip(uint32_t /*chip*/) {
-    return 0;
-}
 
 std::string lower(std::string_view s) {
     std::string out(s);
@@ -89,6 +84,7 @@ struct Session::Chip {
     void *window = nullptr;
     size_t windowSize = 0;
     int fd = -1;
+    bool up = false;  // brought up by this session
 };
 
 struct Session::Builtin {
@@ -167,12 +163,48 @@ bool Session::start(const SessionOptions &options) {
             return false;
         }
         chips_.push_back(std::move(chip));
-        if (options.bringUp && bringUpChip(id) != 0) {
-            err_ << "error: chip " << id << " did not come up\n";
+        // Only chips on the model are brought up: a mapped chip may be carrying traffic already.
+        if (options.bringUp && chips_.back()->model != nullptr &&
+            !bringUp(*chips_.back(), options.progress)) {
             return false;
         }
     }
     return true;
+}
+
+// Full bring-up of a chip on the model (E1, no DDR test), step by step. The model has no real time, so
+// the waits run on the virtual clock.
+bool Session::bringUp(Chip &chip, bool progress) {
+    const vq::chip::BringUpRun run{chip.id, VQ6192_BASE_INIT_FULL, VQ6192_BASE_TDM_E1, 0, 0, nullptr};
+    const uint32_t virtualClock = VQ6192_Platform_GetVirtualClock();
+    VQ6192_Platform_SetVirtualClock(1);
+    uint32_t rc = 0;
+    for (const auto &step : vq::chip::bringUpSteps()) {
+        if (!vq::chip::stepRuns(step, run)) {
+            continue;
+        }
+        rc = step.run(run);
+        if (progress) {
+            char line[80];
+            std::snprintf(line, sizeof line, "chip %u bring-up: %-16s %s\n", chip.id, step.name,
+                          rc == 0 ? "ok" : "FAILED");
+            out_ << line << std::flush;
+        }
+        if (rc != 0) {
+            break;
+        }
+    }
+    VQ6192_Platform_SetVirtualClock(virtualClock);
+    if (rc != 0) {
+        err_ << "error: chip " << chip.id << " did not come up: " << describeStatus(rc) << "\n";
+        return false;
+    }
+    chip.up = true;
+    return true;
+}
+
+bool Session::broughtUp(uint32_t chip) const {
+    return chip < chips_.size() && chips_[chip]->up;
 }
 
 vq6192::sim::ChipModel *Session::model(uint32_t chip) const {

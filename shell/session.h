@@ -25,7 +25,8 @@ struct MappedWindow {
 
 struct SessionOptions {
     uint32_t chips = 1;                // chips 0..chips-1 on chip models
-    bool bringUp = true;               // bring each chip up after installing it
+    bool bringUp = true;               // bring each chip on the model up after installing it
+    bool progress = false;             // a line per bring-up step (when output is a terminal)
     bool echo = false;                 // print each command before its output
     std::vector<MappedWindow> mapped;  // further chips, numbered after the modelled ones
 };
@@ -51,10 +52,14 @@ class Session {
 
     vq6192::sim::ChipModel *model(uint32_t chip) const;
 
+    // True when this session brought the chip up (it answers for the banner).
+    bool broughtUp(uint32_t chip) const;
+
   private:
     struct Builtin;
     struct Chip;
 
+    bool bringUp(Chip &chip, bool progress);
     bool runCommand(const std::string &command);
     bool runRegistered(const std::vector<std::string> &words);
     bool runBuiltin(const Builtin &b, const std::vector<std::string> &words);

@@ -17,19 +17,20 @@ struct BringUpRun {
     const void *ddrOption;
 };
 
-// One step: a short name for progress lines, whether module restore runs it too, and its body, which
-// returns 0 or the bring-up's failure status.
+// One step: a short name for progress lines, whether module restore runs it too, whether it runs only
+// when the DDR test is asked for, and its body, which returns 0 or the bring-up's failure status.
 struct BringUpStep {
     const char *name;
     bool restore;
+    bool ddrTestOnly;
     uint32_t (*run)(const BringUpRun &run);
 };
 
 // Every step, in order.
 std::span<const BringUpStep> bringUpSteps();
 
-inline bool stepRuns(const BringUpStep &step, uint32_t mode) {
-    return mode == 1 || step.restore;
+inline bool stepRuns(const BringUpStep &step, const BringUpRun &run) {
+    return (run.mode == 1 || step.restore) && (!step.ddrTestOnly || run.ddrTest == 1);
 }
 
 // The argument check of VQ6192_Base_Initialize: 0 or the parameter error (traced).

@@ -93,9 +93,6 @@ uint32_t ddrStart(const BringUpRun &r) {
 }
 
 uint32_t ddrTest(const BringUpRun &r) {
-    if (r.ddrTest != 1) {
-        return 0;
-    }
     uint8_t failed = 1;
     uint32_t rc = VQ6192_Base_DDR9StepTest(r.chip, kDdrTestPattern, &failed);
     if (rc == 0 && failed != 0) {
@@ -178,15 +175,23 @@ uint32_t framerChannels(const BringUpRun &r) {
 //     VQ6192_ATM_InitAtm, VQ6192_PPP_InitPppModule, VQ6192_IMA_InitIma),
 //   - the Ethernet initialiser after the framers (VQ6192_ETH_ETHInit),
 //   - enabling MAC ports 1 and 2 at the end (VQ6192_ETH_SetMACAttr).
+// clang-format off
 constexpr BringUpStep kSteps[] = {
-    // name              restore  body
-    {"settle", false, settle},        {"PLLs", false, plls},
-    {"TDM mode", false, tdmMode},     {"module clocks", false, moduleClocks},
-    {"chip reset", false, chipReset}, {"register test", false, registerTest},
-    {"DDR start", false, ddrStart},   {"DDR test", false, ddrTest},
-    {"CES", true, cesInit},           {"framers", true, framerInit},
-    {"SerDes", false, serdesStart},   {"framer channels", false, framerChannels},
+    // name              restore  DDR test only  body
+    {"settle",           false,   false,         settle},
+    {"PLLs",             false,   false,         plls},
+    {"TDM mode",         false,   false,         tdmMode},
+    {"module clocks",    false,   false,         moduleClocks},
+    {"chip reset",       false,   false,         chipReset},
+    {"register test",    false,   false,         registerTest},
+    {"DDR start",        false,   false,         ddrStart},
+    {"DDR test",         false,   true,          ddrTest},
+    {"CES",              true,    false,         cesInit},
+    {"framers",          true,    false,         framerInit},
+    {"SerDes",           false,   false,         serdesStart},
+    {"framer channels",  false,   false,         framerChannels},
 };
+// clang-format on
 
 }  // namespace
 
@@ -215,7 +220,7 @@ VQ6192_API uint32_t VQ6192_Base_Initialize(uint32_t chip, uint32_t mode, uint32_
         return rc;
     }
     for (const BringUpStep &step : kSteps) {
-        if (!stepRuns(step, mode)) {
+        if (!stepRuns(step, run)) {
             continue;
         }
         if (const uint32_t rc = step.run(run); rc != 0) {
