@@ -5,9 +5,14 @@
 #include "vq6192/sim/clocks.h"
 #include "vq6192/sim/ddr.h"
 #include "vq6192/sim/ddr_ctrl.h"
+#include "vq6192/sim/eth.h"
 #include "vq6192/sim/framers.h"
 #include "vq6192/sim/interrupts.h"
+#include "vq6192/sim/mac.h"
 #include "vq6192/sim/ram_bist.h"
+#include "vq6192/sim/sam.h"
+#include "vq6192/sim/sdh_paths.h"
+#include "vq6192/sim/telecom.h"
 
 namespace vq6192::sim {
 
@@ -18,6 +23,11 @@ void installBlocks(ChipModel &model) {
     model.block<DdrBlock>();
     model.block<Framers>();
     model.block<CesBlock>();
+    model.block<SdhPaths>();
+    model.block<TelecomBus>();
+    model.block<SamBlock>();
+    model.block<EthBlock>();
+    model.block<MacBlock>();
     model.block<ClockBlock>();
     model.block<DdrCtrlBlock>();
 }

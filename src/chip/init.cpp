@@ -2,11 +2,15 @@
 // initialisers, SerDes start, framer channel resets; and the module restore that reruns only the
 // initialisers.
 #include "chip/bringup.h"
+
+#include <cstddef>
+
 #include "chip/chip_util.h"
 #include "chip/init_regs.h"
 #include "platform/osal.h"
 #include "vq6192/ces.h"
 #include "vq6192/chip.h"
+#include "vq6192/eth.h"
 #include "vq6192/framer.h"
 
 using namespace vq::chip;
@@ -61,6 +65,49 @@ uint32_t tdmMode(const BringUpRun &r) {
     return checked(r, "VQ6192_Framer_SetFrmTDMMode", VQ6192_Framer_SetFrmTDMMode(r.chip, r.tdmMode));
 }
 
+// The MAC attribute record as the chip documentation numbers its bytes: byte 0 the port enable,
+// bytes 52..54 the three preamble lengths.
+static_assert(offsetof(VQ6192_ETH_MAC_ATTR_S, byPortEn) == 0);
+static_assert(offsetof(VQ6192_ETH_MAC_ATTR_S, byNoRmiiPreamble) == 52);
+static_assert(offsetof(VQ6192_ETH_MAC_ATTR_S, byNoMiiPreamble) == 53);
+static_assert(offsetof(VQ6192_ETH_MAC_ATTR_S, byNoGmiiPreamble) == 54);
+constexpr uint32_t kMacPorts[] = {1, 2};
+constexpr uint8_t kMacPreamble = 3;
+
+// Before the clocks come on: both MAC ports disabled with preamble lengths of 3.
+uint32_t macAttributes(const BringUpRun &r) {
+    VQ6192_ETH_MAC_ATTR_S value{};
+    value.byNoRmiiPreamble = kMacPreamble;
+    value.byNoMiiPreamble = kMacPreamble;
+    value.byNoGmiiPreamble = kMacPreamble;
+    VQ6192_ETH_MAC_ATTR_S select{};
+    select.byPortEn = 1;
+    select.byNoRmiiPreamble = 1;
+    select.byNoMiiPreamble = 1;
+    select.byNoGmiiPreamble = 1;
+    for (uint32_t port : kMacPorts) {
+        if (const uint32_t rc = VQ6192_ETH_SetMACAttr(r.chip, port, &value, &select); rc != 0) {
+            return callFailed(r, "VQ6192_ETH_SetMACAttr", rc);
+        }
+    }
+    return 0;
+}
+
+// Last step: both MAC ports enabled. Port 2 failing is told apart from every earlier failure.
+uint32_t macPorts(const BringUpRun &r) {
+    VQ6192_ETH_MAC_ATTR_S value{};
+    value.byPortEn = 1;
+    VQ6192_ETH_MAC_ATTR_S select{};
+    select.byPortEn = 1;
+    for (uint32_t port : kMacPorts) {
+        if (const uint32_t rc = VQ6192_ETH_SetMACAttr(r.chip, port, &value, &select); rc != 0) {
+            callFailed(r, "VQ6192_ETH_SetMACAttr", rc);
+            return port == 1 ? stepFailed(r) : baseStatus(r.chip, kErrFailed);
+        }
+    }
+    return 0;
+}
+
 uint32_t moduleClocks(const BringUpRun &r) {
     const uint32_t keep = VQ6192_ReadReg(r.chip, kModuleClockReg) & kClockKeepMask;
     VQ6192_WriteReg(r.chip, kModuleClockReg, keep | kClocksOnButFive);
@@ -107,6 +154,10 @@ uint32_t cesInit(const BringUpRun &r) {
 
 uint32_t framerInit(const BringUpRun &r) {
     return checked(r, "VQ6192_Framer_FrmInit", VQ6192_Framer_FrmInit(r.chip, r.mode, r.frmOption & 0xFFu));
+}
+
+uint32_t ethInit(const BringUpRun &r) {
+    return checked(r, "VQ6192_ETH_ETHInit", VQ6192_ETH_ETHInit(r.chip, r.mode));
 }
 
 // SerDes start: hold both lanes in reset, configure them, calibrate, release, then wait (at most three
@@ -170,17 +221,15 @@ uint32_t framerChannels(const BringUpRun &r) {
 
 // The bring-up sequence. Steps whose operations this library does not have yet are left out here,
 // and only here:
-//   - MAC attributes of ports 1 and 2 before the clocks (VQ6192_ETH_SetMACAttr),
 //   - the ATM pseudowire, ATM, PPP and IMA initialisers before CES (VQ6192_ATM_AtmPwe3Init,
-//     VQ6192_ATM_InitAtm, VQ6192_PPP_InitPppModule, VQ6192_IMA_InitIma),
-//   - the Ethernet initialiser after the framers (VQ6192_ETH_ETHInit),
-//   - enabling MAC ports 1 and 2 at the end (VQ6192_ETH_SetMACAttr).
+//     VQ6192_ATM_InitAtm, VQ6192_PPP_InitPppModule, VQ6192_IMA_InitIma).
 // clang-format off
 constexpr BringUpStep kSteps[] = {
     // name              restore  DDR test only  body
     {"settle",           false,   false,         settle},
     {"PLLs",             false,   false,         plls},
     {"TDM mode",         false,   false,         tdmMode},
+    {"MAC attributes",   false,   false,         macAttributes},
     {"module clocks",    false,   false,         moduleClocks},
     {"chip reset",       false,   false,         chipReset},
     {"register test",    false,   false,         registerTest},
@@ -188,8 +237,10 @@ constexpr BringUpStep kSteps[] = {
     {"DDR test",         false,   true,          ddrTest},
     {"CES",              true,    false,         cesInit},
     {"framers",          true,    false,         framerInit},
+    {"Ethernet",         true,    false,         ethInit},
     {"SerDes",           false,   false,         serdesStart},
     {"framer channels",  false,   false,         framerChannels},
+    {"MAC ports",        false,   false,         macPorts},
 };
 // clang-format on
 

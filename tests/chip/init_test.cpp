@@ -2,11 +2,14 @@
 // bring-up in both modes with its failures.
 #include <algorithm>
 
+#include "chip/bringup.h"
 #include "chip_fixture.h"
 #include "vq6192/ces.h"
+#include "vq6192/eth.h"
 #include "vq6192/framer.h"
 #include "vq6192/sim/clocks.h"
 #include "vq6192/sim/ddr_ctrl.h"
+#include "vq6192/sim/mac.h"
 
 namespace {
 
@@ -375,6 +378,7 @@ TEST_F(Init, FullBringUpOrderAndWaits) {
     VQ6192_Platform_ResetVirtualTime();
     ASSERT_EQ(VQ6192_CES_InitCesModule(kChip, 1), 0u);
     ASSERT_EQ(VQ6192_Framer_FrmInit(kChip, 1, 0), 0u);
+    ASSERT_EQ(VQ6192_ETH_ETHInit(kChip, 1), 0u);
     const uint64_t initialisers = VQ6192_Platform_GetVirtualTimeUs();
 
     model.poke(0x06, 0x8020);
@@ -396,6 +400,28 @@ TEST_F(Init, FullBringUpOrderAndWaits) {
     EXPECT_EQ(model.peek(0x08), 0xFFC0);
     EXPECT_EQ(model.peek(0x0A) & 0x3000, 0);
     EXPECT_EQ(clocks().serdesLockReads(), 1u);
+}
+
+TEST_F(Init, MacPortsGetPreamblesThenComeUp) {
+    auto &mac = model.block<vq6192::sim::MacBlock>();
+    for (uint32_t port : {1u, 2u}) {
+        mac.setReg(port, 13, 0xFFFFFFFF);   // preamble lengths, bits 0..4, 8..12, 16..20
+        mac.setReg(port, 105, 0xFFFFFFFE);  // port enable, bit 0
+    }
+    // Stopped right after the clocks: preambles of 3 written, ports still disabled.
+    model.block<vq6192::sim::ChipControlBlock>().setNonInvertingBits(0xFFFF);
+    EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), kStepFailed);
+    for (uint32_t port : {1u, 2u}) {
+        SCOPED_TRACE(port);
+        EXPECT_EQ(mac.reg(port, 13), 0xFFE3E3E3u);
+        EXPECT_EQ(mac.reg(port, 105), 0xFFFFFFFEu);
+    }
+    control().setNonInvertingBits(0);
+    EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), 0u);
+    for (uint32_t port : {1u, 2u}) {
+        SCOPED_TRACE(port);
+        EXPECT_EQ(mac.reg(port, 105), 0xFFFFFFFFu);
+    }
 }
 
 TEST_F(Init, SerdesStartSequence) {
@@ -453,7 +479,7 @@ TEST_F(Init, BringUpFailures) {
         std::function<void()> fault;
         uint32_t tdm, ddrTest, frmOption;
         uint32_t rc;
-        std::string trace;  // a line the failure traces ("" for none of the bring-up's own)
+        std::string trace;  // a line the failure traces, or the name of the failing call
     };
     const Case cases[] = {
         {"PLL2 unlocked", [this] { clocks().setPllLocked(2, false); }, 0, 0, 0, kStepFailed,
@@ -472,13 +498,10 @@ TEST_F(Init, BringUpFailures) {
          },
          0, 1, 0, kStepFailed,
          "Err. VQ6192_Base_Initialize.  VQ6192_Base_DDR9StepTest ErrCode[0x3010007]\r\n"},
-        {"CES tables stuck",
-         [this] {
-             for (uint32_t b : vq6192::sim::TableEngine::blocks()) {
-                 model.tables().holdBusy(b, vq6192::sim::TableEngine::kForever);
-             }
-         },
-         0, 0, 0, kStepFailed, ""},
+        {"MAC tables stuck", [this] { model.tables().holdBusy(0x4000, vq6192::sim::TableEngine::kForever); },
+         0, 0, 0, kStepFailed, "VQ6192_ETH_SetMACAttr"},
+        {"CES tables stuck", [this] { model.tables().holdBusy(0xA000, vq6192::sim::TableEngine::kForever); },
+         0, 0, 0, kStepFailed, "VQ6192_CES_InitCesModule"},
         {"framer option low byte 2", [] {}, 0, 0, 0x0102, kStepFailed,
          "Err. VQ6192_Base_Initialize.  VQ6192_Framer_FrmInit ErrCode[0x30e0001]\r\n"},
     };
@@ -489,14 +512,15 @@ TEST_F(Init, BringUpFailures) {
         const auto t = traced([&] {
             EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, c.tdm, c.ddrTest, c.frmOption, nullptr), c.rc);
         });
-        if (!c.trace.empty()) {
+        if (c.trace.rfind("Err. ", 0) == 0) {
             EXPECT_TRUE(contains(capture.traceTexts(), c.trace))
                 << ::testing::PrintToString(capture.traceTexts());
         } else {
+            const std::string prefix = "Err. VQ6192_Base_Initialize.  " + c.trace + " ErrCode[";
             const auto texts = capture.traceTexts();
-            EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [](const std::string &s) {
-                return s.rfind("Err. VQ6192_Base_Initialize.  VQ6192_CES_InitCesModule ErrCode[", 0) == 0;
-            }));
+            EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [&](const std::string &s) {
+                return s.rfind(prefix, 0) == 0;
+            })) << ::testing::PrintToString(texts);
         }
         // Bring-up stops at the failing step: the SerDes are never started.
         EXPECT_FALSE(wrote(t, 0x200));
@@ -506,9 +530,8 @@ TEST_F(Init, BringUpFailures) {
         ddrCtrl().setBusyReads(0);
         ddrCtrl().setTraining(15);
         ddr().passScan();
-        for (uint32_t b : vq6192::sim::TableEngine::blocks()) {
-            model.tables().holdBusy(b, 0);
-        }
+        model.tables().holdBusy(0x4000, 0);
+        model.tables().holdBusy(0xA000, 0);
     }
     // With the scan passing, the DDR test runs and bring-up completes.
     EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 1, 0, nullptr), 0u);
@@ -519,6 +542,7 @@ TEST_F(Init, RestoreRunsOnlyTheModuleInitialisers) {
     const auto direct = traced([&] {
         EXPECT_EQ(VQ6192_CES_InitCesModule(kChip, 2), 0u);
         EXPECT_EQ(VQ6192_Framer_FrmInit(kChip, 2, 0), 0u);
+        EXPECT_EQ(VQ6192_ETH_ETHInit(kChip, 2), 0u);
     });
     VQ6192_Platform_ResetVirtualTime();
     const auto restore = traced([&] { EXPECT_EQ(VQ6192_Base_Initialize(kChip, 2, 1, 1, 0, nullptr), 0u); });
@@ -527,6 +551,34 @@ TEST_F(Init, RestoreRunsOnlyTheModuleInitialisers) {
     EXPECT_EQ(ddr().scansStarted(), 0u);
     // A failing initialiser ends the restore with the step failure.
     EXPECT_EQ(VQ6192_Base_Initialize(kChip, 2, 0, 0, 0x02, nullptr), kStepFailed);
+}
+
+TEST_F(Init, MacPortFailuresAreToldApart) {
+    ASSERT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), 0u);
+    const auto steps = vq::chip::bringUpSteps();
+    const auto ports = std::find_if(steps.begin(), steps.end(),
+                                    [](const auto &s) { return std::string(s.name) == "MAC ports"; });
+    ASSERT_NE(ports, steps.end());
+    EXPECT_EQ(ports, steps.end() - 1);  // the last step
+    // A lock failure injected ever later in the step: port 1 fails first, then port 2, then nothing.
+    const vq::chip::BringUpRun run{kChip, 1, 0, 0, 0, nullptr};
+    std::vector<uint32_t> seen;
+    for (uint32_t after = 0; after < 64; ++after) {
+        VQ6192_Platform_FailSemTakes(after, 1);
+        const uint32_t rc = ports->run(run);
+        VQ6192_Platform_FailSemTakes(0, 0);
+        if (seen.empty() || seen.back() != rc) {
+            seen.push_back(rc);
+        }
+        if (rc == 0) {
+            break;
+        }
+    }
+    EXPECT_EQ(seen, (std::vector<uint32_t>{kStepFailed, kBaseFailed, 0}));
+    const auto texts = capture.traceTexts();
+    EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [](const std::string &s) {
+        return s.rfind("Err. VQ6192_Base_Initialize.  VQ6192_ETH_SetMACAttr ErrCode[", 0) == 0;
+    }));
 }
 
 }  // namespace

@@ -158,7 +158,7 @@ TEST(ShellBringUp, ChipsOnTheModelComeUpWithAProgressLinePerStep) {
         uint16_t clocks;  // reg 0x06: every module clock but module 5's once up
     };
     const Case cases[] = {
-        {"terminal", true, true, 2 * 11, 0x7FDF},
+        {"terminal", true, true, 2 * 14, 0x7FDF},
         {"pipe", true, false, 0, 0x7FDF},
         {"no bring-up", false, true, 0, 0},
     };
@@ -183,7 +183,7 @@ TEST(ShellBringUp, ChipsOnTheModelComeUpWithAProgressLinePerStep) {
         EXPECT_EQ(static_cast<size_t>(std::count(text.begin(), text.end(), '\n')), c.lines);
         if (c.lines != 0) {
             EXPECT_EQ(text.substr(0, 37), "chip 0 bring-up: settle           ok\n");
-            EXPECT_EQ(text.substr(text.size() - 37), "chip 1 bring-up: framer channels  ok\n");
+            EXPECT_EQ(text.substr(text.size() - 37), "chip 1 bring-up: MAC ports        ok\n");
         }
         EXPECT_TRUE(err.str().empty());
         // The waits ran on the virtual clock, which the test had switched on and still has.

@@ -1,0 +1,398 @@
+// Path overhead bytes through their pages, insertion enables, error insertion and its refusals,
+// REI / enhanced RDI modes and consequent actions.
+#include <functional>
+
+#include "support/test_support.h"
+#include "vq6192/sdh.h"
+#include "vq6192/sim/sdh_paths.h"
+
+namespace {
+
+using Page = vq6192::sim::SdhPaths::Page;
+using vqtest::ChipTest;
+
+constexpr uint32_t kParaErr = 0x03080001;
+constexpr uint32_t kPrereqErr = 0x03080004;
+
+uint32_t th(uint32_t n) {
+    return 0x2DCC0 + 0x20 * n;
+}
+uint32_t hr(uint32_t n) {
+    return 0x2C040 + 0x40 * n;
+}
+uint32_t lr(uint32_t v, uint32_t c) {
+    return 0x2C380 + 0x4000 * v + 0x40 * c;
+}
+uint32_t lt(uint32_t v, uint32_t c) {
+    return 0x2DE60 + 0x4000 * v + 8 * c;
+}
+
+class SdhOverheadTest : public ChipTest {
+  protected:
+    vq6192::sim::SdhPaths &paths() { return model.block<vq6192::sim::SdhPaths>(); }
+};
+
+TEST_F(SdhOverheadTest, HighOrderBytesAndTheirInsertionEnables) {
+    struct Case {
+        uint32_t type;
+        uint32_t reg;   // paged byte register
+        int enableBit;  // TH(n)+4 bit, -1 none
+    };
+    const Case cases[] = {{0, 0x2DCA2, 4},  {1, 0x2DCA6, 8},  {2, 0x2DCAA, 6}, {3, 0x2DCA8, 10},
+                          {4, 0x2DCAC, 12}, {5, 0x2DCAE, 14}, {6, 0x2DCA4, -1}};
+    for (const Case &c : cases) {
+        for (uint32_t mode : {1u, 0u}) {
+            for (uint32_t n = 0; n < 12; ++n) {
+                model.poke(th(n) + 4, static_cast<uint16_t>(mode == 1 ? 0x0003 : 0xFFF3));
+            }
+            const uint32_t value = 0x40 + c.type;
+            ASSERT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 3, c.type, value, mode), 0u) << c.type;
+            EXPECT_EQ(paths().paged(Page::TxHo, 3, c.reg) & 0xFF, value) << c.type;
+            EXPECT_EQ(paths().paged(Page::TxHo, 0, c.reg), 0u) << c.type;
+            for (uint32_t n = 0; n < 12; ++n) {
+                uint16_t expected = mode == 1 ? 0x0003 : 0xFFF3;
+                if (n % 4 == 3 && c.enableBit >= 0) {
+                    expected = static_cast<uint16_t>(expected ^ (1u << c.enableBit));
+                }
+                EXPECT_EQ(model.peek(th(n) + 4), expected) << c.type << " " << n;
+            }
+            uint8_t v = 0, m = 9;
+            ASSERT_EQ(VQ6192_SDH_GetTxHpByte(kChip, 3, c.type, &v, &m), 0u);
+            EXPECT_EQ(v, value);
+            EXPECT_EQ(m, mode) << c.type;
+        }
+    }
+}
+
+TEST_F(SdhOverheadTest, HighOrderByteTypesTwoSixAndSeven) {
+    // Type 2: low bits copied into HR(n)+0 bits 6..5, TH(n)+2 bit 5 says "not 0xFF".
+    for (uint32_t n = 0; n < 12; ++n) {
+        model.poke(hr(n), 0xFF9F);
+        model.poke(th(n) + 2, 0xFFFF);
+    }
+    ASSERT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 1, 2, 0x16, 1), 0u);
+    for (uint32_t n = 0; n < 12; ++n) {
+        EXPECT_EQ(model.peek(hr(n)), n % 4 == 1 ? 0xFFDF : 0xFF9F) << n;
+        EXPECT_EQ(model.peek(th(n) + 2), n % 4 == 1 ? 0xFFFF : 0xFFFF) << n;
+    }
+    ASSERT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 1, 2, 0xFF, 1), 0u);
+    EXPECT_EQ(model.peek(th(5) + 2), 0xFFDF);
+    EXPECT_EQ(model.peek(hr(5)), 0xFFFF);
+
+    // Type 6 mode 1: TH(n)+0 bit 1 set, bits 5..4 and 3..2 both 2; the getter refuses other encodings.
+    model.poke(th(0), 0xFFC1);
+    ASSERT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 0, 6, 0x5A, 1), 0u);
+    EXPECT_EQ(model.peek(th(0)), 0xFFC1 | 0x2 | (2u << 4) | (2u << 2));
+    EXPECT_EQ(model.peek(th(4)), 0x0002 | (2u << 4) | (2u << 2));
+    uint8_t v, m;
+    ASSERT_EQ(VQ6192_SDH_GetTxHpByte(kChip, 0, 6, &v, &m), 0u);
+    EXPECT_EQ(v, 0x5A);
+    EXPECT_EQ(m, 1);
+    ASSERT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 0, 6, 0x5A, 0), 0u);
+    ASSERT_EQ(VQ6192_SDH_GetTxHpByte(kChip, 0, 6, &v, &m), 0u);
+    EXPECT_EQ(m, 0);
+    model.poke(th(0), static_cast<uint16_t>((3u << 4) | (3u << 2)));
+    EXPECT_EQ(VQ6192_SDH_GetTxHpByte(kChip, 0, 6, &v, &m), kPrereqErr);
+
+    // Type 7: the B3 source select 0..2 in TH(n)+4 bits 3..2; the value in bits 7..0 of the selector.
+    for (uint32_t n = 0; n < 12; ++n) {
+        model.poke(th(n) + 4, 0xFFF3);
+    }
+    ASSERT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 2, 7, 0xA5, 2), 0u);
+    EXPECT_EQ(model.peek(th(2) + 4), 0xFFFB);
+    EXPECT_EQ(model.peek(th(10) + 4), 0xFFFB);
+    EXPECT_EQ(model.peek(th(3) + 4), 0xFFF3);
+    EXPECT_EQ(paths().paged(Page::TxHo, 2, 0x2DCA0), 0xA5);
+    ASSERT_EQ(VQ6192_SDH_GetTxHpByte(kChip, 2, 7, &v, &m), 0u);
+    EXPECT_EQ(v, 0xA5);
+    EXPECT_EQ(m, 2);
+    EXPECT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 2, 6, 0, 2), kParaErr);
+    EXPECT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 2, 8, 0, 0), kParaErr);
+}
+
+TEST_F(SdhOverheadTest, ReceivedBytesOfEachPathKind) {
+    VQ6192_Platform_ResetVirtualTime();
+    // Received high-order byte types 0..6 and VC-3 byte types 0..6 share one layout.
+    struct Loc {
+        uint32_t offset;
+        uint32_t shift;
+    };
+    const Loc layout[7] = {{0x0, 0}, {0x2, 8}, {0x4, 0}, {0x4, 8}, {0x6, 0}, {0x6, 8}, {0x2, 0}};
+    for (uint32_t type = 0; type < 7; ++type) {
+        paths().setPaged(Page::RxHo, 2, 0x2C012 + layout[type].offset,
+                         static_cast<uint16_t>((0x30 + type) << layout[type].shift));
+        paths().setPaged(Page::RxLo, 128 * 1 + 32, 0x2C362 + layout[type].offset,
+                         static_cast<uint16_t>((0x60 + type) << layout[type].shift));
+        uint8_t v = 0;
+        ASSERT_EQ(VQ6192_SDH_GetRxHpByte(kChip, 2, type, &v), 0u);
+        EXPECT_EQ(v, 0x30 + type) << type;
+        ASSERT_EQ(VQ6192_SDH_GetRxLpVc3Byte(kChip, 1, 1, type, &v), 0u);
+        EXPECT_EQ(v, 0x60 + type) << type;
+        paths().setPaged(Page::RxHo, 2, 0x2C012 + layout[type].offset, 0);
+        paths().setPaged(Page::RxLo, 128 * 1 + 32, 0x2C362 + layout[type].offset, 0);
+    }
+    // VC-12 byte types: V5 at 0x2C362 bits 7..0, 0x2C360, then both halves of 0x2C368.
+    const uint32_t c = 32 * 2 + 9;
+    paths().setPaged(Page::RxLo, 128 * 3 + c, 0x2C362, 0xAB71);
+    paths().setPaged(Page::RxLo, 128 * 3 + c, 0x2C368, 0x7273);
+    paths().setTrace(Page::RxLo, 128 * 3 + c, {0x74});
+    uint8_t v = 0;
+    const uint8_t expected[4] = {0x71, 0x74, 0x72, 0x73};
+    for (uint32_t type = 0; type < 4; ++type) {
+        ASSERT_EQ(VQ6192_SDH_GetRxLpVc12Byte(kChip, 3, 2, 9, type, &v), 0u);
+        EXPECT_EQ(v, expected[type]) << type;
+    }
+    ASSERT_EQ(VQ6192_SDH_GetRxLpV5(kChip, 3, 2, 9, &v), 0u);
+    EXPECT_EQ(v, 0x71);
+    // Every receive page read waited for the chip to fetch the path: 15 selections of 50 ticks.
+    EXPECT_EQ(paths().earlyReads(Page::RxHo) + paths().earlyReads(Page::RxLo), 0u);
+    EXPECT_EQ(paths().selections(Page::RxHo) + paths().selections(Page::RxLo), 19u);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 19u * 500000u);
+}
+
+TEST_F(SdhOverheadTest, LowOrderTransmitBytesThroughTheirPage) {
+    struct Case {
+        const char *name;
+        std::function<uint32_t(uint32_t value)> set;
+        uint32_t key;
+        uint32_t reg;
+    };
+    const Case cases[] = {
+        {"vc3 type 0", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 0, 1, x); }, 128 + 64,
+         0x2DE44},
+        {"vc3 type 1", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 1, 0, x); }, 128 + 64,
+         0x2DE48},
+        {"vc3 type 2", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 2, 0, x); }, 128 + 64,
+         0x2DE4C},
+        {"vc3 type 3", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 3, 0, x); }, 128 + 64,
+         0x2DE4A},
+        {"vc3 type 4", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 4, 0, x); }, 128 + 64,
+         0x2DE4E},
+        {"vc3 type 5", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 5, 0, x); }, 128 + 64,
+         0x2DE50},
+        {"vc3 G1", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 0, 1, 6, 0, x); }, 32, 0x2DE46},
+        {"vc3 B3", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 0, 1, 7, 0, x); }, 32, 0x2DE42},
+        {"vc12 V5", [](uint32_t x) { return VQ6192_SDH_SetTxLpV5(3, 2, 0, 13, 0, x); }, 256 + 13, 0x2DE44},
+        {"vc12 K4", [](uint32_t x) { return VQ6192_SDH_SetTxLpK4(3, 2, 1, 27, 0, x); }, 256 + 59, 0x2DE4E},
+        {"vc12 N2", [](uint32_t x) { return VQ6192_SDH_SetTxLpN2(3, 3, 2, 0, x); }, 384 + 64, 0x2DE50},
+    };
+    uint32_t value = 0x21;
+    for (const Case &c : cases) {
+        ASSERT_EQ(c.set(value), 0u) << c.name;
+        EXPECT_EQ(paths().paged(Page::TxLo, c.key, c.reg) & 0xFF, value) << c.name;
+        ++value;
+    }
+    uint8_t m = 9, v = 0;
+    ASSERT_EQ(VQ6192_SDH_GetTxLpByte(kChip, 1, 2, 3, &m, &v), 0u);
+    EXPECT_EQ(v, 0x24);
+    ASSERT_EQ(VQ6192_SDH_GetTxLpK4(kChip, 2, 1, 27, &m, &v), 0u);
+    EXPECT_EQ(v, 0x2A);
+    ASSERT_EQ(VQ6192_SDH_GetTxLpN2(kChip, 3, 2, 0, &v), 0u);
+    EXPECT_EQ(v, 0x2B);
+}
+
+TEST_F(SdhOverheadTest, SoftwareInsertionBits) {
+    // G1: LT+0 bits 3, 2 = mode and bit 4 = mode != 0; B3: bit 5; V5: bits 5, 3, 6, 2; K4: bit 2.
+    const uint32_t vc3 = lt(1, 64);
+    model.poke(vc3, 0xFF83);
+    ASSERT_EQ(VQ6192_SDH_SetTxLpG1(kChip, 1, 2, 1, 0x11), 0u);
+    EXPECT_EQ(model.peek(vc3), 0xFF9F);
+    uint8_t m, v;
+    ASSERT_EQ(VQ6192_SDH_GetTxLpG1(kChip, 1, 2, &m, &v), 0u);
+    EXPECT_EQ(m, 1);
+    model.poke(vc3, 0xFF97);  // bit 3 missing
+    ASSERT_EQ(VQ6192_SDH_GetTxLpByte(kChip, 1, 2, 6, &m, &v), 0u);
+    EXPECT_EQ(m, 0);
+    EXPECT_EQ(v, 0x11);
+    ASSERT_EQ(VQ6192_SDH_SetTxLpB3(kChip, 1, 2, 1, 0x22), 0u);
+    EXPECT_EQ(model.peek(vc3), 0xFFB7);
+    ASSERT_EQ(VQ6192_SDH_GetTxLpB3(kChip, 1, 2, &m, &v), 0u);
+    EXPECT_EQ(m, 1);
+    EXPECT_EQ(v, 0x22);
+
+    const uint32_t vc12 = lt(0, 32 + 4);
+    model.poke(vc12, 0xFF93);
+    ASSERT_EQ(VQ6192_SDH_SetTxLpV5(kChip, 0, 1, 4, 1, 0x0C), 0u);
+    EXPECT_EQ(model.peek(vc12), 0xFFFF);
+    ASSERT_EQ(VQ6192_SDH_GetTxLpV5(kChip, 0, 1, 4, &m, &v), 0u);
+    EXPECT_EQ(m, 1);
+    EXPECT_EQ(v, 0x0C);
+    // A partial setting reads back as off and is cleared.
+    model.poke(vc12, 0xFFDF);  // bit 5 missing
+    ASSERT_EQ(VQ6192_SDH_GetTxLpV5(kChip, 0, 1, 4, &m, &v), 0u);
+    EXPECT_EQ(m, 0);
+    EXPECT_EQ(model.peek(vc12), 0xFF93);
+    ASSERT_EQ(VQ6192_SDH_SetTxLpK4(kChip, 0, 1, 4, 1, 0x3), 0u);
+    EXPECT_EQ(model.peek(vc12), 0xFF97);
+    ASSERT_EQ(VQ6192_SDH_GetTxLpK4(kChip, 0, 1, 4, &m, &v), 0u);
+    EXPECT_EQ(m, 1);
+}
+
+TEST_F(SdhOverheadTest, ErrorInsertion) {
+    // High-order B3: value (mode 0), 0x200 + value, 0x300 + value into TH(n)+8 of the three blocks.
+    struct Case {
+        uint32_t mode;
+        uint32_t value;
+        uint16_t field;
+    };
+    for (Case c : {Case{0, 5, 5}, Case{1, 5, 0x205}, Case{2, 0x7F, 0x37F}}) {
+        for (uint32_t n = 0; n < 12; ++n) {
+            model.poke(th(n) + 8, 0xFC00);
+        }
+        ASSERT_EQ(VQ6192_SDH_SetTxHpB3Err(kChip, 1, c.value, c.mode), 0u);
+        for (uint32_t n = 0; n < 12; ++n) {
+            EXPECT_EQ(model.peek(th(n) + 8), n % 4 == 1 ? 0xFC00 | c.field : 0xFC00) << c.mode << " " << n;
+        }
+        uint8_t v, m;
+        ASSERT_EQ(VQ6192_SDH_GetTxHpB3Err(kChip, 1, &v, &m), 0u);
+        EXPECT_EQ(v, c.value);
+        EXPECT_EQ(m, c.mode);
+    }
+    // Bits 9..8 = 1, which the setter never writes, read back as mode 0.
+    model.poke(th(1) + 8, 0x0123);
+    uint8_t v1, m1;
+    ASSERT_EQ(VQ6192_SDH_GetTxHpB3Err(kChip, 1, &v1, &m1), 0u);
+    EXPECT_EQ(v1, 0x23);
+    EXPECT_EQ(m1, 0);
+    // Refused while the B3 source select is not 0.
+    model.poke(th(1) + 4, 1u << 2);
+    model.setTrace(true);
+    model.clearTrace();
+    capture.clear();
+    EXPECT_EQ(VQ6192_SDH_SetTxHpB3Err(kChip, 1, 1, 1), kPrereqErr);
+    EXPECT_TRUE(vqtest::writes(model.trace()).empty());
+    EXPECT_EQ(
+        capture.traceTexts(),
+        std::vector<std::string>{"Err. VQ6192_SDH_SetTxHpB3Err.VQ6192_OA_HPOH_SRCSEL_ReadOaHpb3srcsel(3,1)"
+                                 "       ErrCode[0x3080004]\r\n"});
+
+    // Low-order B3: mode 0 writes 0; BIP-2: 8 + value, 12 + value.
+    const uint32_t vc3 = lt(2, 0) + 4;
+    model.poke(vc3, 0xFC00 | 0x3FF);
+    ASSERT_EQ(VQ6192_SDH_SetTxLpB3Err(kChip, 2, 0, 5, 0), 0u);
+    EXPECT_EQ(model.peek(vc3), 0xFC00);
+    ASSERT_EQ(VQ6192_SDH_SetTxLpB3Err(kChip, 2, 0, 9, 2), 0u);
+    EXPECT_EQ(model.peek(vc3), 0xFC00 | 0x309);
+    uint8_t v, m;
+    ASSERT_EQ(VQ6192_SDH_GetTxLpB3Err(kChip, 2, 0, &v, &m), 0u);
+    EXPECT_EQ(v, 9);
+    EXPECT_EQ(m, 2);
+    const uint32_t vc12 = lt(2, 64 + 3) + 4;
+    for (Case c : {Case{1, 2, 10}, Case{2, 1, 13}, Case{0, 3, 0}}) {
+        model.poke(vc12, 0xFC00);
+        ASSERT_EQ(VQ6192_SDH_SetTxLpV5Bip2Err(kChip, 2, 2, 3, c.value, c.mode), 0u);
+        EXPECT_EQ(model.peek(vc12), 0xFC00 | c.field) << c.mode;
+        ASSERT_EQ(VQ6192_SDH_GetTxLpV5Bip2Err(kChip, 2, 2, 3, &v, &m), 0u);
+        EXPECT_EQ(m, c.mode);
+        EXPECT_EQ(v, c.mode == 0 ? 0 : c.value);
+    }
+    // Refused while software B3 or V5 insertion is on.
+    model.poke(lt(2, 0), 1u << 5);
+    capture.clear();
+    EXPECT_EQ(VQ6192_SDH_SetTxLpB3Err(kChip, 2, 0, 1, 1), kPrereqErr);
+    EXPECT_EQ(
+        capture.traceTexts(),
+        std::vector<std::string>{"Err. chipid 3 VQ6192_SDH_SetTxLpB3Err.VQ6192_SDH_GetTxLpB3(2,0)       "
+                                 "ErrCode[0x3080004]\r\n"});
+    EXPECT_EQ(model.peek(vc3), 0xFC00 | 0x309);
+    model.poke(lt(2, 64 + 3), 0x6C);
+    model.poke(vc12, 0);
+    EXPECT_EQ(VQ6192_SDH_SetTxLpV5Bip2Err(kChip, 2, 2, 3, 1, 1), kPrereqErr);
+    EXPECT_EQ(model.peek(vc12), 0);
+}
+
+TEST_F(SdhOverheadTest, ReiErdiModesAndConsequentActions) {
+    struct Dir {
+        uint32_t dir;
+        bool ing;
+        bool eg;
+    };
+    const uint32_t c = 32 * 1 + 6;
+    for (Dir d : {Dir{0, true, false}, Dir{1, false, true}, Dir{2, true, true}}) {
+        model.poke(lr(3, c) + 4, 0xFFE7);
+        model.poke(lt(3, c), 0xFE7F);
+        ASSERT_EQ(VQ6192_SDH_SetLpReiMode(kChip, 3, 1, 6, d.dir, 1), 0u);
+        ASSERT_EQ(VQ6192_SDH_SetVc12ErdiMode(kChip, 3, 1, 6, d.dir, 1), 0u);
+        EXPECT_EQ(model.peek(lr(3, c) + 4), d.ing ? 0xFFFF : 0xFFE7) << d.dir;
+        EXPECT_EQ(model.peek(lt(3, c)), d.eg ? 0xFFFF : 0xFE7F) << d.dir;
+        uint8_t i = 9, e = 9;
+        ASSERT_EQ(VQ6192_SDH_GetLpReiMode(kChip, 3, 1, 6, &i, &e), 0u);
+        EXPECT_EQ(i, d.ing ? 1 : 0);
+        EXPECT_EQ(e, d.eg ? 1 : 0);
+        ASSERT_EQ(VQ6192_SDH_GetVc12ErdiMode(kChip, 3, 1, 6, &i, &e), 0u);
+        EXPECT_EQ(i, d.ing ? 1 : 0);
+    }
+    EXPECT_EQ(VQ6192_SDH_SetLpReiMode(kChip, 3, 1, 6, 3, 1), kParaErr);
+    // VC-3 enhanced RDI on VC-4 2 changes only VC-4 2's bit.
+    for (uint32_t v = 0; v < 4; ++v) {
+        model.poke(lt(v, 32), 0xFFFD);
+    }
+    ASSERT_EQ(VQ6192_SDH_SetVc3ErdiMode(kChip, 2, 1, 1), 0u);
+    for (uint32_t v = 0; v < 4; ++v) {
+        EXPECT_EQ(model.peek(lt(v, 32)), v == 2 ? 0xFFFF : 0xFFFD) << v;
+    }
+    // Consequent actions: 0..4 enables in LR+0xE bits 3, 5, 4, 1, 0; 5..9 disables in LT+2 bits 2, 4, 3,
+    // 0, 1.
+    const uint32_t rxBits[5] = {3, 5, 4, 1, 0};
+    const uint32_t txBits[5] = {2, 4, 3, 0, 1};
+    for (uint32_t type = 0; type < 10; ++type) {
+        model.poke(lr(0, 5) + 0xE, 0);
+        model.poke(lt(0, 5) + 2, 0xFFFF);
+        ASSERT_EQ(VQ6192_SDH_SetSdhLpTranInsert(kChip, 0, 0, 5, type, 1), 0u);
+        if (type < 5) {
+            EXPECT_EQ(model.peek(lr(0, 5) + 0xE), 1u << rxBits[type]) << type;
+            EXPECT_EQ(model.peek(lt(0, 5) + 2), 0xFFFF) << type;
+        } else {
+            EXPECT_EQ(model.peek(lt(0, 5) + 2), 0xFFFF ^ (1u << txBits[type - 5])) << type;
+            EXPECT_EQ(model.peek(lr(0, 5) + 0xE), 0) << type;
+        }
+        uint8_t en = 9;
+        ASSERT_EQ(VQ6192_SDH_GetSdhLpTranInsert(kChip, 0, 0, 5, type, &en), 0u);
+        EXPECT_EQ(en, 1) << type;
+    }
+    EXPECT_EQ(VQ6192_SDH_SetSdhLpTranInsert(kChip, 0, 0, 5, 10, 1), kParaErr);
+}
+
+TEST_F(SdhOverheadTest, RefusalsTouchNothing) {
+    uint8_t a, b;
+    uint16_t w;
+    const std::vector<std::pair<const char *, std::function<uint32_t()>>> calls = {
+        {"hp byte vc4 4", [] { return VQ6192_SDH_SetTxHpByte(3, 4, 0, 1, 0); }},
+        {"hp byte mode 2", [] { return VQ6192_SDH_SetTxHpByte(3, 0, 0, 1, 2); }},
+        {"hp b3 err mode 3", [] { return VQ6192_SDH_SetTxHpB3Err(3, 0, 1, 3); }},
+        {"hp ptr yy 2", [] { return VQ6192_SDH_SetTxHpPtrYFInsSel(3, 0, 2, 0); }},
+        {"hp ptr ss 4", [] { return VQ6192_SDH_SetTxHpPtrSSInsVal(3, 0, 4); }},
+        {"rx hp byte 7", [&] { return VQ6192_SDH_GetRxHpByte(3, 0, 7, &a); }},
+        {"hp rst 2", [] { return VQ6192_SDH_SetRxHpRst(3, 0, 2); }},
+        {"lom int n 12", [] { return VQ6192_SDH_SetHpLomIntMsk(3, 12, 1); }},
+        {"lp byte 8", [] { return VQ6192_SDH_SetTxLpByte(3, 0, 0, 8, 0, 1); }},
+        {"lp byte mode 2", [] { return VQ6192_SDH_SetTxLpByte(3, 0, 0, 0, 2, 1); }},
+        {"lp v5 tu 28", [] { return VQ6192_SDH_SetTxLpV5(3, 0, 0, 28, 0, 1); }},
+        {"lp b3 err tug3 3", [] { return VQ6192_SDH_SetTxLpB3Err(3, 0, 3, 1, 1); }},
+        {"bip2 mode 3", [] { return VQ6192_SDH_SetTxLpV5Bip2Err(3, 0, 0, 0, 1, 3); }},
+        {"vc12 byte 4", [&] { return VQ6192_SDH_GetRxLpVc12Byte(3, 0, 0, 0, 4, &a); }},
+        {"vc3 byte 7", [&] { return VQ6192_SDH_GetRxLpVc3Byte(3, 0, 0, 7, &a); }},
+        {"label 8", [] { return VQ6192_SDH_SetRxLpShouldV5SgnlLbl(3, 0, 0, 0, 8); }},
+        {"c2 256", [] { return VQ6192_SDH_SetRxLpShouldC2(3, 0, 0, 256); }},
+        {"erdi mode 2", [] { return VQ6192_SDH_SetVc3ErdiMode(3, 0, 0, 2); }},
+        {"tu ais msk 2", [] { return VQ6192_SDH_SetTuAisIntMsk(3, 0, 0, 0, 2); }},
+        {"flt type 4", [] { return VQ6192_SDH_SetFltAlarmNum(3, 4, 1); }},
+        {"tu ais ins vc4 4", [] { return VQ6192_SDH_SetVc4TuAisInsEn(3, 4, 1); }},
+        {"lp alms null", [] { return VQ6192_SDH_GetLpAlms(3, 0, 0, 0, nullptr); }},
+        {"b3b2 null", [] { return VQ6192_SDH_GetRxLpB3B2Cnt(3, 0, 0, 0, nullptr); }},
+        {"ptr adjust tu 28", [&] { return VQ6192_SDH_GetLpPointAdjust(3, 0, 0, 28, &w, &w, &w); }},
+        {"e1 fifo 336", [&] { return VQ6192_SDH_GetSDHET1FifoAlm(3, 336, &a); }},
+        {"e3 fifo 12", [&] { return VQ6192_SDH_GetSDHET3FifoAlm(3, 12, &a); }},
+        {"hp alms null", [&] { return VQ6192_SDH_GetHpAlms(3, 0, &a, &b, nullptr); }},
+    };
+    model.setTrace(true);
+    for (const auto &[name, call] : calls) {
+        capture.clear();
+        model.clearTrace();
+        EXPECT_EQ(call(), kParaErr) << name;
+        EXPECT_TRUE(model.trace().empty()) << name;
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{"ParaErr.\r\n"}) << name;
+    }
+}
+
+}  // namespace

@@ -1,0 +1,190 @@
+// SAM block: initialisation and reset, Sa-bit insertion and extraction through the Sa-bit tables,
+// channel switches, counters and status.
+#include <functional>
+
+#include "support/test_support.h"
+#include "vq6192/sdh.h"
+#include "vq6192/sim/sam.h"
+
+namespace {
+
+using vq6192::sim::BusAccess;
+using vq6192::sim::BusOp;
+using vqtest::ChipTest;
+
+constexpr uint32_t kSamParaErr = 0x03090001;
+constexpr uint32_t kSamBlock = 0x3000;  // SA-bit table engine (register number)
+constexpr uint32_t kInsSelect = 11;     // inserted Sa bits
+constexpr uint32_t kFthSelect = 5;      // extracted Sa bits
+
+uint32_t chanReg(uint32_t e1) {
+    return 0x6200 + 2 * e1;
+}
+
+using SamTest = ChipTest;
+
+TEST_F(SamTest, InitialisationNeedsTheReadyBit) {
+    model.block<vq6192::sim::SamBlock>().setReady(false);
+    model.setTrace(true);
+    capture.clear();
+    EXPECT_EQ(VQ6192_SAM_InitSam(kChip, 1), 0x03090007u);
+    EXPECT_TRUE(vqtest::writes(model.trace()).empty());
+    EXPECT_TRUE(capture.traceTexts().empty());
+
+    model.block<vq6192::sim::SamBlock>().setReady(true);
+    for (uint32_t e1 = 0; e1 < 336; ++e1) {
+        model.poke(chanReg(e1), 0xFF9B);
+    }
+    model.clearTrace();
+    ASSERT_EQ(VQ6192_SAM_InitSam(kChip, 1), 0u);
+    for (uint32_t e1 = 0; e1 < 336; ++e1) {
+        EXPECT_EQ(model.peek(chanReg(e1)), 0xFFBF) << e1;
+    }
+    // Fetch mode first, then insertion mode, channel by channel in ascending order.
+    const auto w = vqtest::writes(model.trace());
+    ASSERT_EQ(w.size(), 672u);
+    EXPECT_EQ(w[0], (BusAccess{BusOp::Write, 0x6200, 0xFFBB, 0, 16}));
+    EXPECT_EQ(w[1], (BusAccess{BusOp::Write, 0x6200, 0xFFBF, 0, 16}));
+    EXPECT_EQ(w[670], (BusAccess{BusOp::Write, chanReg(335), 0xFFBB, 0, 16}));
+    EXPECT_EQ(w[671], (BusAccess{BusOp::Write, chanReg(335), 0xFFBF, 0, 16}));
+
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_SAM_InitSam(kChip, 0), 0u);
+    EXPECT_EQ(VQ6192_SAM_InitSam(kChip, 2), 0u);
+    EXPECT_TRUE(model.trace().empty());
+    EXPECT_EQ(VQ6192_SAM_InitSam(kChip, 3), kSamParaErr);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+TEST_F(SamTest, ResetPulsesTheBlockReset) {
+    model.poke(0x000C, 0xF0F3);
+    model.setTrace(true);
+    VQ6192_Platform_ResetVirtualTime();
+    ASSERT_EQ(VQ6192_SAM_ResetSam(kChip), 0u);
+    const auto w = vqtest::writes(model.trace());
+    ASSERT_EQ(w.size(), 2u);
+    EXPECT_EQ(w[0], (BusAccess{BusOp::Write, 0x000C, 0xF0F7, 0, 16}));
+    EXPECT_EQ(w[1], (BusAccess{BusOp::Write, 0x000C, 0xF0F3, 0, 16}));
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 10u);
+}
+
+TEST_F(SamTest, SaBitInsertion) {
+    auto &tables = model.tables();
+    vq6192::sim::TableEngine::Entry entry{};
+    entry[0] = 0xD7FF;  // Sabit2 (bits 14..10) = 0x15, every other bit set
+    entry[1] = 0x000F;
+    tables.setEntry(kSamBlock, kInsSelect, 5, entry);
+    model.poke(chanReg(5), 0xFFFE);
+    ASSERT_EQ(VQ6192_SAM_SetSaBitInsert(kChip, 5, 2, 0x3F, 1), 0u);
+    auto after = tables.entry(kSamBlock, kInsSelect, 5);
+    EXPECT_EQ(after[0], 0xFFFF);
+    EXPECT_EQ(after[1], 0x000F);
+    EXPECT_EQ(model.peek(chanReg(5)), 0xFFFF);
+
+    // Sabit3 is bits 19..15, across the two halves.
+    ASSERT_EQ(VQ6192_SAM_SetSaBitInsert(kChip, 5, 3, 0x0A, 0), 0u);
+    after = tables.entry(kSamBlock, kInsSelect, 5);
+    EXPECT_EQ(after[0], 0x7FFF);
+    EXPECT_EQ(after[1], 0x0005);
+    EXPECT_EQ(model.peek(chanReg(5)), 0xFFFE);
+
+    // A bit position above 3: the code without a trace line, nothing written.
+    model.setTrace(true);
+    capture.clear();
+    EXPECT_EQ(VQ6192_SAM_SetSaBitInsert(kChip, 5, 4, 1, 1), kSamParaErr);
+    EXPECT_TRUE(capture.traceTexts().empty());
+    EXPECT_EQ(tables.entry(kSamBlock, kInsSelect, 5), after);
+    EXPECT_EQ(model.peek(chanReg(5)), 0xFFFE);
+    EXPECT_EQ(tables.writesExecuted(kSamBlock), 2u);
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_SAM_SetSaBitInsert(kChip, 336, 0, 1, 1), kSamParaErr);
+    EXPECT_TRUE(model.trace().empty());
+    EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{"ParaErr.\r\n"});
+}
+
+TEST_F(SamTest, SaBitExtraction) {
+    vq6192::sim::TableEngine::Entry entry{};
+    // Rxsabit3..0 = 0x11, 0x0E, 0x1B, 0x04.
+    const uint32_t bits = (0x11u << 15) | (0x0Eu << 10) | (0x1Bu << 5) | 0x04u;
+    entry[0] = static_cast<uint16_t>(bits & 0xFFFF);
+    entry[1] = static_cast<uint16_t>(bits >> 16);
+    model.tables().setEntry(kSamBlock, kFthSelect, 200, entry);
+    const uint32_t expected[4] = {0x04, 0x1B, 0x0E, 0x11};
+    for (uint32_t pos = 0; pos < 4; ++pos) {
+        model.poke(chanReg(200), 0xFFF7);
+        uint32_t sa = 0xEE;
+        ASSERT_EQ(VQ6192_SAM_GetSaBitValue(kChip, 200, pos, &sa, 1), 0u);
+        EXPECT_EQ(sa, expected[pos]) << pos;
+        EXPECT_EQ(model.peek(chanReg(200)), 0xFFFF);
+    }
+    // The enable is written even when the bit position is refused.
+    uint32_t sa = 0xEE;
+    capture.clear();
+    EXPECT_EQ(VQ6192_SAM_GetSaBitValue(kChip, 200, 4, &sa, 0), kSamParaErr);
+    EXPECT_EQ(sa, 0xEEu);
+    EXPECT_EQ(model.peek(chanReg(200)), 0xFFF7);
+    EXPECT_TRUE(capture.traceTexts().empty());
+}
+
+TEST_F(SamTest, ChannelAndGlobalSwitches) {
+    struct Case {
+        const char *name;
+        std::function<uint32_t()> call;
+        uint32_t reg;
+        uint16_t mask;  // bits the call sets (from a register with every other bit set)
+    };
+    const Case cases[] = {
+        {"global tu-ais", [] { return VQ6192_SAM_SetSamGlbTuaisEn(3, 1); }, 0x6060, 1u << 3},
+        {"channel tu-ais", [] { return VQ6192_SAM_SetSamChnTuaisEn(3, 17, 1); }, chanReg(17), 1u << 6},
+        {"hdlc select 4", [] { return VQ6192_SAM_SetSamHdlcSel(3, 4); }, 0x6060, 0x4},
+        {"fetch enables", [] { return VQ6192_SAM_SetSamFthEn(3, 335, 1, 1); }, chanReg(335), 0x18},
+        {"fetch mode", [] { return VQ6192_SAM_SetSamFthMod(3, 0, 1); }, chanReg(0), 1u << 5},
+        {"insert enables", [] { return VQ6192_SAM_SetSamInsEn(3, 100, 1, 1); }, chanReg(100), 0x3},
+        {"insert mode", [] { return VQ6192_SAM_SetSamInsMod(3, 100, 1); }, chanReg(100), 1u << 2},
+    };
+    for (const Case &c : cases) {
+        const uint16_t field = c.reg == 0x6060 && c.mask == 0x4 ? 0x7 : c.mask;
+        model.poke(c.reg, static_cast<uint16_t>(~field));
+        ASSERT_EQ(c.call(), 0u) << c.name;
+        EXPECT_EQ(model.peek(c.reg), static_cast<uint16_t>(~field | c.mask)) << c.name;
+    }
+    model.setTrace(true);
+    const std::vector<std::function<uint32_t()>> refused = {
+        [] { return VQ6192_SAM_SetSamHdlcSel(3, 5); },
+        [] { return VQ6192_SAM_SetSamGlbTuaisEn(3, 2); },
+        [] { return VQ6192_SAM_SetSamChnTuaisEn(3, 336, 1); },
+        [] { return VQ6192_SAM_SetSamFthEn(3, 0, 2, 0); },
+        [] { return VQ6192_SAM_SetSamInsEn(3, 0, 0, 2); },
+        [] { return VQ6192_SAM_SetSamInsMod(3, 0, 2); },
+    };
+    for (const auto &call : refused) {
+        model.clearTrace();
+        EXPECT_EQ(call(), kSamParaErr);
+        EXPECT_TRUE(model.trace().empty());
+    }
+}
+
+TEST_F(SamTest, CountersWarningsAndSoftErrors) {
+    model.poke(0x6600 + 2 * 9, 0xFF11);
+    model.poke(0x6620 + 2 * 9, 0x0022);
+    model.poke(0x6640 + 2 * 9, 0x0033);
+    model.poke(0x6660 + 2 * 9, 0x0044);
+    uint32_t c0, c1, c2, c3;
+    ASSERT_EQ(VQ6192_SAM_GetSamCnt(kChip, 9, &c0, &c1, &c2, &c3), 0u);
+    EXPECT_EQ(std::vector<uint32_t>({c0, c1, c2, c3}), std::vector<uint32_t>({0x11, 0x22, 0x33, 0x44}));
+    model.poke(0x6800 + 2 * 335, 0xFFFD);
+    uint32_t w1 = 9, w0 = 9;
+    ASSERT_EQ(VQ6192_SAM_GetSamMpiAisWarn(kChip, 335, &w1, &w0), 0u);
+    EXPECT_EQ(w1, 0u);
+    EXPECT_EQ(w0, 1u);
+    model.poke(0x6688, 0x1001);  // bit 12 and bit 0
+    uint32_t flags[13];
+    ASSERT_EQ(VQ6192_SAM_GetSamSramSoftErr(kChip, flags), 0u);
+    for (uint32_t i = 0; i < 13; ++i) {
+        EXPECT_EQ(flags[i], i == 0 || i == 12 ? 1u : 0u) << i;
+    }
+    EXPECT_EQ(VQ6192_SAM_GetSamCnt(kChip, 336, &c0, &c1, &c2, &c3), kSamParaErr);
+    EXPECT_EQ(VQ6192_SAM_GetSamSramSoftErr(kChip, nullptr), kSamParaErr);
+}
+
+}  // namespace
