@@ -5,37 +5,36 @@
 #include <cstdlib>
 #include <cstring>
 
-#ifdef VQ6192_HAVE_LIBEDIT
+#if VQ6192_SHELL_LINE_EDITING
 #include <editline/readline.h>
 #endif
 
 namespace vqshell {
 namespace {
 
-std::vector<std::string> g_names;
+LineInput::Completer g_completer;
 
-#ifdef VQ6192_HAVE_LIBEDIT
-char *nextName(const char *text, int state) {
-    static size_t next = 0;
-    if (state == 0) {
-        next = 0;
-    }
-    const size_t len = std::strlen(text);
-    while (next < g_names.size()) {
-        const std::string &name = g_names[next++];
-        if (name.compare(0, len, text) == 0) {
-            return strdup(name.c_str());
-        }
-    }
-    return nullptr;
-}
-
-char **completeCommand(const char *text, int start, int /*end*/) {
-    // Only the first word of a command is a command name.
-    if (start != 0) {
+#if VQ6192_SHELL_LINE_EDITING
+// libedit's completion hook: the array it wants holds the text that replaces the word (the
+// candidates' common start), then the candidates, then a null.
+char **completeLine(const char * /*text*/, int /*start*/, int end) {
+    rl_attempted_completion_over = 1;  // never fall back to file names
+    if (!g_completer) {
         return nullptr;
     }
-    return rl_completion_matches(text, nextName);
+    const Completion c = g_completer(std::string_view(rl_line_buffer, static_cast<size_t>(end)));
+    if (c.candidates.empty()) {
+        return nullptr;
+    }
+    auto **matches = static_cast<char **>(std::calloc(c.candidates.size() + 2, sizeof(char *)));
+    if (matches == nullptr) {
+        return nullptr;
+    }
+    matches[0] = strdup(commonStart(c.candidates).c_str());
+    for (size_t i = 0; i < c.candidates.size(); ++i) {
+        matches[i + 1] = strdup(c.candidates[i].c_str());
+    }
+    return matches;
 }
 #endif
 
@@ -53,21 +52,30 @@ bool readPlain(FILE *file, std::string *line) {
 
 }  // namespace
 
-LineInput::LineInput(FILE *file, std::vector<std::string> names)
-    : file_(file), interactive_(isatty(fileno(file)) != 0) {
-    g_names = std::move(names);
-#ifdef VQ6192_HAVE_LIBEDIT
+bool LineInput::lineEditing() {
+    return VQ6192_SHELL_LINE_EDITING != 0;
+}
+
+LineInput::LineInput(FILE *file, Completer completer) : file_(file), interactive_(isatty(fileno(file)) != 0) {
+    g_completer = std::move(completer);
+#if VQ6192_SHELL_LINE_EDITING
     if (interactive_) {
-        rl_attempted_completion_function = completeCommand;
+        // Words end at blanks and at the ';' between commands, as the parser splits them.
+        static char breaks[] = " \t;";
+        rl_basic_word_break_characters = breaks;
+        rl_completer_word_break_characters = breaks;
+        rl_attempted_completion_function = completeLine;
         using_history();
     }
 #endif
 }
 
-LineInput::~LineInput() = default;
+LineInput::~LineInput() {
+    g_completer = nullptr;
+}
 
 bool LineInput::read(std::string *line) {
-#ifdef VQ6192_HAVE_LIBEDIT
+#if VQ6192_SHELL_LINE_EDITING
     if (interactive_) {
         char *text = readline("vq6192> ");
         if (text == nullptr) {

@@ -7,6 +7,7 @@
 #include <iostream>
 #include <string>
 
+#include "completion.h"
 #include "line_input.h"
 #include "parser.h"
 #include "session.h"
@@ -138,7 +139,11 @@ int main(int argc, char **argv) {
     }
     bool ok = true;
     {
-        vqshell::LineInput in(input, session.commandNames());
+        vqshell::LineInput in(input,
+                              [&session](std::string_view line) { return vqshell::complete(session, line); });
+        if (in.interactive()) {
+            std::cout << session.banner(vqshell::LineInput::lineEditing()) << std::endl;
+        }
         std::string line;
         while (!session.quitRequested() && in.read(&line)) {
             const bool lineOk = session.runLine(line);

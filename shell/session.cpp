@@ -8,6 +8,7 @@
 #include <cstring>
 #include <map>
 
+#include "arguments.h"
 #include "chip/bringup.h"
 #include "core/entry_field.h"
 #include "core/table_print.h"
@@ -21,10 +22,45 @@ constexpr size_t kGuard = 64;
 constexpr char kGuardByte = '\x5A';
 constexpr uint32_t kMaxDumpRegs = 4096;
 
-std::string lower(std::string_view s) {
-    std::string out(s);
-    std::transform(out.begin(), out.end(), out.begin(), [](unsigned char c) { return std::tolower(c); });
-    return out;
+struct BringUp {
+    uint32_t status;  // nonzero: the chip did not come up
+    bool broughtUp;   // what the banner reports
+};
+
+// Chip bring-up, the one place that decides it: a full bring-up (E1, no DDR test) step by step, with a
+// progress line per step when asked. Only chips on the model are brought up: a mapped chip may be
+// carrying traffic already. The model has no real time, so the waits run on the virtual clock.
+BringUp bringUpChip(uint32_t chip, bool onModel, bool progress, std::ostream &out) {
+    if (!onModel) {
+        return {0, false};
+    }
+    const vq::chip::BringUpRun run{chip, VQ6192_BASE_INIT_FULL, VQ6192_BASE_TDM_E1, 0, 0, nullptr};
+    const uint32_t virtualClock = VQ6192_Platform_GetVirtualClock();
+    VQ6192_Platform_SetVirtualClock(1);
+    uint32_t rc = 0;
+    for (const auto &step : vq::chip::bringUpSteps()) {
+        if (!vq::chip::stepRuns(step, run)) {
+            continue;
+        }
+        rc = step.run(run);
+        if (progress) {
+            char line[80];
+            std::snprintf(line, sizeof line, "chip %u bring-up: %-16s %s\n", chip, step.name,
+                          rc == 0 ? "ok" : "FAILED");
+            out << line << std::flush;
+        }
+        if (rc != 0) {
+            break;
+        }
+    }
+    VQ6192_Platform_SetVirtualClock(virtualClock);
+    return {rc, rc == 0};
+}
+
+// "0", "0..3"
+std::string idRange(uint32_t first, uint32_t count) {
+    return count == 1 ? std::to_string(first)
+                      : std::to_string(first) + ".." + std::to_string(first + count - 1);
 }
 
 const char *errorMeaning(uint32_t module, uint32_t error) {
@@ -43,6 +79,16 @@ const char *errorMeaning(uint32_t module, uint32_t error) {
         default:
             return nullptr;
     }
+}
+
+// "tableId (table name or id)", "index (integer)": an argument's name and what to give for it.
+std::string argumentHelp(const std::string &name, const char *plainKind,
+                         vq::diag::ArgKind kind = vq::diag::ArgKind::U32) {
+    const ArgRole role = argRole(name);
+    // An integer argument with a role is described by it (chip id, table or module name or id).
+    const char *kindText =
+        role != ArgRole::Plain && kind == vq::diag::ArgKind::U32 ? argRoleKind(role) : plainKind;
+    return name + " (" + kindText + ")";
 }
 
 std::vector<std::string> argNames(const char *args) {
@@ -81,10 +127,11 @@ std::string describeStatus(uint32_t status) {
 struct Session::Chip {
     uint32_t id = 0;
     std::unique_ptr<vq6192::sim::ChipModel> model;
+    std::string windowPath;  // mapped window's file or device node; empty on the model
+    bool broughtUp = false;
     void *window = nullptr;
     size_t windowSize = 0;
     int fd = -1;
-    bool up = false;  // brought up by this session
 };
 
 struct Session::Builtin {
@@ -94,6 +141,7 @@ struct Session::Builtin {
     size_t minArgs;
     size_t maxArgs;
     bool (Session::*run)(const std::vector<std::string> &args);
+    const char *plainKind = "integer";  // what help calls the arguments that have no role
 };
 
 const Session::Builtin Session::kBuiltins[] = {
@@ -105,7 +153,8 @@ const Session::Builtin Session::kBuiltins[] = {
     {"tw", "chip table index word...", "write a table entry from its 32-bit words, lowest first", 4,
      3 + VQ6192_TBL_MAX_WORDS, &Session::cmdTableWrite},
     {"tf", "chip table index member value", "set one member of a table entry", 5, 5, &Session::cmdTableField},
-    {"tables", "[filter]", "list the table catalogue (names containing filter)", 0, 1, &Session::cmdTables},
+    {"tables", "[filter]", "list the table catalogue (names containing filter)", 0, 1, &Session::cmdTables,
+     "text"},
 };
 
 Session::Session(std::ostream &out, std::ostream &err) : out_(out), err_(err) {}
@@ -156,59 +205,87 @@ bool Session::start(const SessionOptions &options) {
             para.ulBaseAddr = reinterpret_cast<uintptr_t>(chip->window);
             para.ulAddrMultiple = w.addrMultiple;
             para.ulSupportProductFlag = w.productFlag;
+            chip->windowPath = w.path;
         }
         const uint32_t rc = VQ6192_Install_SDK(&para);
         if (rc != 0) {
             err_ << "error: installing chip " << id << ": " << describeStatus(rc) << "\n";
             return false;
         }
-        chips_.push_back(std::move(chip));
-        // Only chips on the model are brought up: a mapped chip may be carrying traffic already.
-        if (options.bringUp && chips_.back()->model != nullptr &&
-            !bringUp(*chips_.back(), options.progress)) {
-            return false;
+        Chip &installed = *chips_.emplace_back(std::move(chip));
+        if (options.bringUp) {
+            const BringUp b = bringUpChip(id, installed.model != nullptr, options.progress, out_);
+            if (b.status != 0) {
+                err_ << "error: chip " << id << " did not come up: " << describeStatus(b.status) << "\n";
+                return false;
+            }
+            installed.broughtUp = b.broughtUp;
         }
     }
-    return true;
-}
-
-// Full bring-up of a chip on the model (E1, no DDR test), step by step. The model has no real time, so
-// the waits run on the virtual clock.
-bool Session::bringUp(Chip &chip, bool progress) {
-    const vq::chip::BringUpRun run{chip.id, VQ6192_BASE_INIT_FULL, VQ6192_BASE_TDM_E1, 0, 0, nullptr};
-    const uint32_t virtualClock = VQ6192_Platform_GetVirtualClock();
-    VQ6192_Platform_SetVirtualClock(1);
-    uint32_t rc = 0;
-    for (const auto &step : vq::chip::bringUpSteps()) {
-        if (!vq::chip::stepRuns(step, run)) {
-            continue;
-        }
-        rc = step.run(run);
-        if (progress) {
-            char line[80];
-            std::snprintf(line, sizeof line, "chip %u bring-up: %-16s %s\n", chip.id, step.name,
-                          rc == 0 ? "ok" : "FAILED");
-            out_ << line << std::flush;
-        }
-        if (rc != 0) {
-            break;
-        }
-    }
-    VQ6192_Platform_SetVirtualClock(virtualClock);
-    if (rc != 0) {
-        err_ << "error: chip " << chip.id << " did not come up: " << describeStatus(rc) << "\n";
-        return false;
-    }
-    chip.up = true;
     return true;
 }
 
 bool Session::broughtUp(uint32_t chip) const {
-    return chip < chips_.size() && chips_[chip]->up;
+    return chip < chips_.size() && chips_[chip]->broughtUp;
 }
 
 vq6192::sim::ChipModel *Session::model(uint32_t chip) const {
     return chip < chips_.size() ? chips_[chip]->model.get() : nullptr;
+}
+
+uint32_t Session::chipCount() const {
+    return static_cast<uint32_t>(chips_.size());
+}
+
+std::string Session::banner(bool lineEditing) const {
+    std::string text = "vq6192-shell: ";
+    uint32_t modelled = 0;
+    while (modelled < chips_.size() && chips_[modelled]->model != nullptr) {
+        ++modelled;
+    }
+    if (modelled > 0) {
+        text += (modelled == 1 ? "chip " : "chips ") + idRange(0, modelled) + " on the chip model";
+    }
+    for (uint32_t id = modelled; id < chips_.size(); ++id) {
+        text += (id > 0 ? ", chip " : "chip ") + std::to_string(id) + " on the mapped window " +
+                chips_[id]->windowPath;
+    }
+    const auto up = static_cast<size_t>(
+        std::count_if(chips_.begin(), chips_.end(), [](const auto &c) { return c->broughtUp; }));
+    if (up == chips_.size()) {
+        text += ", brought up";
+    } else if (up == 0) {
+        text += ", not brought up";
+    } else {
+        text += ", " + std::to_string(up) + " of " + std::to_string(chips_.size()) + " brought up";
+    }
+    text += "; help lists the commands";
+    if (!lineEditing) {
+        text += " (no line editing: built without libedit)";
+    }
+    return text;
+}
+
+bool Session::argumentNames(std::string_view command, std::vector<std::string> *names) const {
+    names->clear();
+    if (command == "quit" || command == "exit") {
+        return true;
+    }
+    if (command == "help") {
+        names->push_back("command...");
+        return true;
+    }
+    for (const Builtin &b : kBuiltins) {
+        if (command == b.name) {
+            *names = argNames(b.args);
+            return true;
+        }
+    }
+    if (const vq::diag::Command *cmd = vq::diag::findCommand(command)) {
+        *names = argNames(cmd->args);
+        return true;
+    }
+    return false;
 }
 
 std::vector<std::string> Session::commandNames() const {
@@ -284,9 +361,12 @@ bool Session::runRegistered(const std::vector<std::string> &words) {
         const std::string &word = words[i + 1];
         v.kind = cmd.kinds[i];
         bool ok = true;
+        const ArgRole role = argRole(names[i]);
         switch (v.kind) {
             case ArgKind::U32:
-                ok = parseU32(word, &v.u32);
+                // Tables and modules may also be given by name.
+                ok = parseU32(word, &v.u32) || (role == ArgRole::Table && tableByName(word, &v.u32)) ||
+                     (role == ArgRole::Module && moduleByName(word, &v.u32));
                 break;
             case ArgKind::Bytes:
                 ok = parseBytes(word, &v.bytes);
@@ -302,9 +382,11 @@ bool Session::runRegistered(const std::vector<std::string> &words) {
         }
         if (!ok) {
             err_ << "error: " << cmd.name << ": '" << word << "' is not "
-                 << (v.kind == ArgKind::U32 ? "a" : "")
-                 << (v.kind == ArgKind::U32 ? "n integer" : vq::diag::argKindName(v.kind)) << " for "
-                 << names[i] << " (arguments: " << cmd.args << ")\n";
+                 << (v.kind != ArgKind::U32 ? vq::diag::argKindName(v.kind)
+                     : role == ArgRole::Table || role == ArgRole::Module
+                         ? std::string("a ") + argRoleKind(role)
+                         : "an integer")
+                 << " for " << names[i] << " (arguments: " << cmd.args << ")\n";
             return false;
         }
     }
@@ -348,8 +430,8 @@ void Session::help(const std::vector<std::string> &words) {
                 const std::vector<std::string> names = argNames(cmd->args);
                 out_ << cmd->name << " " << cmd->args << "\n  " << cmd->help << "\n  module " << cmd->module;
                 for (size_t i = 0; i < cmd->argc; ++i) {
-                    out_ << (i == 0 ? "; arguments: " : ", ") << names[i] << " ("
-                         << vq::diag::argKindName(cmd->kinds[i]) << ")";
+                    out_ << (i == 0 ? "; arguments: " : ", ")
+                         << argumentHelp(names[i], vq::diag::argKindName(cmd->kinds[i]), cmd->kinds[i]);
                 }
                 out_ << "\n";
                 continue;
@@ -361,7 +443,12 @@ void Session::help(const std::vector<std::string> &words) {
                 }
             }
             if (b != nullptr) {
-                out_ << b->name << " " << b->args << "\n  " << b->help << "\n  shell command\n";
+                out_ << b->name << " " << b->args << "\n  " << b->help << "\n  shell command";
+                const std::vector<std::string> names = argNames(b->args);
+                for (size_t i = 0; i < names.size(); ++i) {
+                    out_ << (i == 0 ? "; arguments: " : ", ") << argumentHelp(names[i], b->plainKind);
+                }
+                out_ << "\n";
             } else {
                 out_ << "no command '" << name << "'\n";
             }
@@ -422,20 +509,8 @@ bool Session::chipArg(const std::string &word, uint32_t *chip) {
 }
 
 bool Session::tableArg(const std::string &word, uint32_t *id) {
-    uint32_t value = 0;
-    if (parseU32(word, &value)) {
-        if (value < VQ6192_CHIP_TABLE_NUM) {
-            *id = value;
-            return true;
-        }
-    } else {
-        const std::string wanted = lower(word);
-        for (uint32_t t = 0; t < VQ6192_CHIP_TABLE_NUM; ++t) {
-            if (lower(g_astVQ6192TblEntryList[t].pszName) == wanted && wanted != "reserved") {
-                *id = t;
-                return true;
-            }
-        }
+    if (tableByNameOrId(word, id)) {
+        return true;
     }
     err_ << "error: no chip table '" << word << "' (tables lists them; ids 0.." << VQ6192_CHIP_TABLE_NUM - 1
          << ")\n";
@@ -556,7 +631,7 @@ bool Session::cmdTableField(const std::vector<std::string> &args) {
     const VQ6192_TBL_ENTRY_S &layout = g_astVQ6192TblEntryList[table];
     const VQ6192_TBL_MEMBER_S *member = nullptr;
     for (uint32_t i = 0; i < layout.usMemberNum; ++i) {
-        if (lower(layout.pstMember[i].pszName) == lower(args[3])) {
+        if (lowerCase(layout.pstMember[i].pszName) == lowerCase(args[3])) {
             member = &layout.pstMember[i];
         }
     }
@@ -578,11 +653,11 @@ bool Session::cmdTableField(const std::vector<std::string> &args) {
 }
 
 bool Session::cmdTables(const std::vector<std::string> &args) {
-    const std::string filter = args.empty() ? "" : lower(args[0]);
+    const std::string filter = args.empty() ? "" : lowerCase(args[0]);
     char line[200];
     for (uint32_t t = 0; t < VQ6192_TBL_ENTRY_NUM; ++t) {
         const VQ6192_TBL_ENTRY_S &e = g_astVQ6192TblEntryList[t];
-        if (lower(e.pszName).find(filter) == std::string::npos) {
+        if (lowerCase(e.pszName).find(filter) == std::string::npos) {
             continue;
         }
         if (t < VQ6192_CHIP_TABLE_NUM) {

@@ -48,6 +48,17 @@ class Session {
     // Names of all commands, for completion.
     std::vector<std::string> commandNames() const;
 
+    // The argument names of a command, as its row writes them ("chip", "tableId", "word..."); false
+    // for an unknown command.
+    bool argumentNames(std::string_view command, std::vector<std::string> *names) const;
+
+    // Chips installed by this shell: ids 0..chipCount()-1.
+    uint32_t chipCount() const;
+
+    // The one line a terminal user sees first: the chips, where they are, whether they are brought
+    // up, and how to list the commands; it says so when the shell has no line editing.
+    std::string banner(bool lineEditing) const;
+
     bool quitRequested() const { return quit_; }
 
     vq6192::sim::ChipModel *model(uint32_t chip) const;
@@ -59,7 +70,6 @@ class Session {
     struct Builtin;
     struct Chip;
 
-    bool bringUp(Chip &chip, bool progress);
     bool runCommand(const std::string &command);
     bool runRegistered(const std::vector<std::string> &words);
     bool runBuiltin(const Builtin &b, const std::vector<std::string> &words);

@@ -9,6 +9,7 @@
 #include "vq6192/sim/framers.h"
 #include "vq6192/sim/interrupts.h"
 #include "vq6192/sim/mac.h"
+#include "vq6192/sim/ppp.h"
 #include "vq6192/sim/ram_bist.h"
 #include "vq6192/sim/sam.h"
 #include "vq6192/sim/sdh_paths.h"
@@ -30,6 +31,7 @@ void installBlocks(ChipModel &model) {
     model.block<MacBlock>();
     model.block<ClockBlock>();
     model.block<DdrCtrlBlock>();
+    model.block<PppBlock>();
 }
 
 }  // namespace vq6192::sim

@@ -248,6 +248,12 @@ VQ6192_API uint32_t VQ6192_CES_GetCesJtrBufDataStat(uint32_t chip, uint32_t ch, 
                                                     uint16_t *under, uint32_t *fullDrop);
 VQ6192_API uint32_t VQ6192_CES_GetCesDbgStat(uint32_t chip, uint32_t ch, VQ6192_CES_DBG_STAT_S *stat);
 
+/* Pseudowire services: a channel with its packet settings bound to its packet-network header and labels. */
+VQ6192_API uint32_t VQ6192_CES_CreateCesPwSrv(uint32_t chip, const VQ6192_CES_PW_S *pw);
+VQ6192_API uint32_t VQ6192_CES_CreateCesPwSrvNoTS(uint32_t chip, const VQ6192_CES_PW_NOTS_S *pw);
+VQ6192_API uint32_t VQ6192_CES_DelCesPwSrv(uint32_t chip, uint32_t ch, uint32_t e1, uint32_t tsMap);
+VQ6192_API uint32_t VQ6192_CES_DelCesPwSrvNoTS(uint32_t chip, uint32_t ch);
+
 /* Module initialisation: mode 1 initialises, 2 leaves the chip as it is. */
 VQ6192_API uint32_t VQ6192_CES_InitCesModule(uint32_t chip, uint32_t mode);
 
@@ -348,6 +354,7 @@ VQ6192_API uint32_t getcesrxtxfifohistoryalm(uint32_t chip, char *buf);
 VQ6192_API uint32_t getceschanalm(uint32_t chip, uint32_t ch, char *buf);
 VQ6192_API uint32_t getceschanhistoryalm(uint32_t chip, uint32_t ch, char *buf);
 VQ6192_API uint32_t getsohbypassmode(uint32_t chip, char *buf);
+VQ6192_API uint32_t DbgGetCesConfig(uint32_t chip, uint32_t first, uint32_t last, char *buf);
 VQ6192_API uint32_t DbgGetCesPara(uint32_t chip, uint32_t first, uint32_t last, char *buf);
 VQ6192_API uint32_t DbgGetCesChannelInfo(uint32_t chip, uint32_t ch, char *buf);
 VQ6192_API uint32_t DbgGetCesRtpParam(uint32_t chip, uint32_t ch, char *buf);

@@ -12,6 +12,7 @@
 #include "vq6192/chip.h"
 #include "vq6192/eth.h"
 #include "vq6192/framer.h"
+#include "vq6192/ppp.h"
 
 using namespace vq::chip;
 
@@ -148,6 +149,10 @@ uint32_t ddrTest(const BringUpRun &r) {
     return checked(r, "VQ6192_Base_DDR9StepTest", rc);
 }
 
+uint32_t pppInit(const BringUpRun &r) {
+    return checked(r, "VQ6192_PPP_InitPppModule", VQ6192_PPP_InitPppModule(r.chip, r.mode));
+}
+
 uint32_t cesInit(const BringUpRun &r) {
     return checked(r, "VQ6192_CES_InitCesModule", VQ6192_CES_InitCesModule(r.chip, r.mode));
 }
@@ -221,8 +226,8 @@ uint32_t framerChannels(const BringUpRun &r) {
 
 // The bring-up sequence. Steps whose operations this library does not have yet are left out here,
 // and only here:
-//   - the ATM pseudowire, ATM, PPP and IMA initialisers before CES (VQ6192_ATM_AtmPwe3Init,
-//     VQ6192_ATM_InitAtm, VQ6192_PPP_InitPppModule, VQ6192_IMA_InitIma).
+//   - the ATM pseudowire and ATM initialisers before PPP (VQ6192_ATM_AtmPwe3Init, VQ6192_ATM_InitAtm),
+//   - the IMA initialiser between PPP and CES (VQ6192_IMA_InitIma).
 // clang-format off
 constexpr BringUpStep kSteps[] = {
     // name              restore  DDR test only  body
@@ -235,6 +240,7 @@ constexpr BringUpStep kSteps[] = {
     {"register test",    false,   false,         registerTest},
     {"DDR start",        false,   false,         ddrStart},
     {"DDR test",         false,   true,          ddrTest},
+    {"PPP",              true,    false,         pppInit},
     {"CES",              true,    false,         cesInit},
     {"framers",          true,    false,         framerInit},
     {"Ethernet",         true,    false,         ethInit},

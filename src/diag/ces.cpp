@@ -2,10 +2,12 @@
 // operation with zeroed results and, with a buffer, prints them framed by the CES separator (single
 // values) or as a field table (records); it returns the operation's status.
 #include <initializer_list>
+#include <vector>
 
 #include "diag/layout.h"
 #include "diag/registry.h"
 #include "vq6192/ces.h"
+#include "vq6192/eth.h"
 #include "vq6192/framer.h"
 
 namespace vq::diag {
@@ -324,6 +326,65 @@ VQ6192_API uint32_t getsohbypassmode(uint32_t chip, char *buf) {
     return single(buf, "GetSOHByPassMode()", rc, {{"wByPassEn", en}});
 }
 
+// The timeslots of the first 252 lines routed to CES channels (ingress), the channels' enables and
+// packet-network labels; statuses ORed.
+VQ6192_API uint32_t DbgGetCesConfig(uint32_t chip, uint32_t first, uint32_t last, char *buf) {
+    constexpr uint32_t kLines = 252;
+    struct Binding {
+        uint32_t line = 0;
+        uint32_t map = 0;
+        bool seen = false;
+    };
+    std::vector<Binding> bound(VQ6192_CES_CHAN_NUM);
+    TextBuilder text(buf);
+    uint32_t tdm = 0;
+    uint32_t rc = VQ6192_Framer_GetFrmTDMMode(chip, &tdm);
+    if (tdm > 1) {
+        text.add("Wrong TDM MODE not E1 and not T1!\n");
+    } else {
+        const uint32_t timeslots = tdm == 0 ? 32 : 24;
+        for (uint32_t line = 0; line < kLines; ++line) {
+            for (uint32_t ts = 0; ts < timeslots; ++ts) {
+                uint16_t ch = 0;
+                uint8_t type = 0, en = 0;
+                uint32_t speed = 0;
+                rc |= VQ6192_Framer_GetTsCfg(chip, VQ6192_BASE_SRV_DIRECT_INGRESS, line, ts, &ch, &type,
+                                             &speed, &en);
+                if (en == 0 || type != 3 || ch >= VQ6192_CES_CHAN_NUM) {
+                    continue;
+                }
+                Binding &b = bound[ch];
+                if (b.seen && b.line != line) {
+                    text.add("WRONG! E1: [%x] AND E1: [%x] TS: [%2lu] TO CES:[%x] CHANNEL\n", b.line, line,
+                             static_cast<unsigned long>(ts), static_cast<uint32_t>(ch));
+                    continue;
+                }
+                b = {line, b.map | 1u << ts, true};
+            }
+        }
+    }
+    if (last == 0 || last <= first) {
+        first = 0;
+        last = 31;
+    }
+    last = last > kLines - 1 ? kLines - 1 : last;
+    text.add(
+        "n-------------------------------CES CHAN----------------------------\n"
+        "CH     ENABLE   E1  TIMESLOT    LABEL_EN  TYPE  LABEL_IN    LABEL_E\n");
+    for (uint32_t ch = first; ch < last; ++ch) {
+        uint32_t en = 0, inLabel = 0, sel = 0, found = 0;
+        VQ6192_ETH_PSN_INFO_S info = {};
+        rc |= VQ6192_CES_GetCesChanEnable(chip, ch, &en);
+        rc |= VQ6192_ETH_GetAtmCesEgMpls2Chnl(chip, ch, VQ6192_ETH_SRV_CES, &inLabel, &sel, &found);
+        rc |= VQ6192_ETH_GetPSNEthInfo(chip, ch, VQ6192_ETH_SRV_CES, &info);
+        text.add(" %-3lu     %x    0x%x   0x%-8x      %x      %x    0x%-6x    0x%-6x\n",
+                 static_cast<unsigned long>(ch), en, bound[ch].line, bound[ch].map, found, sel, inLabel,
+                 info.dwLblPwLable);
+    }
+    text.add("-----------------------------------------------------------------\n");
+    return rc;
+}
+
 // Only with a buffer: each channel's parameters and RTP settings (direction 2), statuses ORed.
 VQ6192_API uint32_t DbgGetCesPara(uint32_t chip, uint32_t first, uint32_t last, char *buf) {
     if (buf == nullptr) {
@@ -406,6 +467,8 @@ constexpr Command kCommands[] = {
     VQ6192_DIAG_COMMAND(getceschanalm, "CES", "chip ch", "current channel alarms"),
     VQ6192_DIAG_COMMAND(getceschanhistoryalm, "CES", "chip ch", "latched channel alarms"),
     VQ6192_DIAG_COMMAND(getsohbypassmode, "CES", "chip", "section overhead bypass of the framers"),
+    VQ6192_DIAG_COMMAND(DbgGetCesConfig, "CES", "chip first last",
+                        "channels first..last-1 with their line, timeslots and labels"),
     VQ6192_DIAG_COMMAND(DbgGetCesPara, "CES", "chip first last", "parameter table of channels first..last-1"),
     VQ6192_DIAG_COMMAND(DbgGetCesChannelInfo, "CES", "chip ch", "kept for compatibility: prints nothing"),
     VQ6192_DIAG_COMMAND(DbgGetCesRtpParam, "CES", "chip ch", "kept for compatibility: prints nothing"),

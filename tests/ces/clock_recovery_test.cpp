@@ -21,9 +21,10 @@ TEST_F(ClockRecovery, ModeMappingBothWays) {
         capture.clear();
         ASSERT_EQ(VQ6192_CES_SetCesCRMode(kChip, 3, &m), 0u);
         EXPECT_EQ(model.peek(0x16386), 0xC000 | c.hw | 40 << 2 | 1 << 11 | 1 << 13);
-        EXPECT_EQ(capture.traceTexts(),
-                  std::vector<std::string>{"Info: VQ6192_CES_SetCesCRMode(3,3) Set CES Channel:[40] CR Mode:[" +
-                                           std::to_string(c.mode) + "]\r\n"});
+        EXPECT_EQ(
+            capture.traceTexts(),
+            std::vector<std::string>{"Info: VQ6192_CES_SetCesCRMode(3,3) Set CES Channel:[40] CR Mode:[" +
+                                     std::to_string(c.mode) + "]\r\n"});
         VQ6192_CES_CR_MODE_S out = {};
         ASSERT_EQ(VQ6192_CES_GetCesCRMode(kChip, 3, &out), 0u);
         EXPECT_EQ((std::vector<uint32_t>{out.eTrMode, out.wCesChanNo, out.wClkRateMode, out.wTrPLCEn}),

@@ -215,9 +215,9 @@ TEST_F(Settings, InitialisationDefaultsAndItsFirstFailure) {
     capture.clear();
     EXPECT_EQ(VQ6192_CES_InitCesModule(kChip, 1), kCesStep);
     EXPECT_EQ(capture.traceTexts(),
-              (std::vector<std::string>{
-                  "Err. VQ6192_Read_Table(3,94,0)       ErrCode[TimeOut]\r\n",
-                  "Err. VQ6192_CES_InitCesModule.VQ6192_CES_SetCesPktDropEnable(3,0)       ErrCode[0x3030004]\r\n"}));
+              (std::vector<std::string>{"Err. VQ6192_Read_Table(3,94,0)       ErrCode[TimeOut]\r\n",
+                                        "Err. VQ6192_CES_InitCesModule.VQ6192_CES_SetCesPktDropEnable(3,0)   "
+                                        "    ErrCode[0x3030004]\r\n"}));
     EXPECT_EQ(model.peek(0x15800 + 2), 0) << "stopped at channel 0";
     model.tables().holdBusy(kCesBlock, 0);
 }

@@ -7,6 +7,7 @@
 #include "vq6192/ces.h"
 #include "vq6192/eth.h"
 #include "vq6192/framer.h"
+#include "vq6192/ppp.h"
 #include "vq6192/sim/clocks.h"
 #include "vq6192/sim/ddr_ctrl.h"
 #include "vq6192/sim/mac.h"
@@ -376,6 +377,7 @@ TEST_F(Init, WriteLevellingCorrection) {
 TEST_F(Init, FullBringUpOrderAndWaits) {
     // The initialisers' own waits, measured alone.
     VQ6192_Platform_ResetVirtualTime();
+    ASSERT_EQ(VQ6192_PPP_InitPppModule(kChip, 1), 0u);
     ASSERT_EQ(VQ6192_CES_InitCesModule(kChip, 1), 0u);
     ASSERT_EQ(VQ6192_Framer_FrmInit(kChip, 1, 0), 0u);
     ASSERT_EQ(VQ6192_ETH_ETHInit(kChip, 1), 0u);
@@ -540,6 +542,7 @@ TEST_F(Init, BringUpFailures) {
 
 TEST_F(Init, RestoreRunsOnlyTheModuleInitialisers) {
     const auto direct = traced([&] {
+        EXPECT_EQ(VQ6192_PPP_InitPppModule(kChip, 2), 0u);
         EXPECT_EQ(VQ6192_CES_InitCesModule(kChip, 2), 0u);
         EXPECT_EQ(VQ6192_Framer_FrmInit(kChip, 2, 0), 0u);
         EXPECT_EQ(VQ6192_ETH_ETHInit(kChip, 2), 0u);

@@ -6,6 +6,7 @@
 
 #include "support/test_support.h"
 #include "vq6192/ces.h"
+#include "vq6192/eth.h"
 
 namespace {
 
@@ -77,6 +78,21 @@ TEST_F(CesCommands, NullBufferAndRanges) {
     EXPECT_EQ(text.find("\n 1f 0x"), std::string::npos) << "channel 31 not listed";
     ASSERT_EQ(DbgGetCesPara(kChip, 5, 5, buf.data()), 0u);
     EXPECT_EQ(std::count(buf.data(), buf.data() + std::strlen(buf.data()), '\n'), 3) << "no channel";
+}
+
+// The overview scans the timeslot tables for each channel's line and timeslots and shows its labels.
+TEST_F(CesCommands, ConfigurationOverview) {
+    const VQ6192_CES_CHAN_S d = {2, 3, 0xE, 0};
+    ASSERT_EQ(VQ6192_CES_CreateCesChan(kChip, &d), 0u);
+    ASSERT_EQ(VQ6192_CES_SetCesChanEnable(kChip, 3, 1), 0u);
+    ASSERT_EQ(VQ6192_ETH_SetAtmCesPMUEncpLbl(kChip, 3, 3, 1, 0x777, 0x500), 0u);
+    std::vector<char> buf(VQ6192_DIAG_BUF_SIZE);
+    ASSERT_EQ(DbgGetCesConfig(kChip, 3, 4, buf.data()), 0u);
+    EXPECT_EQ(std::string(buf.data()),
+              "n-------------------------------CES CHAN----------------------------\n"
+              "CH     ENABLE   E1  TIMESLOT    LABEL_EN  TYPE  LABEL_IN    LABEL_E\n"
+              " 3       1    0x2   0xe             1      0    0x500       0x777   \n"
+              "-----------------------------------------------------------------\n");
 }
 
 }  // namespace

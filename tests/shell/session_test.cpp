@@ -71,7 +71,15 @@ TEST_F(ShellSession, BadInputGetsOneLineErrors) {
         {"VQ6192_Rt 0 1", "error: VQ6192_Rt takes 3 arguments: chip tableId index\n"},
         {"VQ6192_Show_Printf_Flag", "error: VQ6192_Show_Printf_Flag takes 1 argument: chip\n"},
         {"VQ6192_Rt 0 0x1g 1",
-         "error: VQ6192_Rt: '0x1g' is not an integer for tableId (arguments: chip tableId index)\n"},
+         "error: VQ6192_Rt: '0x1g' is not a table name or id for tableId (arguments: chip tableId index)\n"},
+        {"VQ6192_Rt 0 Reserved 1",
+         "error: VQ6192_Rt: 'Reserved' is not a table name or id for tableId (arguments: chip tableId "
+         "index)\n"},
+        {"VQ6192_Set_Diag_Printf_Flag 0 ATMX 1",
+         "error: VQ6192_Set_Diag_Printf_Flag: 'ATMX' is not a module name "
+         "or id for module (arguments: chip module flag)\n"},
+        {"VQ6192_Rt 0x 1 1",
+         "error: VQ6192_Rt: '0x' is not an integer for chip (arguments: chip tableId index)\n"},
         {"VQ6192_Rt \"0 1 1", "error: unterminated quote\n"},
         {"rr 0", "error: rr takes chip addr\n"},
         {"rr 7 0", "error: chip 7 is not installed in this shell (chips 0..0)\n"},
@@ -93,13 +101,101 @@ TEST_F(ShellSession, HelpAndQuit) {
     const std::string all = run("help");
     EXPECT_NE(all.find("TABLE\n  VQ6192_Rt chip tableId index"), std::string::npos);
     EXPECT_NE(all.find("shell\n  rr chip addr"), std::string::npos);
-    EXPECT_EQ(run("help VQ6192_Rt"),
-              "VQ6192_Rt chip tableId index\n"
-              "  read a table entry and print it member by member\n"
-              "  module TABLE; arguments: chip (integer), tableId (integer), index (integer)\n");
+    EXPECT_EQ(
+        run("help VQ6192_Rt"),
+        "VQ6192_Rt chip tableId index\n"
+        "  read a table entry and print it member by member\n"
+        "  module TABLE; arguments: chip (installed chip id), tableId (table name or id), index (integer)\n");
+    EXPECT_EQ(
+        run("help tf tables"),
+        "tf chip table index member value\n"
+        "  set one member of a table entry\n"
+        "  shell command; arguments: chip (installed chip id), table (table name or id), index (integer), "
+        "member (member name of that table), value (integer)\n"
+        "tables [filter]\n"
+        "  list the table catalogue (names containing filter)\n"
+        "  shell command; arguments: [filter] (text)\n");
     EXPECT_EQ(run("help nosuch"), "no command 'nosuch'\n");
     EXPECT_EQ(run("quit; rr 0 2"), "");
     EXPECT_TRUE(session->quitRequested());
+}
+
+TEST_F(ShellSession, TableAndModuleArgumentsOfDiagnosticCommandsTakeNames) {
+    struct Case {
+        const char *line;
+        uint32_t module;  // print flag that must hold the value
+        uint32_t flag;
+        const char *output;
+    };
+    const Case cases[] = {
+        {"VQ6192_Set_Diag_Printf_Flag 0 frm 3", 15, 3, "Diag set module FRM flag 3 success\n"},
+        {"VQ6192_Set_Diag_Printf_Flag 0 IMA_ASI 1", 21, 1, "Diag set module IMA_ASI flag 1 success\n"},
+        {"VQ6192_Set_Diag_Printf_Flag 0 Table 9", 12, 9, "Diag set module TABLE flag 9 success\n"},
+        {"VQ6192_Set_Diag_Printf_Flag 0 off 5", 0, 5, "Diag set module OFF flag 5 success\n"},
+    };
+    for (const Case &c : cases) {
+        EXPECT_EQ(run(c.line), c.output);
+        EXPECT_EQ(g_vq6192[0].aulPrintFlag[c.module], c.flag) << c.line;
+    }
+    // END selects every module.
+    EXPECT_EQ(run("VQ6192_Set_Diag_Printf_Flag 0 end 7"), "Diag set module END flag 7 success\n");
+    for (uint32_t m = 0; m < 23; ++m) {
+        EXPECT_EQ(g_vq6192[0].aulPrintFlag[m], 7u) << m;
+    }
+
+    run("tf 0 1 5 Rtvbrpri 6");
+    const std::string byId = run("VQ6192_Rt 0 1 5");
+    EXPECT_NE(byId.find("Rtvbrpri(9:3)    = 0x6  \r\n"), std::string::npos);
+    EXPECT_EQ(run("VQ6192_Rt 0 atmpwe3PRITAB 5"), byId);
+    EXPECT_EQ(run("VQ6192_Rt 0 Atmswvct 8192", false),
+              "status 0x000c0001: chip 0, TABLE, error 1 (parameter error)\n");
+}
+
+TEST(ShellBanner, NamesTheChipsWhereTheyAreTheirBringUpAndLineEditing) {
+    vqtest::PlatformCapture capture;
+    char path[] = "/tmp/vq6192-banner-XXXXXX";
+    const int fd = mkstemp(path);
+    ASSERT_GE(fd, 0);
+    ASSERT_EQ(ftruncate(fd, 0x1000), 0);
+    const std::string window = path;
+    struct Case {
+        uint32_t chips;
+        bool mapped;
+        bool bringUp;
+        bool lineEditing;
+        std::string banner;
+    };
+    const std::string help = "; help lists the commands";
+    const Case cases[] = {
+        {1, false, true, true, "vq6192-shell: chip 0 on the chip model, brought up" + help},
+        {4, false, true, true, "vq6192-shell: chips 0..3 on the chip model, brought up" + help},
+        {1, false, false, true, "vq6192-shell: chip 0 on the chip model, not brought up" + help},
+        {2, true, true, true,
+         "vq6192-shell: chips 0..1 on the chip model, chip 2 on the mapped window " + window +
+             ", 2 of 3 brought up" + help},
+        {0, true, true, true,
+         "vq6192-shell: chip 0 on the mapped window " + window + ", not brought up" + help},
+        {1, false, true, false,
+         "vq6192-shell: chip 0 on the chip model, brought up" + help +
+             " (no line editing: built without libedit)"},
+    };
+    for (const Case &c : cases) {
+        std::ostringstream out;
+        std::ostringstream err;
+        vqshell::Session session(out, err);
+        vqshell::SessionOptions options;
+        options.chips = c.chips;
+        options.bringUp = c.bringUp;
+        if (c.mapped) {
+            options.mapped.push_back({window, 0, 0x1000, 0, 0});
+        }
+        ASSERT_TRUE(session.start(options)) << err.str();
+        EXPECT_EQ(session.banner(c.lineEditing), c.banner);
+        EXPECT_EQ(session.chipCount(), c.chips + (c.mapped ? 1 : 0));
+        EXPECT_EQ(out.str(), "") << "the banner is the caller's to print";
+    }
+    close(fd);
+    unlink(path);
 }
 
 TEST(ShellStatus, DecodesChipModuleAndError) {
@@ -158,7 +254,7 @@ TEST(ShellBringUp, ChipsOnTheModelComeUpWithAProgressLinePerStep) {
         uint16_t clocks;  // reg 0x06: every module clock but module 5's once up
     };
     const Case cases[] = {
-        {"terminal", true, true, 2 * 14, 0x7FDF},
+        {"terminal", true, true, 2 * 15, 0x7FDF},
         {"pipe", true, false, 0, 0x7FDF},
         {"no bring-up", false, true, 0, 0},
     };

@@ -1,0 +1,105 @@
+// PPP tests: a chip on the model with the PPP tables reachable by their select codes in table block
+// 0x8000, as the chip's table list gives them.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "support/test_support.h"
+#include "vq6192/framer.h"
+#include "vq6192/ppp.h"
+#include "vq6192/sim/ppp.h"
+
+namespace ppptest {
+
+// Select codes of the PPP tables in block 0x8000.
+enum Select : uint32_t {
+    kRppucfg = 0,
+    kTppucfg = 1,
+    kAfidcfg = 2,
+    kRppustat = 3,
+    kTppustat = 5,
+    kQmencfg = 7,
+    kPppencfg = 8,
+    kFragcfg = 9,
+    kLinkcfg = 11,
+    kHdfccfg = 14,
+    kMcfccfg = 15,
+    kMcqst = 17,
+    kPppwgtcfg = 22,
+    kMpwgtcfg = 23,
+    kMprpbytecnt = 27,
+    kMplooptimestp = 29,
+    kMprxmmccnt = 31,
+    kMpskyeyecfg = 32,
+    kMptesttxen = 33,
+    kHdlccfg1 = 34,
+    kHdlccfg2 = 35,
+    kMprxmmpcfg1 = 36,
+    kMprxmhdlcpktcnt = 38,
+    kMprxmbecnt = 39,
+    kMprgrpcfg = 41,
+    kMprgrppktcnt = 42,
+    kCsptcfg1 = 43,
+    kCsptcfg2 = 44,
+    kSnctrlcfg = 45,
+    kMprpmrrucfg = 48,
+    kMptestrefstat = 49,
+    kMprpkt = 50,
+    kMprbyte = 51,
+};
+
+constexpr uint32_t kPppBlock = 0x8000;
+constexpr uint32_t kTsBlock = 0x10ab;
+constexpr uint32_t kVc4Enable = 0x10048;
+
+// Status codes of chip 3 (the fixture's chip) in module PPP.
+constexpr uint32_t kParaErr = 0x03040001;
+constexpr uint32_t kNoMem = 0x03040002;
+constexpr uint32_t kTimeout = 0x03040004;
+constexpr uint32_t kNoData = 0x03040007;
+
+class PppTest : public vqtest::ChipTest {
+  protected:
+    void SetUp() override {
+        ChipTest::SetUp();
+        VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_PPP, VQ6192_PRINT_ALL);
+    }
+    // Entry bits 0..63 of a PPP table entry.
+    uint64_t entry(uint32_t select, uint32_t index) {
+        const auto e = model.tables().entry(kPppBlock, select, index);
+        return uint64_t{e[0]} | uint64_t{e[1]} << 16 | uint64_t{e[2]} << 32 | uint64_t{e[3]} << 48;
+    }
+    void setEntry(uint32_t select, uint32_t index, uint64_t bits) {
+        vq6192::sim::TableEngine::Entry e{};
+        for (uint32_t k = 0; k < 4; ++k) {
+            e[k] = static_cast<uint16_t>(bits >> (16 * k));
+        }
+        model.tables().setEntry(kPppBlock, select, index, e);
+    }
+    // Sets a 16-bit half of a longer entry (counter tables).
+    void setHalf(uint32_t select, uint32_t index, uint32_t half, uint16_t value) {
+        auto e = model.tables().entry(kPppBlock, select, index);
+        e[half] = value;
+        model.tables().setEntry(kPppBlock, select, index, e);
+    }
+    uint16_t tsEntry(uint32_t select, uint32_t e1, uint32_t ts) {
+        return model.tables().entry(kTsBlock, select, (e1 << 5) | ts)[0];
+    }
+    vq6192::sim::PppBlock &ppp() { return model.block<vq6192::sim::PppBlock>(); }
+    std::vector<vq6192::sim::BusAccess> busWrites() { return vqtest::writes(model.trace()); }
+    // Traced "ParaErr. [ ... ]" lines.
+    std::vector<std::string> paraErrs() {
+        std::vector<std::string> out;
+        for (const auto &t : capture.traces) {
+            if (t.level == VQ6192_PRINT_PARA_WRONG) {
+                out.push_back(t.text);
+            }
+        }
+        return out;
+    }
+    uint64_t virtualUs() { return VQ6192_Platform_GetVirtualTimeUs(); }
+};
+
+}  // namespace ppptest

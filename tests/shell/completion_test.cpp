@@ -1,0 +1,142 @@
+// Tab completion driven directly: a line typed so far in, the candidates for its last word out, for
+// command names, installed chips, chip tables by name and id, the members of the table given before,
+// and the print-control modules.
+#include <sstream>
+
+#include "completion.h"
+#include "session.h"
+#include "support/test_support.h"
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+class ShellCompletion : public ::testing::Test {
+  protected:
+    vqtest::PlatformCapture capture;
+    std::ostringstream out;
+    std::ostringstream err;
+    vqshell::Session session{out, err};
+
+    void SetUp() override {
+        vqshell::SessionOptions options;
+        options.chips = 3;
+        ASSERT_TRUE(session.start(options)) << err.str();
+    }
+};
+
+TEST_F(ShellCompletion, ArgumentsCompleteByWhatTheyStandFor) {
+    struct Case {
+        const char *line;
+        Words candidates;
+    };
+    const Words pritabMembers = {"Cbrpri", "Nrtvbrpri", "Rtvbrpri", "Ubrppri", "Ubrpri"};
+    const Case cases[] = {
+        // Chip tables by name, in any case; the four "Reserved" rows and the print-only layouts
+        // (Imappgpc6.., Imatxicpbuf1..) are not tables to read.
+        {"tf 0 Atmpwe3pri", {"Atmpwe3pritab"}},
+        {"tr 1 atmpwe3PRI", {"Atmpwe3pritab"}},
+        {"tr 0 Atmswv", {"Atmswvct", "Atmswvcxfifo"}},
+        {"tw 2 Atmpwe3",
+         {"Atmpwe3pktbuf", "Atmpwe3pritab", "Atmpwe3pwcfgtab", "Atmpwe3rxmanagetab", "Atmpwe3rxsttab",
+          "Atmpwe3txmanagetab", "Atmpwe3txsttab"}},
+        {"tr 0 Imappgpc", {"Imappgpc0", "Imappgpc1", "Imappgpc2", "Imappgpc3", "Imappgpc4", "Imappgpc5"}},
+        {"tr 0 Imatxicpbuf", {"Imatxicpbuf0"}},
+        {"tr 0 Res", {}},
+        {"VQ6192_Rt 0 Atmpwe3pri", {"Atmpwe3pritab"}},
+        // Table ids once a digit is typed: chip tables are 0..216.
+        {"tr 0 21", {"21", "210", "211", "212", "213", "214", "215", "216"}},
+        {"VQ6192_Rt 0 7", {"7", "70", "71", "72", "73", "74", "75", "76", "77", "78", "79"}},
+        {"tr 0 217", {}},
+        // Members after the table, by its name or id.
+        {"tf 0 Atmpwe3pritab 5 ", pritabMembers},
+        {"tf 0 atmpwe3pritab 5 ", pritabMembers},
+        {"tf 0 1 31 Ubr", {"Ubrppri", "Ubrpri"}},
+        {"tf 0 1 31 nrt", {"Nrtvbrpri"}},
+        {"tf 0 Nosuchtable 5 ", {}},
+        {"tf 0 1 31 Cbrpri ", {}},
+        // Modules of the print-flag commands, by name or id (0 OFF .. 22 END).
+        {"VQ6192_Set_Diag_Printf_Flag 0 AT", {"ATM", "ATM_ASI"}},
+        {"VQ6192_Set_Diag_Printf_Flag 0 i", {"IMA", "IMA_ASI", "INT"}},
+        {"VQ6192_Set_Diag_Printf_Flag 0 C", {"CES", "CES_ASI", "CPOS_ASI"}},
+        {"VQ6192_Set_Diag_Printf_Flag 0 2", {"2", "20", "21", "22"}},
+        {"VQ6192_Set_Diag_Printf_Flag 0 ATM ", {}},
+        // Installed chips only: this session has three.
+        {"rr ", {"0", "1", "2"}},
+        {"VQ6192_Show_Printf_Flag ", {"0", "1", "2"}},
+        {"tf 2", {"2"}},
+        {"rr 3", {}},
+        // Plain integers, unknown commands and commands without arguments offer nothing.
+        {"rr 0 ", {}},
+        {"tw 0 1 0 0x1 ", {}},
+        {"nosuch ", {}},
+        {"quit ", {}},
+        // Only the command under the cursor counts; nothing inside quotes or a comment.
+        {"rr 0 2; tr 0 Atmswv", {"Atmswvct", "Atmswvcxfifo"}},
+        {"tr 0 \"Atmswv", {}},
+        {"rr 0 2 # tr 0 Atmswv", {}},
+    };
+    for (const Case &c : cases) {
+        EXPECT_EQ(vqshell::complete(session, c.line).candidates, c.candidates) << c.line;
+    }
+}
+
+TEST_F(ShellCompletion, CommandNamesFirstAndAfterHelp) {
+    struct Case {
+        const char *line;
+        Words mustOffer;
+    };
+    const Case cases[] = {
+        {"t", {"tables", "tf", "tr", "tw"}},
+        {"VQ6192_R", {"VQ6192_Rt"}},
+        {"VQ6192_S", {"VQ6192_Set_Diag_Printf_Flag", "VQ6192_Show_Printf_Flag"}},
+        {"", {"VQ6192_Rt", "help", "quit", "rr", "tables"}},
+        {"help ", {"VQ6192_Rt", "rd", "tf"}},
+        {"help rr VQ6192_Sh", {"VQ6192_Show_Printf_Flag"}},
+        {"rr 0 2;r", {"rd", "rr", "rw"}},
+    };
+    for (const Case &c : cases) {
+        const vqshell::Completion got = vqshell::complete(session, c.line);
+        const std::string line = c.line;
+        const std::string prefix = line.substr(got.start);
+        for (const std::string &name : c.mustOffer) {
+            EXPECT_NE(std::find(got.candidates.begin(), got.candidates.end(), name), got.candidates.end())
+                << c.line << " -> " << name;
+        }
+        for (const std::string &name : got.candidates) {
+            EXPECT_EQ(name.compare(0, prefix.size(), prefix), 0) << c.line << " offers " << name;
+        }
+        EXPECT_TRUE(std::is_sorted(got.candidates.begin(), got.candidates.end())) << c.line;
+        EXPECT_EQ(std::adjacent_find(got.candidates.begin(), got.candidates.end()), got.candidates.end())
+            << c.line << " offers a name twice";
+    }
+    EXPECT_TRUE(vqshell::complete(session, "xyzzy").candidates.empty());
+}
+
+TEST_F(ShellCompletion, WordStartAndCommonStart) {
+    struct Case {
+        const char *line;
+        size_t start;
+        size_t count;
+        const char *common;
+    };
+    const Case cases[] = {
+        {"tf 0 atmpwe3pri", 5, 1, "Atmpwe3pritab"},
+        {"rr 0 2;  tr 0 Atmswv", 14, 2, "Atmswvc"},
+        {"tf 0 1 31 Ubr", 10, 2, "Ubrp"},
+        {"VQ6192_Set_Diag_Printf_Flag 0 at", 30, 2, "ATM"},
+        // A bare Tab on a table lists the names of the 217 chip tables but the four "Reserved" ones.
+        {"tr\t0\t", 5, 213, ""},
+        {"VQ6192_Set_Diag_Printf_Flag 0 ", 30, 23, ""},
+    };
+    for (const Case &c : cases) {
+        const vqshell::Completion got = vqshell::complete(session, c.line);
+        EXPECT_EQ(got.start, c.start) << c.line;
+        EXPECT_EQ(got.candidates.size(), c.count) << c.line;
+        EXPECT_EQ(vqshell::commonStart(got.candidates), c.common) << c.line;
+    }
+    EXPECT_EQ(vqshell::commonStart({}), "");
+    EXPECT_EQ(vqshell::commonStart({"Cbrpri"}), "Cbrpri");
+}
+
+}  // namespace
