@@ -155,6 +155,8 @@ const Session::Builtin Session::kBuiltins[] = {
     {"tf", "chip table index member value", "set one member of a table entry", 5, 5, &Session::cmdTableField},
     {"tables", "[filter]", "list the table catalogue (names containing filter)", 0, 1, &Session::cmdTables,
      "text"},
+    {"dump", "chip [group|all] [file]", "default chip dump into a file (vq6192-chipN.bd), with progress", 1,
+     3, &Session::cmdDump},
 };
 
 Session::Session(std::ostream &out, std::ostream &err) : out_(out), err_(err) {}

@@ -84,6 +84,7 @@ class Session {
     bool cmdTableWrite(const std::vector<std::string> &args);
     bool cmdTableField(const std::vector<std::string> &args);
     bool cmdTables(const std::vector<std::string> &args);
+    bool cmdDump(const std::vector<std::string> &args);  // dump_command.cpp
 
     // Argument helpers: each reports its own error.
     bool integer(const std::string &word, const char *what, uint32_t *value);

@@ -1,6 +1,7 @@
 // Every block model of the chip, created with each chip model: one line per block.
 #include "vq6192/sim.h"
 #include "vq6192/sim/ces.h"
+#include "vq6192/sim/atm.h"
 #include "vq6192/sim/chip_control.h"
 #include "vq6192/sim/clocks.h"
 #include "vq6192/sim/ddr.h"
@@ -14,6 +15,7 @@
 #include "vq6192/sim/sam.h"
 #include "vq6192/sim/sdh_paths.h"
 #include "vq6192/sim/telecom.h"
+#include "vq6192/sim/register_window.h"
 
 namespace vq6192::sim {
 
@@ -32,6 +34,8 @@ void installBlocks(ChipModel &model) {
     model.block<ClockBlock>();
     model.block<DdrCtrlBlock>();
     model.block<PppBlock>();
+    model.block<RegisterWindow>();
+    model.block<AtmBlock>();
 }
 
 }  // namespace vq6192::sim

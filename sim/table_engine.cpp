@@ -127,6 +127,15 @@ void TableEngine::onCommand(size_t block, uint16_t newValue, uint16_t oldValue) 
     uint32_t select = fieldOf(regValue(layout.select.reg), layout.select);
     uint32_t address = fieldOf(regValue(layout.address.reg), layout.address);
     BlockState &s = state_[block];
+    if (s.failIn != 0 && --s.failIn == 0) {
+        s.busyPolls = kForever;
+        return;
+    }
+    if (command == layout.readGo) {
+        for (const CommandHook &hook : s.hooks) {
+            hook(select, address, false);
+        }
+    }
     if (command == layout.writeGo) {
         Entry e{};
         for (uint32_t k = 0; k < layout.dataRegs; ++k) {
@@ -134,6 +143,9 @@ void TableEngine::onCommand(size_t block, uint16_t newValue, uint16_t oldValue) 
         }
         memory_[keyOf(block, select, address)] = e;
         s.writes++;
+        for (const CommandHook &hook : s.hooks) {
+            hook(select, address, true);
+        }
     } else {
         auto it = memory_.find(keyOf(block, select, address));
         for (uint32_t k = 0; k < layout.dataRegs; ++k) {
@@ -165,6 +177,14 @@ void TableEngine::holdBusy(uint32_t block, uint32_t polls) {
 
 void TableEngine::setCommandBusy(uint32_t block, uint32_t polls) {
     state_[blockIndex(block)].commandBusy = polls;
+}
+
+void TableEngine::onTableCommand(uint32_t block, CommandHook hook) {
+    state_[blockIndex(block)].hooks.push_back(std::move(hook));
+}
+
+void TableEngine::failCommand(uint32_t block, uint32_t n) {
+    state_[blockIndex(block)].failIn = n;
 }
 
 uint64_t TableEngine::writesExecuted(uint32_t block) const {

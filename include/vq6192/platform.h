@@ -70,6 +70,24 @@ VQ6192_API void VQ6192_Platform_FailSemCreates(uint32_t after, uint32_t count);
 VQ6192_API void VQ6192_Platform_FailSemTakes(uint32_t after, uint32_t count);
 VQ6192_API void VQ6192_Platform_FailSemGives(uint32_t after, uint32_t count);
 
+/* ---- Dump files --------------------------------------------------------------------------------
+ * The library's own dump file hooks, which VQ6192_DUMP_F installs. Without file functions each does
+ * nothing and returns 0, leaving the handle 0 (so a default dump writes no file and its flushes fail).
+ * A host that wants the default dump in a file installs file functions here (null record: none);
+ * 0 = success, and an open must give a nonzero handle. */
+typedef struct {
+    void *ctx;
+    uint32_t (*pfnOpen)(void *ctx, const char *name, const char *mode, uintptr_t *handle);
+    uint32_t (*pfnWrite)(void *ctx, const void *data, uint32_t size, uint32_t count, uintptr_t handle);
+    uint32_t (*pfnClose)(void *ctx, uintptr_t *handle);
+} VQ6192_PLATFORM_FILE_HOOKS;
+
+VQ6192_API void VQ6192_Platform_SetFileHooks(const VQ6192_PLATFORM_FILE_HOOKS *hooks);
+
+VQ6192_API uint32_t vq6192_fileopen_func(const char *name, const char *mode, uintptr_t *handle);
+VQ6192_API uint32_t vq6192_filewrite_func(const void *data, uint32_t size, uint32_t count, uintptr_t handle);
+VQ6192_API uint32_t vq6192_fileclose_func(uintptr_t *handle);
+
 VQ6192_EXTERN_C_END
 
 #endif /* VQ6192_PLATFORM_H */

@@ -66,6 +66,14 @@ class TableEngine {
     // Every command of a block keeps its busy bit set for n polls after it started.
     void setCommandBusy(uint32_t block, uint32_t polls);
 
+    // Block models that stand behind a table (FIFOs, counters that move): `hook` is told of every
+    // command of the block, before a read loads its entry and after a write stored it.
+    using CommandHook = std::function<void(uint32_t select, uint32_t address, bool write)>;
+    void onTableCommand(uint32_t block, CommandHook hook);
+    // The n-th table command of a block from now on (1: the next) is not carried out and leaves the
+    // busy bit set for ever; 0 cancels.
+    void failCommand(uint32_t block, uint32_t n);
+
     uint64_t writesExecuted(uint32_t block) const;
     uint64_t readsExecuted(uint32_t block) const;
     // Register numbers of the blocks the model knows.
@@ -75,6 +83,8 @@ class TableEngine {
     struct BlockState {
         uint32_t busyPolls = 0;
         uint32_t commandBusy = 0;
+        uint32_t failIn = 0;
+        std::vector<CommandHook> hooks;
         uint64_t writes = 0;
         uint64_t reads = 0;
     };

@@ -315,6 +315,11 @@ VQ6192_API uint32_t getsrvpdstat(uint32_t chip, char *buf) {
 namespace vq::diag {
 namespace {
 
+// The shell hands every integer over as u32: a group filter of 0xFFFFFFFF is -1, every group.
+uint32_t dumpDefault(uint32_t chip, uint32_t groupFilter) {
+    return VQ6192_DUMP_F(chip, static_cast<int32_t>(groupFilter));
+}
+
 constexpr Command kCommands[] = {
     // Print control
     VQ6192_DIAG_COMMAND(VQ6192_Show_Printf_Flag, "BASE", "chip", "show the print flag of every module"),
@@ -339,6 +344,9 @@ constexpr Command kCommands[] = {
     VQ6192_DIAG_COMMAND(getdieid, "BASE", "chip", "show the die id"),
     VQ6192_DIAG_COMMAND(getsrvpowerdownen, "BASE", "chip", "show the power-down enable of ATM, PPP and CES"),
     VQ6192_DIAG_COMMAND(getsrvpdstat, "BASE", "chip", "show the power-down status of ATM, PPP and CES"),
+    // Chip dump
+    makeCommand<dumpDefault>("VQ6192_DUMP_F", "DUMP", "chip groupFilter",
+                             "default chip dump through the library's file hooks (filter 0xFFFFFFFF: all)"),
 };
 
 }  // namespace

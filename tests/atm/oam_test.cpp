@@ -1,0 +1,363 @@
+// OAM cells and CRC-10: the CRC table and checks against an independent bitwise division, each cell
+// kind built and pushed through the insertion FIFO, reported cells read back, the location ID and the
+// per-connection OAM flags.
+#include <array>
+
+#include "atm/atm_fixture.h"
+#include "vq6192/platform.h"
+
+namespace {
+
+using namespace atmtest;
+using Cell = std::array<uint8_t, 53>;
+using Word = vq6192::sim::AtmBlock::FifoWord;
+
+// Remainder of a bit string (most significant bit first) divided by x^10 + x^9 + x^5 + x^4 + x + 1.
+uint32_t polyMod(const uint8_t *bytes, size_t n) {
+    uint32_t r = 0;
+    for (size_t i = 0; i < n * 8; ++i) {
+        r = r << 1 | (bytes[i / 8] >> (7 - i % 8) & 1u);
+        if ((r & 0x400u) != 0) {
+            r ^= 0x633u;
+        }
+    }
+    return r;
+}
+
+// A payload with its CRC field (the last ten bits) filled by long division.
+void seal(uint8_t *payload) {
+    payload[46] &= 0xFC;
+    payload[47] = 0;
+    const uint32_t crc = polyMod(payload, 48);
+    payload[46] |= static_cast<uint8_t>(crc >> 8);
+    payload[47] = static_cast<uint8_t>(crc);
+}
+
+std::vector<Word> fifoWords(uint16_t vcx, const Cell &c) {
+    std::vector<Word> w = {{vcx, true, false}, {0, false, false}};
+    for (int k = 2; k <= 14; ++k) {
+        const uint8_t *b = c.data() + 4 * k - 8;
+        w.push_back({uint32_t(b[0]) << 24 | uint32_t(b[1]) << 16 | uint32_t(b[2]) << 8 | b[3], false, false});
+    }
+    w.push_back({uint32_t(c[52]) << 24, false, true});
+    return w;
+}
+
+class OamTest : public AtmTest {};
+
+TEST_F(OamTest, Crc10TableAndChecks) {
+    ASSERT_EQ(VQ6192_ATM_gen_byte_crc10_table(kChip), 0u);
+    EXPECT_EQ(g_VQ6192_byte_crc10_table[kChip][1], 0x233);
+    EXPECT_EQ(g_VQ6192_byte_crc10_table[kChip][2], 0x255);
+    EXPECT_EQ(g_VQ6192_byte_crc10_table[kChip][128], 0x188);
+    EXPECT_EQ(g_VQ6192_byte_crc10_table[kChip][255], 0x0E1);
+    // Entry i is i x^10 modulo the generator.
+    for (uint32_t i = 0; i < 256; ++i) {
+        const uint32_t v = i << 10;
+        const uint8_t b[3] = {static_cast<uint8_t>(v >> 16), static_cast<uint8_t>(v >> 8),
+                              static_cast<uint8_t>(v)};
+        EXPECT_EQ(g_VQ6192_byte_crc10_table[kChip][i], polyMod(b, 3)) << i;
+    }
+    uint32_t seed = 12345;
+    for (int n = 0; n < 20; ++n) {
+        uint8_t p[48];
+        for (uint8_t &b : p) {
+            seed = seed * 1103515245u + 12345u;
+            b = static_cast<uint8_t>(seed >> 16);
+        }
+        SCOPED_TRACE(n);
+        EXPECT_EQ(VQ6192_ATM_crc10(kChip, p, 0), polyMod(p, 48)) << "check of an unsealed payload";
+        uint8_t sealed[48];
+        std::copy(p, p + 48, sealed);
+        seal(sealed);
+        const uint8_t high = p[46];
+        EXPECT_EQ(VQ6192_ATM_crc10(kChip, p, 1), uint32_t(sealed[46] & 3u) << 8 | sealed[47]);
+        EXPECT_TRUE(std::equal(p, p + 48, sealed));
+        EXPECT_EQ(p[46] & 0xFC, high & 0xFC) << "reserved bits kept";
+        EXPECT_EQ(VQ6192_ATM_crc10(kChip, p, 0), 0u) << "a sealed payload checks to 0";
+    }
+    const uint8_t data[3] = {1, 2, 3};
+    EXPECT_EQ(VQ6192_ATM_update_crc10_by_bytes(kChip, 0x155, data, 0), 0x155);
+    EXPECT_EQ(VQ6192_ATM_update_crc10_by_bytes(kChip, 0x155, data, -4), 0x155);
+    EXPECT_EQ(VQ6192_ATM_crc10(kChip, nullptr, 1), kPara);
+    capture.clear();
+    EXPECT_EQ(VQ6192_ATM_update_crc10_by_bytes(kChip, 7, nullptr, 3), 7);
+    EXPECT_TRUE(traced("ParaErr. \r\n"));
+}
+
+TEST_F(OamTest, FaultManagementCells) {
+    struct Case {
+        uint32_t flow, level, func;
+        uint8_t byte3;
+    };
+    const Case cases[] = {
+        {1, 0, 16, 0x30}, {2, 0, 16, 0x40}, {1, 1, 17, 0x08}, {2, 1, 20, 0x0A}, {2, 0, 20, 0x40},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(testing::Message() << k.flow << "/" << k.level << "/" << k.func);
+        Cell got;
+        got.fill(0xEE);
+        ASSERT_EQ(VQ6192_ATM_FillInsOamCell(kChip, k.flow, k.level, k.func, got.data()), 0u);
+        Cell want{};
+        want[3] = k.byte3;
+        want[5] = static_cast<uint8_t>(k.func);
+        for (int i = 6; i <= 52; ++i) {
+            want[i] = 0x6A;
+        }
+        seal(want.data() + 5);
+        EXPECT_EQ(got, want);
+        uint8_t b3 = 0;
+        ASSERT_EQ(VQ6192_ATM_FillInsertCellHead(kChip, k.flow, k.level, &b3), 0u);
+        EXPECT_EQ(b3, k.byte3);
+    }
+    // The F4 end-to-end AIS cell: CRC-10 0x2DC in its last two bytes.
+    Cell ais{};
+    ASSERT_EQ(VQ6192_ATM_FillInsOamCell(kChip, 2, 0, 16, ais.data()), 0u);
+    EXPECT_EQ(ais[51], 0x6A);
+    EXPECT_EQ(ais[52], 0xDC);
+    uint8_t b3 = 0x55;
+    EXPECT_EQ(VQ6192_ATM_FillInsertCellHead(kChip, 3, 0, &b3), kPara);
+    EXPECT_EQ(VQ6192_ATM_FillInsertCellHead(kChip, 1, 2, &b3), kPara);
+    EXPECT_EQ(b3, 0x55);
+    EXPECT_EQ(VQ6192_ATM_FillInsOamCell(kChip, 1, 0, 18, ais.data()), kPara);
+}
+
+TEST_F(OamTest, EachCellKindIsPushedWordByWord) {
+    struct Case {
+        const char *name;
+        uint32_t (*insert)(uint32_t, uint32_t, uint32_t, uint32_t);
+        uint8_t func;
+    };
+    const Case cases[] = {
+        {"AIS", VQ6192_ATM_InsertAISCell, 0x10},
+        {"RDI", VQ6192_ATM_InsertRDICell, 0x11},
+        {"CC", VQ6192_ATM_InsertCCCell, 0x14},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.name);
+        VQ6192_ATM_SetOamFifoClear(kChip, 1);
+        ASSERT_EQ(k.insert(kChip, 8191, 1, 1), 0u);
+        Cell want{};
+        want[3] = 0x08;
+        want[5] = k.func;
+        for (int i = 6; i <= 52; ++i) {
+            want[i] = 0x6A;
+        }
+        seal(want.data() + 5);
+        EXPECT_EQ(atm().inserted(), fifoWords(8191, want));
+        model.clearTrace();
+        EXPECT_EQ(k.insert(kChip, 8192, 1, 1), kPara);
+        EXPECT_EQ(k.insert(kChip, 1, 0, 1), kPara);
+        EXPECT_TRUE(model.trace().empty());
+    }
+    VQ6192_ATM_SetOamFifoClear(kChip, 1);
+    uint8_t llid[16];
+    uint8_t src[16];
+    for (int i = 0; i < 16; ++i) {
+        llid[i] = static_cast<uint8_t>(0xA0 + i);
+        src[i] = static_cast<uint8_t>(0x10 + i);
+    }
+    ASSERT_EQ(VQ6192_ATM_InsertLBCell(kChip, 77, llid, src, 0x01020304, 2, 0, 1), 0u);
+    Cell want{};
+    want[3] = 0x40;
+    want[5] = 0x18;
+    want[6] = 1;
+    want[7] = 1, want[8] = 2, want[9] = 3, want[10] = 4;
+    for (int i = 0; i < 16; ++i) {
+        want[11 + i] = llid[i];
+        want[27 + i] = src[i];
+    }
+    for (int i = 43; i < 53; ++i) {
+        want[i] = 0x6A;
+    }
+    seal(want.data() + 5);
+    EXPECT_EQ(atm().inserted(), fifoWords(77, want));
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_ATM_InsertLBCell(kChip, 77, llid, src, 1, 2, 0, 2), kPara);
+    EXPECT_EQ(VQ6192_ATM_InsertLBCell(kChip, 77, nullptr, src, 1, 2, 0, 1), kPara);
+    EXPECT_EQ(VQ6192_ATM_InsertOamCell(kChip, 8192, want.data()), kPara);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+TEST_F(OamTest, ReportedCellsAreReadBack) {
+    Cell cell;
+    for (int i = 0; i < 53; ++i) {
+        cell[i] = static_cast<uint8_t>(i * 7 + 1);
+    }
+    for (auto get : {VQ6192_ATM_GetOamCell, VQ6192_ATM_GetOamCellTest}) {
+        atm().pushReportWord({0xDEAD, false, false});  // the tail of an earlier cell
+        atm().reportCell(0x1ABC, cell);
+        uint16_t vcx = 0;
+        Cell got{};
+        ASSERT_EQ(get(kChip, &vcx, got.data()), 0u);
+        EXPECT_EQ(vcx, 0x1ABC);
+        EXPECT_EQ(got, cell);
+        EXPECT_EQ(atm().reportWordsLeft(), 0u);
+
+        // Empty: the outputs stay as they were, and nothing is traced.
+        capture.clear();
+        vcx = 5;
+        got.fill(9);
+        EXPECT_EQ(get(kChip, &vcx, got.data()), kPara);
+        EXPECT_EQ(vcx, 5);
+        EXPECT_EQ(got[0], 9);
+        EXPECT_TRUE(capture.traceTexts().empty());
+
+        // No start of cell within 17 words.
+        for (int i = 0; i < 20; ++i) {
+            atm().pushReportWord({1, false, false});
+        }
+        EXPECT_EQ(get(kChip, &vcx, got.data()), kPara);
+        EXPECT_EQ(atm().reportWordsLeft(), 3u);
+        VQ6192_ATM_SetOamCapFifoClear(kChip);
+        EXPECT_EQ(atm().reportWordsLeft(), 0u);
+    }
+    uint16_t vcx = 0;
+    Cell got{};
+    EXPECT_EQ(VQ6192_ATM_GetOamCell(kChip, nullptr, got.data()), kPara);
+    EXPECT_EQ(VQ6192_ATM_GetOamCellTest(kChip, &vcx, nullptr), kPara);
+}
+
+TEST_F(OamTest, GuardedReadOfTheReportFlag) {
+    atm().reportCell(3, Cell{});
+    uint16_t vcx = 0;
+    Cell got{};
+    VQ6192_Platform_FailSemTakes(0, 1);
+    EXPECT_EQ(VQ6192_ATM_GetOamCellTest(kChip, &vcx, got.data()), 0x03020003u);
+    EXPECT_TRUE(capture.traceTexts().empty());
+    EXPECT_TRUE(capture.logTexts().empty());
+    EXPECT_EQ(failCounters()[1], 1u);
+    model.refuseArbitration(1);
+    capture.clear();
+    EXPECT_EQ(VQ6192_ATM_GetOamCellTest(kChip, &vcx, got.data()), 0x03020008u);
+    EXPECT_EQ(capture.logTexts(),
+              (std::vector<std::string>{"chip 3 pwe3 read reg get attrb fail oam,addr 0xa262"}));
+    EXPECT_EQ(failCounters()[0], 1u);
+    VQ6192_Platform_FailSemGives(0, 1);
+    capture.clear();
+    EXPECT_EQ(VQ6192_ATM_GetOamCellTest(kChip, &vcx, got.data()), 0x03020008u);
+    EXPECT_EQ(capture.logTexts(),
+              (std::vector<std::string>{"chip 3 pwe3 read reg give sem fail,addr 0xa262"}));
+    EXPECT_EQ(VQ6192_ATM_GetOamCellTest(kChip, &vcx, got.data()), 0u);
+    EXPECT_EQ(vcx, 3);
+}
+
+TEST_F(OamTest, LocationId) {
+    model.poke(0xA284, 0xFFFE);
+    uint8_t id[16];
+    for (int i = 0; i < 16; ++i) {
+        id[i] = static_cast<uint8_t>(i);
+    }
+    ASSERT_EQ(VQ6192_ATM_SetOamLLID(kChip, id), 0u);
+    const auto w = vqtest::writes(model.trace());
+    ASSERT_EQ(w.size(), 10u);
+    EXPECT_EQ(w.front().addr, 0xA284u);
+    EXPECT_EQ(w.front().value, 0xFFFEu) << "invalid while rewritten";
+    EXPECT_EQ(w.back().addr, 0xA284u);
+    EXPECT_EQ(w.back().value, 0xFFFFu);
+    for (int i = 0; i < 8; ++i) {
+        EXPECT_EQ(w[1 + i].addr, 0xA274u + 2 * (7 - i));
+        EXPECT_EQ(model.peek(0xA282 - 2 * i), (2 * i) << 8 | (2 * i + 1)) << "ID bytes " << 2 * i;
+    }
+    uint8_t back[16] = {};
+    ASSERT_EQ(VQ6192_ATM_GetOamLLID(kChip, back), 0u);
+    EXPECT_TRUE(std::equal(id, id + 16, back));
+}
+
+TEST_F(OamTest, ContinuityCheckFlags) {
+    struct Case {
+        uint32_t start, flowType, action, bits4649, state;
+    };
+    const Case cases[] = {
+        {0x0, 1, 1, 0xA, 1}, {0x0, 1, 2, 0x5, 2}, {0x0, 1, 3, 0xF, 3}, {0x0, 2, 3, 0xC, 3},
+        {0xF, 1, 0, 0x0, 0}, {0xF, 0, 4, 0x5, 2}, {0xF, 0, 5, 0xA, 1}, {0x5, 0, 1, 0xD, 3},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(testing::Message() << "action " << k.action << " type " << k.flowType);
+        setBits(kVct, 8191, 0, 69, ~0ull);
+        setBits(kVct, 8191, 64, 5, 0x1F);
+        setBits(kVct, 8191, 46, 4, k.start);
+        ASSERT_EQ(VQ6192_ATM_SetOamLinkCC(kChip, 8191, k.flowType, k.action), 0u);
+        EXPECT_EQ(bits(kVct, 8191, 46, 4), k.bits4649);
+        EXPECT_EQ(bits(kVct, 8191, 0, 46), (1ull << 46) - 1);
+        EXPECT_EQ(bits(kVct, 8191, 50, 19), 0x7FFFFu);
+        uint8_t src = 9;
+        uint8_t sink = 9;
+        uint32_t state = 9;
+        ASSERT_EQ(VQ6192_ATM_GetOamLinkCC(kChip, 8191, &src, &sink, &state), 0u);
+        EXPECT_EQ(state, k.state);
+        EXPECT_EQ(src, k.bits4649 >> 1 & 1u);
+        EXPECT_EQ(sink, k.bits4649 & 1u);
+    }
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_ATM_SetOamLinkCC(kChip, 8192, 1, 1), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetOamLinkCC(kChip, 1, 3, 1), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetOamLinkCC(kChip, 1, 1, 6), kPara);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+TEST_F(OamTest, SegmentEndPointsAndAutomaticInsertion) {
+    for (uint32_t type = 0; type < 4; ++type) {
+        setBits(kVct, 9, 0, 69, ~0ull);
+        setBits(kVct, 9, 64, 5, 0x1F);
+        ASSERT_EQ(VQ6192_ATM_SetOamSegEnd(kChip, 9, type), 0u);
+        EXPECT_EQ(bits(kVct, 9, 51, 1), type & 1u) << "segment point";
+        EXPECT_EQ(bits(kVct, 9, 50, 1), type >> 1) << "end point";
+        EXPECT_EQ(bits(kVct, 9, 0, 50), (1ull << 50) - 1);
+        uint32_t back = 9;
+        ASSERT_EQ(VQ6192_ATM_GetOamSegEnd(kChip, 9, &back), 0u);
+        EXPECT_EQ(back, type);
+    }
+    const uint32_t bitOf[4] = {45, 44, 43, 42};  // segment AIS, end AIS, segment RDI, end RDI
+    for (uint32_t kind = 0; kind < 4; ++kind) {
+        setBits(kVct, 9, 0, 69, 0);
+        ASSERT_EQ(VQ6192_ATM_SetOamAutoInsertEn(kChip, 9, kind, 1), 0u);
+        EXPECT_EQ(bits(kVct, 9, 0, 64), 1ull << bitOf[kind]);
+        uint8_t en = 0;
+        ASSERT_EQ(VQ6192_ATM_GetOamAutoInsertEnStat(kChip, 9, kind, &en), 0u);
+        EXPECT_EQ(en, 1);
+    }
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_ATM_SetOamSegEnd(kChip, 9, 4), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetOamAutoInsertEn(kChip, 9, 4, 1), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetOamAutoInsertEn(kChip, 9, 0, 2), kPara);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+TEST_F(OamTest, LossOfContinuityVcxFifoAndCrcCheck) {
+    model.poke(0xA008, 0xFFE0);
+    atm().setCcloc(8192, true);
+    uint8_t loc = 0;
+    ASSERT_EQ(VQ6192_ATM_GetOamCcloc(kChip, 8192, &loc), 0x030C0001u) << "the status table ends at 8191";
+    atm().setCcloc(100, true);
+    model.clearTrace();
+    ASSERT_EQ(VQ6192_ATM_GetOamCcloc(kChip, 100, &loc), 0u);
+    EXPECT_EQ(loc, 1);
+    const auto w = vqtest::writes(model.trace());
+    ASSERT_GE(w.size(), 2u);
+    EXPECT_EQ(w.front().addr, 0xA008u);
+    EXPECT_EQ(w.front().value, 0xFFF0u);
+    EXPECT_EQ(w.back().addr, 0xA008u);
+    EXPECT_EQ(w.back().value, 0xFFFFu);
+    atm().setCcloc(100, false);
+    ASSERT_EQ(VQ6192_ATM_GetOamCcloc(kChip, 100, &loc), 0u);
+    EXPECT_EQ(loc, 0);
+
+    atm().pushVcx(0x1ABC);
+    atm().pushVcx(7);
+    uint16_t vcx = 0;
+    ASSERT_EQ(VQ6192_ATM_GetOamVcxFifo(kChip, &vcx), 0u);
+    EXPECT_EQ(vcx, 0x1ABC);
+    ASSERT_EQ(VQ6192_ATM_GetOamVcxFifo(kChip, &vcx), 0u);
+    EXPECT_EQ(vcx, 7);
+
+    model.poke(0xA2C0, 0xFFFE);
+    ASSERT_EQ(VQ6192_ATM_SetOamCrcEn(kChip, 1), 0u);
+    EXPECT_EQ(model.peek(0xA2C0), 0xFFFF);
+    uint8_t en = 0;
+    ASSERT_EQ(VQ6192_ATM_GetOamCrcEnStat(kChip, &en), 0u);
+    EXPECT_EQ(en, 1);
+    EXPECT_EQ(VQ6192_ATM_SetOamCrcEn(kChip, 2), kPara);
+}
+
+}  // namespace

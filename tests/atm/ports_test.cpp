@@ -1,0 +1,325 @@
+// ATM ports, queues and module start: transparent ports, the line-port loop, the queue-delete
+// handshake, the port queue rate, the table and FIFO clears and the start sequence.
+#include <chrono>
+
+#include "atm/atm_fixture.h"
+#include "vq6192/platform.h"
+
+namespace {
+
+using namespace atmtest;
+using vq6192::sim::AtmBlock;
+using vq6192::sim::BusAccess;
+
+using RegWrite = std::pair<uint32_t, uint32_t>;
+
+class PortTest : public AtmTest {
+  protected:
+    // Register writes outside the table-access block: (address, register value written).
+    std::vector<RegWrite> regWrites() {
+        std::vector<RegWrite> out;
+        for (const BusAccess &a : vqtest::writes(model.trace())) {
+            if (a.addr >= 0xA008 && !(a.addr >= 0xA020 && a.addr < 0xA054)) {
+                out.push_back({a.addr, a.value});
+            }
+        }
+        return out;
+    }
+    void prefillPort(uint32_t line, uint32_t sys) {
+        fillEntryWide(kLinkQm, 8192 + line, 46);
+        fillEntryWide(kBmFifo, line, 64);
+        fillEntry(kLpct, line, 15);
+        fillEntry(kSpct, sys, 12);
+    }
+};
+
+using RegWrite = std::pair<uint32_t, uint32_t>;
+
+TEST_F(PortTest, TransparentPortMapsLineAndSystemPort) {
+    prefillPort(335, 2047);
+    const uint32_t th[3] = {0x7FFFF, 0x12345, 0x1};
+    ASSERT_EQ(VQ6192_ATM_AddAtmTransConn(kChip, 335, 2047, th), 0u);
+    EXPECT_EQ(bits(kLinkQm, 8192 + 335, 0, 46), (((1ull << 46) - 1) & ~(0x3FFull << 16)) | 335ull << 16)
+        << "port bound, not deleted";
+    EXPECT_EQ(bits(kBmFifo, 335, 0, 19), 0x1u) << "drop";
+    EXPECT_EQ(bits(kBmFifo, 335, 19, 19), 0x12345u) << "pause cancel";
+    EXPECT_EQ(bits(kBmFifo, 335, 38, 19), 0x7FFFFu) << "pause";
+    EXPECT_EQ(bits(kBmFifo, 335, 57, 7), 0x7Fu) << "kept";
+    EXPECT_EQ(bits(kLpct, 335, 0, 15), 2047u << 4 | 0xDu);  // transparent, no loop, NNI kept, enabled
+    EXPECT_EQ(bits(kSpct, 2047, 0, 12), 335u << 3 | 0x7u);
+    uint8_t map = 0;
+    uint16_t peer = 0;
+    EXPECT_EQ(VQ6192_ATM_GetAtmTransConnSingle(kChip, 335, 0, &map, &peer), 0u);
+    EXPECT_EQ(map, 1);
+    EXPECT_EQ(peer, 2047);
+    EXPECT_EQ(VQ6192_ATM_GetAtmTransConnSingle(kChip, 2047, 1, &map, &peer), 0u);
+    EXPECT_EQ(peer, 335);
+    uint32_t back[3] = {};
+    EXPECT_EQ(VQ6192_ATM_GetAtmTransFiFo(kChip, 335, back), 0u);
+    EXPECT_EQ(back[0], 0x7FFFFu);
+    EXPECT_EQ(back[1], 0x12345u);
+    EXPECT_EQ(back[2], 0x1u);
+
+    ASSERT_EQ(VQ6192_ATM_DelAtmTransConn(kChip, 335, 2047), 0u);
+    EXPECT_EQ(bits(kLpct, 335, 0, 15), 0x4u) << "attribute kept";
+    EXPECT_EQ(bits(kSpct, 2047, 0, 12), 0x2u) << "attribute kept";
+    EXPECT_EQ(bits(kBmFifo, 335, 0, 64), 0x7Full << 57);
+    EXPECT_EQ(atm().deletes(), (std::vector<AtmBlock::QueueDelete>{{335, true}}));
+    EXPECT_EQ(bits(kLinkQm, 8192 + 335, 0, 25), 0u);
+}
+
+TEST_F(PortTest, TransparentPortRefusals) {
+    const uint32_t good[3] = {1, 2, 3};
+    const uint32_t over[3][3] = {{0x80000, 0, 0}, {0, 0x80000, 0}, {0, 0, 0x80000}};
+    struct Case {
+        const char *name;
+        uint32_t line, sys;
+        const uint32_t *th;
+    };
+    const Case cases[] = {
+        {"line port 336", 336, 0, good},  {"system port 2048", 0, 2048, good},
+        {"no thresholds", 0, 0, nullptr}, {"pause", 0, 0, over[0]},
+        {"cancel", 0, 0, over[1]},        {"drop", 0, 0, over[2]},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.name);
+        model.clearTrace();
+        EXPECT_EQ(VQ6192_ATM_AddAtmTransConn(kChip, k.line, k.sys, k.th), kPara);
+        EXPECT_EQ(VQ6192_ATM_SetAtmPortLoopMode(kChip, k.line, k.sys == 2048 ? nullptr : k.th), kPara);
+        EXPECT_TRUE(model.trace().empty());
+    }
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 1, 2, 2, good), kPara);
+    EXPECT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 1, 2, 0, nullptr), kPara);
+    EXPECT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 2047, 336, 1, good), kPara);
+    EXPECT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 2047, 1, 1, over[2]), kPara);
+    EXPECT_EQ(VQ6192_ATM_DelAtmTransConnSingle(kChip, 336, 0), kPara);
+    EXPECT_EQ(VQ6192_ATM_DelAtmTransConn(kChip, 1, 2048), kPara);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+TEST_F(PortTest, OneSidedTransparentPorts) {
+    prefillPort(7, 900);
+    const uint32_t th[3] = {10, 20, 30};
+    ASSERT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 7, 900, 0, th), 0u);
+    EXPECT_EQ(bits(kLpct, 7, 0, 15), 900u << 4 | 0xDu);
+    EXPECT_EQ(bits(kBmFifo, 7, 0, 57), (1ull << 57) - 1) << "line side leaves the thresholds";
+    ASSERT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 900, 7, 1, th), 0u);
+    EXPECT_EQ(bits(kSpct, 900, 0, 12), 7u << 3 | 0x7u);
+    EXPECT_EQ(bits(kBmFifo, 7, 0, 57), 10ull << 38 | 20ull << 19 | 30u);
+    EXPECT_EQ(bits(kLinkQm, 8192 + 7, 16, 10), 7u) << "queue bound, not deleted";
+
+    ASSERT_EQ(VQ6192_ATM_DelAtmTransConnSingle(kChip, 900, 1), 0u);
+    EXPECT_EQ(bits(kSpct, 900, 0, 12), 0x2u);
+    EXPECT_EQ(bits(kBmFifo, 7, 0, 57), 0u);
+    EXPECT_EQ(atm().deletes(), (std::vector<AtmBlock::QueueDelete>{{7, true}}));
+    ASSERT_EQ(VQ6192_ATM_DelAtmTransConnSingle(kChip, 7, 0), 0u);
+    EXPECT_EQ(bits(kLpct, 7, 0, 15), 0x4u);
+}
+
+TEST_F(PortTest, AFailedFlushKeepsTheThresholds) {
+    prefillPort(3, 4);
+    atm().setDeleteAckPolls(AtmBlock::kForever);
+    EXPECT_EQ(VQ6192_ATM_DelAtmTransConn(kChip, 3, 4), kPara);
+    EXPECT_EQ(bits(kBmFifo, 3, 0, 57), (1ull << 57) - 1);
+}
+
+TEST_F(PortTest, LinePortLoop) {
+    prefillPort(20, 0);
+    setBits(kLpct, 20, 1, 1, 0);
+    setBits(kLpct, 20, 3, 1, 0);
+    const uint32_t th[3] = {1, 2, 3};
+    ASSERT_EQ(VQ6192_ATM_SetAtmPortLoopMode(kChip, 20, th), 0u);
+    EXPECT_EQ(bits(kLpct, 20, 0, 15), 0x7FFFu);
+    EXPECT_EQ(bits(kBmFifo, 20, 0, 57), 1ull << 38 | 2ull << 19 | 3u);
+    uint8_t loop = 0;
+    EXPECT_EQ(VQ6192_ATM_GetAtmPortLoopMode(kChip, 20, &loop), 0u);
+    EXPECT_EQ(loop, 1);
+    ASSERT_EQ(VQ6192_ATM_DelAtmPortLoopMode(kChip, 20), 0u);
+    EXPECT_EQ(bits(kLpct, 20, 0, 15), 0x7FF5u);
+    EXPECT_EQ(bits(kBmFifo, 20, 0, 57), 0u);
+    EXPECT_EQ(atm().deletes(), (std::vector<AtmBlock::QueueDelete>{{20, true}}));
+}
+
+TEST_F(PortTest, PortEnablesAndAttributes) {
+    fillEntry(kLpct, 335, 15);
+    fillEntry(kSpct, 2047, 12);
+    struct Case {
+        uint32_t port, side, bit;
+        uint32_t sel;
+        uint64_t all;
+    };
+    for (const Case &k : {Case{335, 0, 3, kLpct, 0x7FFF}, Case{2047, 1, 2, kSpct, 0xFFF}}) {
+        ASSERT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, k.port, k.side, 0), 0u);
+        EXPECT_EQ(bits(k.sel, k.port, 0, 16), k.all & ~(1ull << k.bit));
+        uint8_t en = 1;
+        EXPECT_EQ(VQ6192_ATM_GetAtmPortEnStat(kChip, k.port, k.side, &en), 0u);
+        EXPECT_EQ(en, 0);
+        ASSERT_EQ(VQ6192_ATM_SetAtmPortType(kChip, k.port, k.side, 0), 0u);
+        const uint32_t attr = k.side == 0 ? 2 : 1;
+        EXPECT_EQ(bits(k.sel, k.port, 0, 16), k.all & ~(1ull << k.bit) & ~(1ull << attr));
+    }
+    model.clearTrace();
+    capture.clear();
+    EXPECT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, 1, 2, 1), kPara);
+    EXPECT_TRUE(capture.traceTexts().empty()) << "side 2 is refused without a trace";
+    EXPECT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, 336, 0, 1), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, 1, 3, 1), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetAtmPortType(kChip, 2048, 1, 1), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetAtmPortType(kChip, 1, 2, 1), kPara);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+TEST_F(PortTest, QueueDeleteHandshake) {
+    struct Case {
+        const char *name;
+        uint32_t index, kind, entry, ackPolls;
+        uint32_t status;
+        uint64_t waitedUs;
+        bool rewritten;
+    };
+    const Case cases[] = {
+        {"port queue, at once", 5, 0, 8197, 0, 0, 2, true},
+        {"connection queue after 9 polls", 8191, 1, 8191, 9, 0, 20, true},
+        {"never acknowledged", 12, 1, 12, AtmBlock::kForever, kPara, 2000, false},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.name);
+        fillEntryWide(kLinkQm, k.entry, 46);
+        model.poke(0xA860, 0);
+        atm().setDeleteAckPolls(k.ackPolls);
+        model.clearTrace();
+        VQ6192_Platform_ResetVirtualTime();
+        EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, k.index, k.kind), k.status);
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), k.waitedUs);
+        const uint32_t queue = k.index & 0x1FFFu;
+        const uint32_t kindBit = k.kind == 0 ? 0x2000u : 0u;
+        std::vector<RegWrite> expect = {
+            {0xA860, 0}, {0xA860, queue}, {0xA860, queue | kindBit}, {0xA860, 0xC000u | queue | kindBit}};
+        if (k.rewritten) {
+            expect.push_back({0xA860, queue | kindBit});
+        }
+        EXPECT_EQ(regWrites(), expect);
+        EXPECT_EQ(bits(kLinkQm, k.entry, 0, 25), k.rewritten ? 0u : 0x1FFFFFFu);
+        EXPECT_EQ(bits(kLinkQm, k.entry, 25, 21), 0x1FFFFFu) << "state, busy bit and length kept";
+    }
+    model.clearTrace();
+    capture.clear();
+    EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, 1, 2), kPara);
+    EXPECT_TRUE(traced("Err. VQ6192_ATM_DelAtmBwdQm: Config is error! ChipID: 0x3\r\n"));
+    EXPECT_EQ(regWrites(), (std::vector<RegWrite>{{0xA860, 0x000C}})) << "the standing command is cleared";
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, 336, 0), kPara);
+    EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, 8193, 1), kPara);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+TEST_F(PortTest, PortQueueRates) {
+    struct Case {
+        const char *name;
+        uint32_t links, ts, lenCode, mode;
+        uint32_t period, threshold;
+    };
+    const Case cases[] = {
+        {"VC-4 transparent", 0, 1, 0, 1, 64, 168},
+        {"UNI, 31 timeslots", 0, 0xFFFFFFFE, 0, 2, 4857, 3},
+        {"UNI, 1 timeslot", 0, 0x10, 3, 2, 150568, 3},
+        {"IMA of 8 links, frame 64, 31 timeslots", 8, 0xFFFFFFFE, 1, 3, 4936, 24},
+        {"IMA of 100 links, frame 32, 1 timeslot", 100, 1, 0, 3, 155500, 44},
+        {"IMA, frame 256, 24 timeslots", 4, 0x00FFFFFF, 3, 3, 6301, 12},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.name);
+        fillEntryWide(kPortQm, 9, 38);
+        ASSERT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, k.links, k.ts, k.lenCode, k.mode), 0u);
+        EXPECT_EQ(bits(kPortQm, 9, 0, 18), k.period);
+        EXPECT_EQ(bits(kPortQm, 9, 18, 8), k.threshold);
+        EXPECT_EQ(bits(kPortQm, 9, 26, 12), 0xFFFu);
+        uint16_t th = 0;
+        uint32_t period = 0;
+        EXPECT_EQ(VQ6192_ATM_GetAtmImaQm(kChip, 9, &th, &period), 0u);
+        EXPECT_EQ(th, k.threshold);
+        EXPECT_EQ(period, k.period);
+    }
+    model.clearTrace();
+    capture.clear();
+    EXPECT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 0, 0, 2), kPara);
+    EXPECT_TRUE(capture.traceTexts().empty()) << "no timeslot: no trace";
+    EXPECT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 1, 0, 0), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 1, 4, 1), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 336, 1, 1, 0, 1), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetAtmImaQm(kChip, 9, 1024, 1), kPara);
+    EXPECT_TRUE(model.trace().empty());
+    ASSERT_EQ(VQ6192_ATM_SetAtmImaQm(kChip, 9, 1023, 0x7FFFF), 0u);
+    EXPECT_EQ(bits(kPortQm, 9, 0, 26), 0xFFull << 18 | 0x3FFFFu);
+}
+
+TEST_F(PortTest, TableAndFifoClears) {
+    model.poke(0xA008, 0xFFE5);
+    ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 1, 1), 0u);
+    EXPECT_EQ(model.peek(0xA008), 0xFFE7);
+    ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 2, 0), 0u);
+    EXPECT_EQ(model.peek(0xA008), 0xFFE3);
+    ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 5, 1), 0u);
+    EXPECT_EQ(model.peek(0xA008), 0xFFFF);
+    ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 5, 0), 0u);
+    EXPECT_EQ(model.peek(0xA008), 0xFFE0);
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 6, 1), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 0, 2), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetOamFifoClear(kChip, 2), kPara);
+    EXPECT_TRUE(model.trace().empty());
+
+    model.poke(0xA2CA, 0xF000);
+    ASSERT_EQ(VQ6192_ATM_SetAtmFifoClear(kChip), 0u);
+    std::vector<RegWrite> expect;
+    for (int bit = 11; bit >= 0; --bit) {
+        for (uint32_t v : {0u, 1u, 0u}) {
+            expect.push_back({0xA2CA, 0xF000u | v << bit});
+        }
+    }
+    EXPECT_EQ(regWrites(), expect);
+    EXPECT_EQ(model.peek(0xA2CA), 0xF000);
+    for (uint32_t bit = 0; bit < 12; ++bit) {
+        EXPECT_EQ(atm().clearPulses(bit), 1u) << bit;
+    }
+    ASSERT_EQ(VQ6192_ATM_SetOamFifoClear(kChip, 1), 0u);
+    ASSERT_EQ(VQ6192_ATM_SetOamFifoClear(kChip, 0), 0u);
+    ASSERT_EQ(VQ6192_ATM_SetOamCapFifoClear(kChip), 0u);
+    EXPECT_EQ(atm().clearPulses(0), 2u) << "insertion FIFO";
+    EXPECT_EQ(atm().clearPulses(1), 3u) << "report FIFO";
+}
+
+TEST_F(PortTest, ModuleStart) {
+    VQ6192_Platform_ResetVirtualTime();
+    const auto t0 = std::chrono::steady_clock::now();
+    ASSERT_EQ(VQ6192_ATM_InitAtm(kChip, 1), 0u);
+    EXPECT_LT(std::chrono::steady_clock::now() - t0, std::chrono::milliseconds(100));
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 0u) << "the start sequence does not wait";
+    const std::vector<RegWrite> expect = {
+        {0xA008, 0x1F},   {0xA420, 0x7}, {0xA422, 0xFC00}, {0xA440, 0x2}, {0xA442, 0x0000}, {0xA460, 0x1},
+        {0xA462, 0x0000}, {0xA480, 0x1}, {0xA482, 0x0000}, {0xA4A0, 0x1}, {0xA4A2, 0x0000}, {0xA4C0, 0x0},
+        {0xA4C2, 0xEBFF}, {0xA4E0, 0x0}, {0xA4E2, 0x1001}, {0xA2E8, 32},  {0xA2C0, 1},
+    };
+    EXPECT_EQ(regWrites(), expect);
+    EXPECT_EQ(capture.traceTexts(),
+              (std::vector<std::string>{
+                  "Err. VQ6192_ATM_InitAtm: initializtion tables clr set! ChipID: 0x3\r\n",
+                  "Err. VQ6192_ATM_InitAtm: initializtion BM drop limit! ChipID: 0x3\r\n",
+                  "Err. VQ6192_ATM_InitAtm: initializtion Ingress ATM to PWE3 times! ChipID: 0x3\r\n",
+                  "Err. VQ6192_ATM_InitAtm: initializtion CRC Enable! ChipID: 0x3\r\n",
+              }));
+    uint32_t limits[7] = {};
+    ASSERT_EQ(VQ6192_ATM_GetAtmBmReg(kChip, limits), 0u);
+    const uint32_t expected[7] = {0x7FC00, 0x20000, 0x10000, 0x10000, 0x10000, 0xEBFF, 0x1001};
+    for (int i = 0; i < 7; ++i) {
+        EXPECT_EQ(limits[i], expected[i]) << i;
+    }
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 2), 0u);
+    EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 0), kPara);
+    EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 3), kPara);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+}  // namespace
