@@ -8,6 +8,7 @@
 #include "chip/chip_util.h"
 #include "chip/init_regs.h"
 #include "platform/osal.h"
+#include "vq6192/atm.h"
 #include "vq6192/ces.h"
 #include "vq6192/chip.h"
 #include "vq6192/eth.h"
@@ -149,6 +150,10 @@ uint32_t ddrTest(const BringUpRun &r) {
     return checked(r, "VQ6192_Base_DDR9StepTest", rc);
 }
 
+uint32_t atmInit(const BringUpRun &r) {
+    return checked(r, "VQ6192_ATM_InitAtm", VQ6192_ATM_InitAtm(r.chip, r.mode));
+}
+
 uint32_t pppInit(const BringUpRun &r) {
     return checked(r, "VQ6192_PPP_InitPppModule", VQ6192_PPP_InitPppModule(r.chip, r.mode));
 }
@@ -226,7 +231,7 @@ uint32_t framerChannels(const BringUpRun &r) {
 
 // The bring-up sequence. Steps whose operations this library does not have yet are left out here,
 // and only here:
-//   - the ATM pseudowire and ATM initialisers before PPP (VQ6192_ATM_AtmPwe3Init, VQ6192_ATM_InitAtm),
+//   - the ATM pseudowire initialiser before ATM (VQ6192_ATM_AtmPwe3Init),
 //   - the IMA initialiser between PPP and CES (VQ6192_IMA_InitIma).
 // clang-format off
 constexpr BringUpStep kSteps[] = {
@@ -240,6 +245,7 @@ constexpr BringUpStep kSteps[] = {
     {"register test",    false,   false,         registerTest},
     {"DDR start",        false,   false,         ddrStart},
     {"DDR test",         false,   true,          ddrTest},
+    {"ATM",              true,    false,         atmInit},
     {"PPP",              true,    false,         pppInit},
     {"CES",              true,    false,         cesInit},
     {"framers",          true,    false,         framerInit},
