@@ -21,14 +21,14 @@ namespace {
 
 constexpr uint32_t kErrStep = 4;       // a bring-up step failed
 constexpr uint32_t kErrDdrStart = 12;  // DDR start failed: error 12 with no module id
-constexpr uint32_t kFramerChannels = 336;
 constexpr uint16_t kDdrTestPattern[4] = {0x5555, 0xAAAA, 0x5555, 0xAAAA};
 
 uint32_t stepFailed(const BringUpRun &r) {
     return baseStatus(r.chip, kErrStep);
 }
 
-// A failed call inside a step: traced with the call's name and status.
+// A failed call inside a step: traced with the call's name and its own status (the line's wording is
+// ours; the chip documentation only asks that the failing call be named).
 uint32_t callFailed(const BringUpRun &r, const char *call, uint32_t status) {
     VQ6192_Printf(r.chip, VQ6192_MODULE_BASE, VQ6192_PRINT_EXCEPTION1_INFO,
                   "Err. VQ6192_Base_Initialize.  %s ErrCode[%#x]\r\n", call, status);
@@ -223,7 +223,7 @@ uint32_t serdesStart(const BringUpRun &r) {
 
 uint32_t framerChannels(const BringUpRun &r) {
     uint32_t rc = 0;
-    for (uint32_t c = 0; c < kFramerChannels; ++c) {
+    for (uint32_t c = 0; c < VQ6192_FRM_E1_NUM; ++c) {
         rc |= VQ6192_Framer_ReSetFrmChnl(r.chip, c, VQ6192_BASE_SRV_DIRECT_BOTH, 0);
     }
     return checked(r, "VQ6192_Framer_ReSetFrmChnl", rc);
