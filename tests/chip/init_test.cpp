@@ -521,6 +521,12 @@ TEST_F(Init, BringUpFailures) {
         if (c.trace.rfind("Err. ", 0) == 0) {
             EXPECT_TRUE(contains(capture.traceTexts(), c.trace))
                 << ::testing::PrintToString(capture.traceTexts());
+            for (const auto &line : capture.traces) {
+                if (line.text.rfind("Err. VQ6192_Base_", 0) == 0) {  // the chip module's own lines
+                    EXPECT_EQ(line.module, 1u);
+                    EXPECT_EQ(line.level, 4u);
+                }
+            }
         } else {
             const std::string prefix = "Err. VQ6192_Base_Initialize.  " + c.trace + " ErrCode[";
             const auto texts = capture.traceTexts();
