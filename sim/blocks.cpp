@@ -8,6 +8,7 @@
 #include "vq6192/sim/ddr_ctrl.h"
 #include "vq6192/sim/eth.h"
 #include "vq6192/sim/framers.h"
+#include "vq6192/sim/ima_processor.h"
 #include "vq6192/sim/interrupts.h"
 #include "vq6192/sim/mac.h"
 #include "vq6192/sim/ppp.h"
@@ -36,6 +37,7 @@ void installBlocks(ChipModel &model) {
     model.block<PppBlock>();
     model.block<RegisterWindow>();
     model.block<AtmBlock>();
+    model.block<ImaProcessor>();
 }
 
 }  // namespace vq6192::sim

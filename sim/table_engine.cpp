@@ -147,11 +147,17 @@ void TableEngine::onCommand(size_t block, uint16_t newValue, uint16_t oldValue) 
             hook(select, address, true);
         }
     } else {
+        for (const ReadHook &hook : beforeRead_) {
+            hook(layout.base, select, address);
+        }
         auto it = memory_.find(keyOf(block, select, address));
         for (uint32_t k = 0; k < layout.dataRegs; ++k) {
             model_.poke(addrOf(layout.readData + k), it == memory_.end() ? 0 : it->second[k]);
         }
         s.reads++;
+        for (const ReadHook &hook : afterRead_) {
+            hook(layout.base, select, address);
+        }
     }
     if (s.commandBusy != 0) {
         s.busyPolls = s.commandBusy;
@@ -165,6 +171,15 @@ TableEngine::Entry TableEngine::entry(uint32_t block, uint32_t select, uint32_t 
 
 void TableEngine::setEntry(uint32_t block, uint32_t select, uint32_t address, const Entry &value) {
     memory_[keyOf(blockIndex(block), select, address)] = value;
+}
+
+void TableEngine::addReadHooks(ReadHook before, ReadHook after) {
+    if (before) {
+        beforeRead_.push_back(std::move(before));
+    }
+    if (after) {
+        afterRead_.push_back(std::move(after));
+    }
 }
 
 void TableEngine::clear() {

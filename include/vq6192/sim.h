@@ -76,6 +76,12 @@ class TableEngine {
 
     uint64_t writesExecuted(uint32_t block) const;
     uint64_t readsExecuted(uint32_t block) const;
+
+    // Hooks around every read command: `before` runs before the entry is loaded into the read-data
+    // registers (it may change the entry), `after` once it is loaded (read-clear counters). Both get the
+    // block, the select code and the entry address.
+    using ReadHook = std::function<void(uint32_t block, uint32_t select, uint32_t address)>;
+    void addReadHooks(ReadHook before, ReadHook after);
     // Register numbers of the blocks the model knows.
     static std::vector<uint32_t> blocks();
 
@@ -95,6 +101,8 @@ class TableEngine {
     ChipModel &model_;
     std::vector<BlockState> state_;
     std::unordered_map<uint64_t, Entry> memory_;
+    std::vector<ReadHook> beforeRead_;
+    std::vector<ReadHook> afterRead_;
 };
 
 class ChipModel {

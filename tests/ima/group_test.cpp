@@ -1,0 +1,353 @@
+// IMA groups: the group check and its messages, the tables a group add lays, the mailbox command it
+// ends with, link addition around a running start-up or LASR, link and group deletion, the read-back.
+#include <cstring>
+
+#include "ima_fixture.h"
+
+namespace {
+
+using namespace imatest;
+
+constexpr uint32_t kGrp = 5;
+
+IMA_GRP_CFG groupCfg() {
+    IMA_GRP_CFG c{};
+    c.byClockMd = 0;
+    c.bySymmetryMd = 0;
+    c.byImaVersion = 1;
+    c.byImaOamLabel = 3;
+    c.byRxImaIdCfgEn = 1;
+    c.byRxImaId = 0x21;
+    c.byTxImaId = 0x42;
+    c.wTxVphy = kGrp;
+    c.wRxVphy = kGrp;
+    c.byRxM = 0xF;
+    c.byPRx = 2;
+    c.byTxM = 1;
+    c.byPTx = 2;
+    c.wMaxDelay = 500;
+    c.byStuffMd = 0;
+    c.byStuffAdvMd = 4;
+    c.wTxTrlPhy = 47;
+    c.wNumRxLinks = 2;
+    c.wNumTxLinks = 2;
+    const uint16_t rx[2] = {10, 47};
+    const IMA_TX_LINK tx[2] = {{0, 3, 10}, {2, 7, 47}};
+    std::memcpy(reinterpret_cast<uint8_t *>(&c) + offsetof(IMA_GRP_CFG, pusRxLinks), rx, sizeof rx);
+    std::memcpy(reinterpret_cast<uint8_t *>(&c) + offsetof(IMA_GRP_CFG, pstTxLinks), tx, sizeof tx);
+    return c;
+}
+
+class GroupTest : public ImaTest {};
+
+TEST_F(GroupTest, AddGroupLaysEveryTable) {
+    // Neighbour bits set everywhere the add must keep them.
+    for (uint32_t link : {10u, 47u}) {
+        setBits(Proc::kTcBlock, kRxCfg, link, 0, 96, ~0ull);
+        setBits(Proc::kTcBlock, kRxCfg, link, 64, 32, 0xFFFFFFFF);
+        setBits(Proc::kTcBlock, kTxCfg, link, 0, 64, ~0ull);
+    }
+    setBits(Proc::kRxBlock, kRxGpc, kGrp, 0, 32, 0xFAB00000);
+    for (uint32_t w = 0; w < 5; ++w) {
+        setBits(Proc::kTxBlock, kTxGps, kGrp * 8 + w, 0, 32, 0x12345678);
+    }
+    setBits(Proc::kTxBlock, kInGrp, kGrp, 0, 64, 0x3);  // stale members are cleared
+    const IMA_GRP_CFG cfg = groupCfg();
+    ASSERT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), 0u);
+
+    // Transmit side: LID map, group config, ICP offsets, link set, depth, counters cleared.
+    for (uint32_t lid = 0; lid < 32; ++lid) {
+        const uint32_t expect = lid == 0 ? 10 : lid == 2 ? 47 : 511;
+        EXPECT_EQ(bits(Proc::kTxBlock, kMap, kGrp * 32 + lid, 0, 9), expect) << "LID " << lid;
+    }
+    EXPECT_EQ(word(Proc::kTxBlock, kTxGpc, kGrp), 0x4903u)
+        << "reference LID 2, Txm 1, 4-ahead = bit 0, stuff, label 3";
+    EXPECT_EQ(bits(Proc::kTxBlock, kTxLkc, 10, 0, 8), 3u);
+    EXPECT_EQ(bits(Proc::kTxBlock, kTxLkc, 47, 0, 8), 7u);
+    EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, kGrp, 0, 64), (1ull << 10) | (1ull << 47));
+    EXPECT_EQ(bits(Proc::kTxBlock, kDepth, kGrp, 0, 11), 2047u);
+    for (uint32_t w = 0; w < 5; ++w) {
+        EXPECT_EQ(word(Proc::kTxBlock, kTxGps, kGrp * 8 + w), 0u) << "Imatxgps" << w;
+    }
+    EXPECT_EQ(model.peek(0x48AE) & 1u, 1u);
+
+    // Processor group words 0..2 at group * 16 + word, receive link table in words 5..15.
+    EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 0), 0x03080000u);
+    EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 1), 0x42420000u);
+    EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 2), 0x9085F132u);
+    EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 5), 10u | (511u << 9) | (47u << 18));
+    for (uint32_t w = 6; w < 16; ++w) {
+        EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + w), 0x7FFFFFFu) << "word " << w;
+    }
+    EXPECT_EQ(word(Proc::kProcBlock, kTxc, 10), 0xC0050000u);
+    EXPECT_EQ(word(Proc::kProcBlock, kTxc, 47), 0xC0051000u);
+    EXPECT_EQ(word(Proc::kProcBlock, kRxc, 10), 0xC0050000u);
+    EXPECT_EQ(word(Proc::kProcBlock, kRxc, 47), 0xC0050000u);
+
+    // Receive side: delay tolerance with Scvcthresh kept, SCVC entries at (link % 84) * 4 + link / 84.
+    EXPECT_EQ(word(Proc::kRxBlock, kRxGpc, kGrp), 0xFABFFDF4u);
+    EXPECT_EQ(bits(Proc::kRxBlock, kScvc, 40, 0, 10), 0x205u);
+    EXPECT_EQ(bits(Proc::kRxBlock, kScvc, 188, 0, 10), 0x205u);
+
+    // TC links: idle filter off on the receive links, the transmit link enabled again, neighbours kept.
+    for (uint32_t link : {10u, 47u}) {
+        EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, link, 64, 32), 0xFDFFFFFFu) << "only bit 89 cleared";
+        EXPECT_EQ(bits(Proc::kTcBlock, kTxCfg, link, 0, 64), ~0ull);
+    }
+    ASSERT_EQ(proc().commands().size(), 1u);
+    EXPECT_EQ(proc().commands()[0], (Proc::Command{0, kGrp, 0x5, 0x5, 0}));
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 1u) << "the mailbox sleeps 1 us after the command";
+}
+
+TEST_F(GroupTest, GroupInUseWritesNothing) {
+    setBits(Proc::kProcBlock, kGps, kGrp * 8, 62, 2, 2);
+    const IMA_GRP_CFG cfg = groupCfg();
+    const uint64_t before = tableWrites();
+    EXPECT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), kInUse);
+    EXPECT_EQ(tableWrites(), before);
+    EXPECT_TRUE(proc().commands().empty());
+}
+
+TEST_F(GroupTest, GroupCheckMessages) {
+    struct Case {
+        const char *what;
+        std::function<void(IMA_GRP_CFG &)> change;
+        const char *message;
+    };
+    const Case cases[] = {
+        {"clock", [](IMA_GRP_CFG &c) { c.byClockMd = 2; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5)---byClockMd >= VQ6192_IMA_GRP_CLK_MD_CTC---   "
+         "pstCfg->byClockMd = 2\r\n"},
+        {"CTC with stuff mode 1", [](IMA_GRP_CFG &c) { c.byClockMd = 1, c.byStuffMd = 1; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byClockMd != VQ6192_IMA_GRP_CLK_MD_CTC or byStuffMd != "
+         "VQ6192_IMA_GRP_STUFF_MD_ITC---    pstCfg->byClockMd = 1, pstCfg->byStuffMd = 1\n"},
+        {"symmetry", [](IMA_GRP_CFG &c) { c.bySymmetryMd = 3; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---bySymmetryMd >= VQ6192_IMA_GRP_ASYM---   "
+         "pstCfg->bySymmetryMd = 3\n"},
+        {"version", [](IMA_GRP_CFG &c) { c.byImaVersion = 2; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byImaVersion >= VQ6192_VERSION_10---   "
+         "pstCfg->byImaVersion = 2\n"},
+        {"label 2", [](IMA_GRP_CFG &c) { c.byImaOamLabel = 2; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byImaOamLabel >= VQ6192_OAM_LABEL_11 and byImaOamLabel "
+         "!= 2---   "
+         "pstCfg->byImaOamLabel = 2\n"},
+        {"rx id config", [](IMA_GRP_CFG &c) { c.byRxImaIdCfgEn = 2; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5)   ---byRxImaIdCfgEn > 1---   pstCfg->byRxImaIdCfgEn = 2\n"},
+        {"vphy", [](IMA_GRP_CFG &c) { c.wRxVphy = 336; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---wTxVphy >= VQ6192_MAX_GCNT or wRxVphy >= "
+         "VQ6192_MAX_GCNT---   "
+         "pstCfg->wTxVphy = 5; pstCfg->wRxVphy = 336\n"},
+        {"rxM 0", [](IMA_GRP_CFG &c) { c.byRxM = 0; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byRxM > VQ6192_IMA_GRP_MAX_RXM or byRxM == 0---   "
+         "pstCfg->byRxM = 0\n"},
+        {"pRx 33", [](IMA_GRP_CFG &c) { c.byPRx = 33; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byPRx > VQ6192_MAX_LID or byPRx == 0---   pstCfg->byPRx "
+         "= 33\n"},
+        {"txM", [](IMA_GRP_CFG &c) { c.byTxM = 4; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5)   ---byTxM > VQ6192_IMA_GRP_MAX_TXM---   pstCfg->byTxM = 4\n"},
+        {"pTx 0", [](IMA_GRP_CFG &c) { c.byPTx = 0; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byPTx > VQ6192_MAX_LID or byPTx == 0---   pstCfg->byPTx "
+         "= 0\n"},
+        {"symmetric minimums differ", [](IMA_GRP_CFG &c) { c.byPTx = 1; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---bySymmetryMd == VQ6192_IMA_GRP_SYM or byPRx != byPTx---  "
+         " "
+         "pstCfg->bySymmetryMd = 0; pstCfg->byPRx = 2;  pstCfg->byPTx = 1\n"},
+        {"delay", [](IMA_GRP_CFG &c) { c.wMaxDelay = 1024; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5)   ---wMaxDelay > 1023---   pstCfg->wMaxDelay = 1024\n"},
+        {"stuff advance 2", [](IMA_GRP_CFG &c) { c.byStuffAdvMd = 2; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---byStuffAdvMd !=VQ6192_IMA_GRP_STUFF_ADV_1_AHEAD or "
+         "byStuffAdvMd "
+         "!=VQ6192_IMA_GRP_STUFF_ADV_4_AHEAD---   pstCfg->byStuffAdvMd = 2\n"},
+        {"reference link not sent", [](IMA_GRP_CFG &c) { c.wTxTrlPhy = 11; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5)   ---wNumTxLinks <= i---   pstCfg->wNumTxLinks=2; i=2\n"},
+        {"no transmit link", [](IMA_GRP_CFG &c) { c.wNumTxLinks = 0; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5)   ---wNumTxLinks <= i---   pstCfg->wNumTxLinks=0; i=0\n"},
+        {"symmetric with no receive link", [](IMA_GRP_CFG &c) { c.wNumRxLinks = 0; },
+         "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---bySymmetryMd != VQ6192_IMA_GRP_ASYM and wNumRxLinks == "
+         "usNumTxLinks---   pstCfg->bySymmetryMd = 0; pstCfg->wNumRxLinks = 0; pstCfg->wNumTxLinks = 2\n"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.what);
+        IMA_GRP_CFG cfg = groupCfg();
+        c.change(cfg);
+        capture.clear();
+        const auto t = traced([&] { EXPECT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), kPara); });
+        EXPECT_TRUE(t.empty());
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{c.message});
+    }
+    IMA_GRP_CFG asym = groupCfg();
+    asym.bySymmetryMd = 2;
+    asym.wNumRxLinks = 0;
+    EXPECT_EQ(VQ6192_IMA_checkGrpParams(kChip, kGrp, &asym), 0u) << "asymmetric: any receive count";
+    expectRefused("null record", kPara, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, nullptr); });
+    expectRefused("group 336", kPara, [&] { return VQ6192_IMA_AddImaGrp(kChip, 336, &asym); });
+}
+
+TEST_F(GroupTest, AddGroupDrainAndStepFailures) {
+    const IMA_GRP_CFG cfg = groupCfg();
+    setBits(Proc::kTcBlock, kTxCfg, 10, 46, 1, 1);
+    proc().setDrainReads(Proc::kForever);
+    EXPECT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), 0u) << "a drain that never ends does not stop the add";
+    const auto texts = capture.traceTexts();
+    ASSERT_FALSE(texts.empty());
+    EXPECT_EQ(texts[0],
+              "Err. VQ6192_IMA_AddImaGrp.VQ6192_Read_Table(3,140,10)i=0  GetDEPTH   ErrCode[0x30d0004]\r\n");
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 100u * 500u + 1u) << "100 polls 500 us apart";
+
+    // The refused add_group command is the step's result.
+    setBits(Proc::kProcBlock, kGps, kGrp * 8, 62, 2, 0);
+    proc().setDrainReads(0);
+    proc().refuse(1);
+    capture.clear();
+    EXPECT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), kRefusedCmd);
+    EXPECT_EQ(capture.traceTexts(),
+              std::vector<std::string>{
+                  "Err. VQ6192_imaAddGrp.VQ6192_IMA_utlRippCmd(3,5)       ErrCode[0x30d0009]\r\n"});
+}
+
+TEST_F(GroupTest, AddLinksAroundStartupAndLasr) {
+    IMA_GRP_CFG cfg = groupCfg();
+    const uint16_t rx[1] = {100};
+    const IMA_TX_LINK tx[1] = {{4, 1, 100}};
+    struct Case {
+        uint32_t gwp;
+        uint32_t refusals;
+        uint32_t status;
+        size_t commands;
+        uint64_t ticks;
+    };
+    const Case cases[] = {
+        {0, 0, 0, 1, 0},           {1, 0, 0, 1, 0}, {2, 0, 0, 1, 10},
+        {2, 2, 0, 3, 10},           // refused twice: the later attempts find the LASR stopped
+        {0, 3, kRefusedCmd, 3, 0},  // three refusals end it
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(testing::Message() << "Gwpactive " << c.gwp << " refusals " << c.refusals);
+        proc().clearCommands();
+        VQ6192_Platform_ResetVirtualTime();
+        setBits(Proc::kProcBlock, kGps, kGrp * 8, 53, 2, c.gwp);
+        setBits(Proc::kProcBlock, kGps, kGrp * 8 + 2, 0, 32, 0xFFFFFFFF);   // Txlasract
+        setBits(Proc::kProcBlock, kGps, kGrp * 8 + 4, 32, 32, 0xFFFFFFFF);  // Rxlasract
+        setBits(Proc::kProcBlock, kGpc, kGrp * 16 + 3, 0, 32, 0xFFFFFFFF);
+        proc().refuse(c.refusals);
+        EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 1, kGrp, 1, 1, rx, tx, &cfg), c.status);
+        ASSERT_EQ(proc().commands().size(), c.commands);
+        EXPECT_EQ(proc().commands().back(), (Proc::Command{8, kGrp, 1u << 4, 1u << 4, 0}));
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs() / kTickUs, c.ticks);
+        EXPECT_EQ(bits(Proc::kProcBlock, kGps, kGrp * 8, 53, 2), c.gwp == 1 ? 1u : 0u);
+        EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 3), 0xFFFFFFFFu) << "Autolasren set again";
+        if (c.gwp == 2) {
+            EXPECT_EQ(bits(Proc::kProcBlock, kGps, kGrp * 8 + 2, 0, 32), 0u);
+            EXPECT_EQ(bits(Proc::kProcBlock, kGps, kGrp * 8 + 4, 32, 32), 0u);
+        }
+    }
+    EXPECT_EQ(bits(Proc::kTxBlock, kMap, kGrp * 32 + 4, 0, 9), 100u);
+    EXPECT_EQ(word(Proc::kProcBlock, kTxc, 100), 0xC0052000u);
+    EXPECT_EQ(bits(Proc::kProcBlock, kGpc, kGrp * 16 + 5 + 1, 9, 9), 100u) << "position 4: word 6, slot 1";
+
+    expectRefused("no receive link", kPara,
+                  [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 0, 1, rx, tx, &cfg); });
+    expectRefused("33 links", kPara,
+                  [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 33, 1, rx, tx, &cfg); });
+    const IMA_TX_LINK badOffset[1] = {{4, 64, 100}};
+    capture.clear();
+    EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 1, 1, rx, badOffset, &cfg), kPara);
+    EXPECT_EQ(capture.traceTexts(),
+              std::vector<std::string>{"Err. VQ6192_checkTxLinkParams(3,1,1) "
+                                       "pstTxLinks[i].ucIcpOffset[0x40]     ErrCode[0x30d0001]\r\n"});
+    setBits(Proc::kTcBlock, kTxCfg, 100, 46, 1, 1);
+    proc().setDrainReads(Proc::kForever);
+    EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 1, 1, rx, tx, &cfg), kNoEnd);
+}
+
+TEST_F(GroupTest, DeleteLinksAndGroup) {
+    setBits(Proc::kTxBlock, kInGrp, kGrp, 0, 64, (1ull << 10) | (1ull << 47) | (1ull << 63));
+    const uint16_t rx[1] = {47};
+    const IMA_TX_LINK tx[1] = {{2, 7, 47}};
+    ASSERT_EQ(VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 1, rx, tx, 0), 0u);
+    EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, kGrp, 0, 64), (1ull << 10) | (1ull << 63));
+    ASSERT_EQ(VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 0, rx, nullptr, 2), 0u)
+        << "asymmetric: position = link number";
+    ASSERT_EQ(VQ6192_IMA_DelImaGrp(kChip, kGrp), 0u);
+    const std::vector<Proc::Command> expect = {
+        {9, kGrp, 1u << 2, 1u << 2, 0}, {9, kGrp, 0, 0, 0}, {1, kGrp, 0, 0, 0}};
+    EXPECT_EQ(proc().commands(), expect) << "link 47 has no position bit in an asymmetric group";
+    expectRefused("nothing to delete", kPara,
+                  [&] { return VQ6192_IMA_DelImaLink(kChip, kGrp, 0, 0, rx, tx, 0); });
+    expectRefused("receive link 336", kPara, [&] {
+        const uint16_t bad[1] = {336};
+        return VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 1, bad, tx, 0);
+    });
+}
+
+TEST_F(GroupTest, ConfigurationReadBack) {
+    IMA_GRP_CFG out{};
+    uint16_t en = 9;
+    EXPECT_EQ(VQ6192_IMA_GetImaGrpCfg(kChip, kGrp, &out, &en), kInUse) << "a free group has no configuration";
+    const IMA_GRP_CFG cfg = groupCfg();
+    ASSERT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), 0u);
+    setBits(Proc::kProcBlock, kGps, kGrp * 8 + 1, 32, 9, 47);  // Txtrlphyid reported by the processor
+    ASSERT_EQ(VQ6192_IMA_GetImaGrpCfg(kChip, kGrp, &out, &en), 0u);
+    EXPECT_EQ(en, 3u);
+    EXPECT_EQ(out.byImaOamLabel, 3u);
+    EXPECT_EQ(out.byTxImaId, 0x42u);
+    EXPECT_EQ(out.byRxImaId, 0x21u);
+    EXPECT_EQ(out.byRxM, 0xFu);
+    EXPECT_EQ(out.byTxM, 1u);
+    EXPECT_EQ(out.byPRx, 2u);
+    EXPECT_EQ(out.byPTx, 2u);
+    EXPECT_EQ(static_cast<uint32_t>(out.wMaxDelay), 500u);
+    EXPECT_EQ(out.byStuffAdvMd, 0u) << "4 is stored as bit 0 and read back as that bit";
+    EXPECT_EQ(static_cast<uint32_t>(out.wTxTrlPhy), 47u);
+    EXPECT_EQ(static_cast<uint32_t>(out.wTxVphy), kGrp);
+    EXPECT_EQ(out.byStuffMd, 2u);
+    EXPECT_EQ(static_cast<uint32_t>(out.wNumTxLinks), 2u);
+    EXPECT_EQ(static_cast<uint32_t>(out.wNumRxLinks), 2u);
+    IMA_TX_LINK tx[2];
+    uint16_t rx[2];
+    std::memcpy(tx, reinterpret_cast<const uint8_t *>(&out) + offsetof(IMA_GRP_CFG, pstTxLinks), sizeof tx);
+    std::memcpy(rx, reinterpret_cast<const uint8_t *>(&out) + offsetof(IMA_GRP_CFG, pusRxLinks), sizeof rx);
+    EXPECT_EQ(tx[1].ucLid, 2u);
+    EXPECT_EQ(tx[1].ucIcpOffset, 7u);
+    EXPECT_EQ(tx[1].usPhyLink, 47u);
+    EXPECT_EQ(rx[0], 10u);
+    EXPECT_EQ(rx[1], 47u);
+}
+
+}  // namespace
+
+namespace {
+
+using namespace imatest;
+
+class StepFailureTest : public ImaTest {};
+
+TEST_F(StepFailureTest, TableFailuresEndTheStepWithItsMessage) {
+    struct Case {
+        uint32_t block;
+        std::function<uint32_t()> op;
+        const char *message;
+    };
+    static const IMA_GRP_CFG cfg = groupCfg();
+    const Case cases[] = {
+        {Proc::kTcBlock, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
+         "Err. VQ6192_IMA_AddImaGrp.VQ6192_Read_Table(3,138,10) i=0     ErrCode[0x30c0003]\r\n"},
+        {Proc::kTxBlock, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
+         "Err. VQ6192_imaAddGrp.VQ6192_clrTimaGrpParams(3,5)       ErrCode[0x30c0003]\r\n"},
+        {Proc::kProcBlock, [] { return VQ6192_IMA_ResetIma(kChip); },
+         "Err. VQ6192_IMA_ResetIma.VQ6192_Write_Table(3,143,0)      ErrCode[0x30c0003]\r\n"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.message);
+        model.tables().holdBusy(c.block, vq6192::sim::TableEngine::kForever);
+        capture.clear();
+        EXPECT_EQ(c.op(), 0x030C0003u) << "the table access's own code";
+        const auto texts = capture.traceTexts();
+        ASSERT_EQ(texts.size(), 2u) << "the table layer's line, then the step's";
+        EXPECT_EQ(texts[1], c.message);
+        model.tables().holdBusy(c.block, 0);
+    }
+    EXPECT_TRUE(proc().commands().empty());
+}
+
+}  // namespace
