@@ -13,6 +13,7 @@
 #include "vq6192/chip.h"
 #include "vq6192/eth.h"
 #include "vq6192/framer.h"
+#include "vq6192/ima.h"
 #include "vq6192/ppp.h"
 
 using namespace vq::chip;
@@ -158,6 +159,10 @@ uint32_t pppInit(const BringUpRun &r) {
     return checked(r, "VQ6192_PPP_InitPppModule", VQ6192_PPP_InitPppModule(r.chip, r.mode));
 }
 
+uint32_t imaInit(const BringUpRun &r) {
+    return checked(r, "VQ6192_IMA_InitIma", VQ6192_IMA_InitIma(r.chip, r.mode));
+}
+
 uint32_t cesInit(const BringUpRun &r) {
     return checked(r, "VQ6192_CES_InitCesModule", VQ6192_CES_InitCesModule(r.chip, r.mode));
 }
@@ -231,8 +236,7 @@ uint32_t framerChannels(const BringUpRun &r) {
 
 // The bring-up sequence. Steps whose operations this library does not have yet are left out here,
 // and only here:
-//   - the ATM pseudowire initialiser before ATM (VQ6192_ATM_AtmPwe3Init),
-//   - the IMA initialiser between PPP and CES (VQ6192_IMA_InitIma).
+//   - the ATM pseudowire initialiser before ATM (VQ6192_ATM_AtmPwe3Init).
 // clang-format off
 constexpr BringUpStep kSteps[] = {
     // name              restore  DDR test only  body
@@ -247,6 +251,7 @@ constexpr BringUpStep kSteps[] = {
     {"DDR test",         false,   true,          ddrTest},
     {"ATM",              true,    false,         atmInit},
     {"PPP",              true,    false,         pppInit},
+    {"IMA",              true,    false,         imaInit},
     {"CES",              true,    false,         cesInit},
     {"framers",          true,    false,         framerInit},
     {"Ethernet",         true,    false,         ethInit},

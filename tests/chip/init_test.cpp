@@ -8,6 +8,7 @@
 #include "vq6192/ces.h"
 #include "vq6192/eth.h"
 #include "vq6192/framer.h"
+#include "vq6192/ima.h"
 #include "vq6192/ppp.h"
 #include "vq6192/sim/clocks.h"
 #include "vq6192/sim/ddr_ctrl.h"
@@ -380,6 +381,7 @@ TEST_F(Init, FullBringUpOrderAndWaits) {
     VQ6192_Platform_ResetVirtualTime();
     ASSERT_EQ(VQ6192_ATM_InitAtm(kChip, 1), 0u);
     ASSERT_EQ(VQ6192_PPP_InitPppModule(kChip, 1), 0u);
+    ASSERT_EQ(VQ6192_IMA_InitIma(kChip, 1), 0u);
     ASSERT_EQ(VQ6192_CES_InitCesModule(kChip, 1), 0u);
     ASSERT_EQ(VQ6192_Framer_FrmInit(kChip, 1, 0), 0u);
     ASSERT_EQ(VQ6192_ETH_ETHInit(kChip, 1), 0u);
@@ -554,6 +556,7 @@ TEST_F(Init, RestoreRunsOnlyTheModuleInitialisers) {
     const auto direct = traced([&] {
         EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 2), 0u);
         EXPECT_EQ(VQ6192_PPP_InitPppModule(kChip, 2), 0u);
+        EXPECT_EQ(VQ6192_IMA_InitIma(kChip, 2), 0u);
         EXPECT_EQ(VQ6192_CES_InitCesModule(kChip, 2), 0u);
         EXPECT_EQ(VQ6192_Framer_FrmInit(kChip, 2, 0), 0u);
         EXPECT_EQ(VQ6192_ETH_ETHInit(kChip, 2), 0u);
