@@ -1,5 +1,7 @@
 // vq6192-shell: the debug shell. Starts with chip 0 installed on the chip model and runs diagnostic
 // commands by name, interactively, from -c, from a script file or from a pipe.
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstring>
 #include <iostream>
@@ -119,6 +121,7 @@ int main(int argc, char **argv) {
         }
     }
 
+    options.progress = isatty(STDOUT_FILENO) != 0;
     vqshell::Session session(std::cout, std::cerr);
     if (!session.start(options)) {
         return 2;

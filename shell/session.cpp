@@ -9,6 +9,7 @@
 #include <map>
 
 #include "arguments.h"
+#include "chip/bringup.h"
 #include "core/entry_field.h"
 #include "core/table_print.h"
 #include "diag/registry.h"
@@ -26,10 +27,34 @@ struct BringUp {
     bool broughtUp;   // what the banner reports
 };
 
-// Chip bring-up, the one place that decides it. It runs the chip initialisation operation once that
-// exists; until then a chip on the model starts from its power-on register values, not brought up.
-BringUp bringUpChip(uint32_t /*chip*/) {
-    return {0, false};
+// Chip bring-up, the one place that decides it: a full bring-up (E1, no DDR test) step by step, with a
+// progress line per step when asked. Only chips on the model are brought up: a mapped chip may be
+// carrying traffic already. The model has no real time, so the waits run on the virtual clock.
+BringUp bringUpChip(uint32_t chip, bool onModel, bool progress, std::ostream &out) {
+    if (!onModel) {
+        return {0, false};
+    }
+    const vq::chip::BringUpRun run{chip, VQ6192_BASE_INIT_FULL, VQ6192_BASE_TDM_E1, 0, 0, nullptr};
+    const uint32_t virtualClock = VQ6192_Platform_GetVirtualClock();
+    VQ6192_Platform_SetVirtualClock(1);
+    uint32_t rc = 0;
+    for (const auto &step : vq::chip::bringUpSteps()) {
+        if (!vq::chip::stepRuns(step, run)) {
+            continue;
+        }
+        rc = step.run(run);
+        if (progress) {
+            char line[80];
+            std::snprintf(line, sizeof line, "chip %u bring-up: %-16s %s\n", chip, step.name,
+                          rc == 0 ? "ok" : "FAILED");
+            out << line << std::flush;
+        }
+        if (rc != 0) {
+            break;
+        }
+    }
+    VQ6192_Platform_SetVirtualClock(virtualClock);
+    return {rc, rc == 0};
 }
 
 // "0", "0..3"
@@ -191,7 +216,7 @@ bool Session::start(const SessionOptions &options) {
         }
         Chip &installed = *chips_.emplace_back(std::move(chip));
         if (options.bringUp) {
-            const BringUp b = bringUpChip(id);
+            const BringUp b = bringUpChip(id, installed.model != nullptr, options.progress, out_);
             if (b.status != 0) {
                 err_ << "error: chip " << id << " did not come up: " << describeStatus(b.status) << "\n";
                 return false;
@@ -200,6 +225,10 @@ bool Session::start(const SessionOptions &options) {
         }
     }
     return true;
+}
+
+bool Session::broughtUp(uint32_t chip) const {
+    return chip < chips_.size() && chips_[chip]->broughtUp;
 }
 
 vq6192::sim::ChipModel *Session::model(uint32_t chip) const {

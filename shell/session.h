@@ -25,7 +25,8 @@ struct MappedWindow {
 
 struct SessionOptions {
     uint32_t chips = 1;                // chips 0..chips-1 on chip models
-    bool bringUp = true;               // bring each chip up after installing it
+    bool bringUp = true;               // bring each chip on the model up after installing it
+    bool progress = false;             // a line per bring-up step (when output is a terminal)
     bool echo = false;                 // print each command before its output
     std::vector<MappedWindow> mapped;  // further chips, numbered after the modelled ones
 };
@@ -61,6 +62,9 @@ class Session {
     bool quitRequested() const { return quit_; }
 
     vq6192::sim::ChipModel *model(uint32_t chip) const;
+
+    // True when this session brought the chip up (it answers for the banner).
+    bool broughtUp(uint32_t chip) const;
 
   private:
     struct Builtin;

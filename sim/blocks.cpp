@@ -3,7 +3,9 @@
 #include "vq6192/sim/ces.h"
 #include "vq6192/sim/atm.h"
 #include "vq6192/sim/chip_control.h"
+#include "vq6192/sim/clocks.h"
 #include "vq6192/sim/ddr.h"
+#include "vq6192/sim/ddr_ctrl.h"
 #include "vq6192/sim/eth.h"
 #include "vq6192/sim/framers.h"
 #include "vq6192/sim/ima_processor.h"
@@ -30,6 +32,8 @@ void installBlocks(ChipModel &model) {
     model.block<SamBlock>();
     model.block<EthBlock>();
     model.block<MacBlock>();
+    model.block<ClockBlock>();
+    model.block<DdrCtrlBlock>();
     model.block<PppBlock>();
     model.block<RegisterWindow>();
     model.block<AtmBlock>();

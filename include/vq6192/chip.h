@@ -1,10 +1,44 @@
-/* VQ6192 driver SDK: chip health, self-tests and interrupt control. C-compatible. */
+/* VQ6192 driver SDK: chip initialisation, health, self-tests and interrupt control. C-compatible. */
 #ifndef VQ6192_CHIP_H
 #define VQ6192_CHIP_H
 
 #include "vq6192/types.h"
 
 VQ6192_EXTERN_C_BEGIN
+
+/* ==== Chip initialisation (module BASE) ========================================================== */
+
+/* Bring-up modes of VQ6192_Base_Initialize. */
+#define VQ6192_BASE_INIT_FULL 1u    /* power-on to working chip */
+#define VQ6192_BASE_INIT_RESTORE 2u /* module initialisers only, hardware left running */
+
+/* PLL programming tables: one row of ten words per PLL 0..3 (w0 reg 0x6A bit 6 for PLL2/3, w1 divider
+ * A, w2 divider B, w4 * 16 + w3 combined value, w6 8-bit value, w7 16-bit value, w8 settle time in
+ * 10 ms units; w5 and w9 unused). */
+#define VQ6192_PLL_NUM 4u
+#define VQ6192_PLL_CFG_WORDS 10u
+VQ6192_API extern uint16_t g_ausVQ6192E1PLLCfg[VQ6192_PLL_NUM][VQ6192_PLL_CFG_WORDS];
+VQ6192_API extern uint16_t g_ausVQ6192T1PLLCfg[VQ6192_PLL_NUM][VQ6192_PLL_CFG_WORDS];
+
+/* Bring-up tunables. Times in microseconds. */
+VQ6192_API extern uint32_t g_ulVQ6192DDRWaitTime;            /* settle time and DDR-ready poll period */
+VQ6192_API extern uint32_t g_ulVq6192DdrResetDelayTime;      /* DDR reset assertion */
+VQ6192_API extern uint32_t g_ulVq6192DdrResetDelayLaterTime; /* wait after DDR reset release */
+VQ6192_API extern uint32_t g_ulVq6192DdrCl;                  /* CAS latency 0..16, else rewritten to 6 */
+VQ6192_API extern uint32_t g_ulVq6192DdrTaref;               /* refresh interval code, added to 0x5000 */
+VQ6192_API extern uint16_t g_usTestSysclkSel;                /* reg 0x200 bit 3 at SerDes start */
+#define VQ6192_DDR_BADDR_NUM 10u
+#define VQ6192_DDR_CL_NUM 17u
+VQ6192_API extern uint16_t g_ausVq6192DDRBAddr[VQ6192_DDR_BADDR_NUM]; /* 11-bit address-map values */
+VQ6192_API extern uint32_t g_aulVq6192CL_HL_Cfg[VQ6192_DDR_CL_NUM];   /* mode-register code per CL */
+
+VQ6192_API uint32_t VQ6192_Base_Initialize(uint32_t chip, uint32_t mode, uint32_t tdmMode, uint32_t ddrTest,
+                                           uint32_t frmOption, const void *ddrOption);
+VQ6192_API uint32_t VQ6192_Base_SetPLLCfg(uint32_t chip, const uint16_t table[40]);
+VQ6192_API uint32_t VQ6192_Base_InitDDR(uint32_t chip, uint8_t *failed, const void *ddrOption);
+VQ6192_API uint32_t VQ6192_Base_ResetChip(uint32_t chip, uint32_t mode);
+VQ6192_API uint32_t VQ6192_Base_SetSoftResetModule(uint32_t chip, uint32_t module, uint32_t value);
+VQ6192_API uint32_t VQ6192_Base_SetModuleClkEn(uint32_t chip, uint32_t module, uint32_t enable);
 
 /* ==== Chip health and self-tests (module BASE) ================================================== */
 

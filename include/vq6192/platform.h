@@ -47,6 +47,7 @@ VQ6192_API void VQ6192_Platform_SetLogMask(uint32_t mask);
 
 /* Virtual clock: while enabled every delay returns at once and adds the requested time to a total. */
 VQ6192_API void VQ6192_Platform_SetVirtualClock(uint32_t enable);
+VQ6192_API uint32_t VQ6192_Platform_GetVirtualClock(void);
 VQ6192_API uint64_t VQ6192_Platform_GetVirtualTimeUs(void);
 VQ6192_API void VQ6192_Platform_ResetVirtualTime(void);
 

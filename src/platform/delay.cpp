@@ -63,6 +63,9 @@ extern "C" {
 VQ6192_API void VQ6192_Platform_SetVirtualClock(uint32_t enable) {
     vq::platform::g_virtual = enable != 0;
 }
+VQ6192_API uint32_t VQ6192_Platform_GetVirtualClock(void) {
+    return vq::platform::g_virtual ? 1 : 0;
+}
 VQ6192_API uint64_t VQ6192_Platform_GetVirtualTimeUs(void) {
     return vq::platform::g_virtualUs;
 }

@@ -4,6 +4,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <sstream>
 
 #include "session.h"
@@ -166,16 +167,16 @@ TEST(ShellBanner, NamesTheChipsWhereTheyAreTheirBringUpAndLineEditing) {
     };
     const std::string help = "; help lists the commands";
     const Case cases[] = {
-        {1, false, true, true, "vq6192-shell: chip 0 on the chip model, not brought up" + help},
-        {4, false, true, true, "vq6192-shell: chips 0..3 on the chip model, not brought up" + help},
+        {1, false, true, true, "vq6192-shell: chip 0 on the chip model, brought up" + help},
+        {4, false, true, true, "vq6192-shell: chips 0..3 on the chip model, brought up" + help},
         {1, false, false, true, "vq6192-shell: chip 0 on the chip model, not brought up" + help},
         {2, true, true, true,
          "vq6192-shell: chips 0..1 on the chip model, chip 2 on the mapped window " + window +
-             ", not brought up" + help},
+             ", 2 of 3 brought up" + help},
         {0, true, true, true,
          "vq6192-shell: chip 0 on the mapped window " + window + ", not brought up" + help},
         {1, false, true, false,
-         "vq6192-shell: chip 0 on the chip model, not brought up" + help +
+         "vq6192-shell: chip 0 on the chip model, brought up" + help +
              " (no line editing: built without libedit)"},
     };
     for (const Case &c : cases) {
@@ -240,6 +241,51 @@ TEST(ShellMapped, DrivesARegisterWindowMappedFromAFile) {
     options.mapped.push_back({"/nonexistent/window", 0, 0x1000, 0, 0});
     EXPECT_FALSE(missing.start(options));
     EXPECT_EQ(err.str().substr(0, 37), "error: cannot open /nonexistent/windo");
+}
+
+TEST(ShellBringUp, ChipsOnTheModelComeUpWithAProgressLinePerStep) {
+    vqtest::PlatformCapture capture;
+    const uint64_t baseline = vqtest::outstandingAllocations();
+    struct Case {
+        const char *name;
+        bool bringUp;
+        bool progress;
+        size_t lines;
+        uint16_t clocks;  // reg 0x06: every module clock but module 5's once up
+    };
+    const Case cases[] = {
+        {"terminal", true, true, 2 * 17, 0x7FDF},
+        {"pipe", true, false, 0, 0x7FDF},
+        {"no bring-up", false, true, 0, 0},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        std::ostringstream out;
+        std::ostringstream err;
+        {
+            vqshell::Session session(out, err);
+            vqshell::SessionOptions options;
+            options.chips = 2;
+            options.bringUp = c.bringUp;
+            options.progress = c.progress;
+            ASSERT_TRUE(session.start(options)) << err.str();
+            for (uint32_t chip : {0u, 1u}) {
+                EXPECT_EQ(session.broughtUp(chip), c.bringUp);
+                EXPECT_EQ(session.model(chip)->peek(0x06), c.clocks);
+            }
+            EXPECT_FALSE(session.broughtUp(2));
+        }
+        const std::string text = out.str();
+        EXPECT_EQ(static_cast<size_t>(std::count(text.begin(), text.end(), '\n')), c.lines);
+        if (c.lines != 0) {
+            EXPECT_EQ(text.substr(0, 37), "chip 0 bring-up: settle           ok\n");
+            EXPECT_EQ(text.substr(text.size() - 37), "chip 1 bring-up: MAC ports        ok\n");
+        }
+        EXPECT_TRUE(err.str().empty());
+        // The waits ran on the virtual clock, which the test had switched on and still has.
+        EXPECT_EQ(VQ6192_Platform_GetVirtualClock(), 1u);
+    }
+    EXPECT_EQ(vqtest::outstandingAllocations(), baseline);
 }
 
 }  // namespace

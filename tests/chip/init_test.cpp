@@ -1,0 +1,601 @@
+// Chip bring-up: PLL programming, chip reset, soft resets and clock enables, DDR start-up, and the whole
+// bring-up in both modes with its failures.
+#include <algorithm>
+
+#include "chip/bringup.h"
+#include "chip_fixture.h"
+#include "vq6192/atm.h"
+#include "vq6192/ces.h"
+#include "vq6192/eth.h"
+#include "vq6192/framer.h"
+#include "vq6192/ima.h"
+#include "vq6192/ppp.h"
+#include "vq6192/sim/clocks.h"
+#include "vq6192/sim/ddr_ctrl.h"
+#include "vq6192/sim/mac.h"
+
+namespace {
+
+using namespace chiptest;
+using vq6192::sim::ClockBlock;
+using vq6192::sim::DdrCtrlBlock;
+
+constexpr uint32_t kStepFailed = 0x03010004;
+constexpr uint32_t kDdrStartFailed = 0x0300000C;
+
+// A field write reaches the bus as a read-modify-write of the whole register; `fw` is its write into
+// a register that held 0 elsewhere.
+BusAccess fw(uint32_t addr, uint32_t value, uint32_t bit, uint32_t /*width*/) {
+    return wr(addr, value << bit);
+}
+
+class Init : public ChipFixture {
+  protected:
+    void TearDown() override {
+        g_ulVq6192DdrCl = 6;
+        ChipFixture::TearDown();
+    }
+    ClockBlock &clocks() { return model.block<ClockBlock>(); }
+    DdrCtrlBlock &ddrCtrl() { return model.block<DdrCtrlBlock>(); }
+
+    static bool contains(const std::vector<std::string> &lines, const std::string &line) {
+        return std::find(lines.begin(), lines.end(), line) != lines.end();
+    }
+    static bool wrote(const std::vector<BusAccess> &t, uint32_t addr) {
+        return std::any_of(t.begin(), t.end(), [&](const BusAccess &a) {
+            return a.addr == addr && (a.op == BusOp::Write || a.op == BusOp::FieldWrite);
+        });
+    }
+    static size_t firstAccess(const std::vector<BusAccess> &t, uint32_t addr) {
+        return static_cast<size_t>(
+            std::find_if(t.begin(), t.end(), [&](const BusAccess &a) { return a.addr == addr; }) - t.begin());
+    }
+};
+
+// ---- parameter errors ------------------------------------------------------------------------------
+
+TEST_F(Init, ParameterErrorsTouchNothing) {
+    const uint16_t table[40] = {};
+    uint8_t failed = 0;
+    expectRefused("mode 0", kBasePara, [] { return VQ6192_Base_Initialize(kChip, 0, 0, 0, 0, nullptr); });
+    expectRefused("mode 3", kBasePara, [] { return VQ6192_Base_Initialize(kChip, 3, 0, 0, 0, nullptr); });
+    expectRefused("ddr test 2", kBasePara, [] { return VQ6192_Base_Initialize(kChip, 1, 0, 2, 0, nullptr); });
+    expectRefused(
+        "chip 264", 0x08010001, [] { return VQ6192_Base_Initialize(264, 1, 0, 0, 0, nullptr); }, true);
+    expectRefused("null PLL table", kBasePara, [] { return VQ6192_Base_SetPLLCfg(kChip, nullptr); });
+    expectRefused(
+        "chip 264 PLL", 0x08010001, [&] { return VQ6192_Base_SetPLLCfg(264, table); }, true);
+    expectRefused("null DDR flag", kBasePara, [] { return VQ6192_Base_InitDDR(kChip, nullptr, nullptr); });
+    expectRefused(
+        "chip 264 DDR", 0x08010001, [&] { return VQ6192_Base_InitDDR(264, &failed, nullptr); }, true);
+    expectRefused("reset mode 3", kBasePara, [] { return VQ6192_Base_ResetChip(kChip, 3); });
+    expectRefused("soft reset 2", kBasePara, [] { return VQ6192_Base_SetSoftResetModule(kChip, 1, 2); });
+    expectRefused("clock enable 2", kBasePara, [] { return VQ6192_Base_SetModuleClkEn(kChip, 1, 2); });
+    // Reset modes 0 and 2 are accepted and do nothing.
+    expectRefused(
+        "reset mode 0", 0, [] { return VQ6192_Base_ResetChip(kChip, 0); }, true);
+    expectRefused(
+        "reset mode 2", 0, [] { return VQ6192_Base_ResetChip(kChip, 2); }, true);
+}
+
+// ---- PLLs --------------------------------------------------------------------------------------------
+
+TEST_F(Init, PllRegisterSetsFromTheTables) {
+    struct Pll {
+        uint32_t base;
+        uint32_t divA, divB, combined, value16, value8;
+    };
+    // Rows of the E1 and T1 tables: w1, w2, w4 * 16 + w3, w7, w6.
+    const Pll e1[4] = {{0x20, 1, 0x20, 0x14, 0, 0},
+                       {0x40, 1, 0x23, 0x15, 0xA782, 0x5B},
+                       {0x60, 1, 0x3C, 0x13, 0, 0},
+                       {0x80, 1, 0x40, 0x14, 0, 0}};
+    const Pll t1[4] = {{0x20, 1, 0x20, 0x14, 0, 0},
+                       {0x40, 1, 0x24, 0x14, 0xDB57, 0xD1},
+                       {0x60, 1, 0x3C, 0x13, 0, 0},
+                       {0x80, 1, 0x40, 0x14, 0x81C3, 0}};
+    for (bool t1World : {false, true}) {
+        SCOPED_TRACE(t1World ? "T1" : "E1");
+        const Pll *plls = t1World ? t1 : e1;
+        VQ6192_Platform_ResetVirtualTime();
+        const auto &table = t1World ? g_ausVQ6192T1PLLCfg : g_ausVQ6192E1PLLCfg;
+        const auto t = traced([&] { EXPECT_EQ(VQ6192_Base_SetPLLCfg(kChip, &table[0][0]), 0u); });
+        std::vector<BusAccess> expected;
+        for (uint32_t n = 0; n < 4; ++n) {
+            const Pll &p = plls[n];
+            if (n >= 2) {
+                expected.push_back(fw(0x6A, 0, 6, 1));
+            }
+            expected.insert(expected.end(), {fw(p.base, p.divA, 0, 6), fw(p.base + 2, p.divB, 0, 12),
+                                             wr(p.base + 8, p.combined), fw(p.base + 6, p.value16, 0, 16),
+                                             fw(p.base + 4, p.value8, 0, 8), fw(p.base + 0xA, 1, 0, 1),
+                                             fw(p.base + 0xA, 0, 0, 1), fw(0x100, 1u << n, 0, 11)});
+        }
+        EXPECT_EQ(writes(t), expected);
+        // Each PLL: reset held 50 ms, released 50 ms, three checks 50 ms apart (and one read for the
+        // alarm clear).
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 4u * 5u * 50000u);
+        EXPECT_EQ(std::count(t.begin(), t.end(), rd(0x100, 0)), 16);
+    }
+}
+
+TEST_F(Init, PllFieldsKeepNeighbourBitsAndOtherAlarms) {
+    model.poke(0x40, 0xFFFF);
+    model.poke(0x42, 0xF000);
+    model.poke(0x44, 0xFF00);
+    model.poke(0x4A, 0xFFFE);
+    model.poke(0x6A, 0xFFFF);
+    irq().raise(0x100, 0x0400);  // an unrelated local alarm stays latched
+    EXPECT_EQ(VQ6192_Base_SetPLLCfg(kChip, &g_ausVQ6192E1PLLCfg[0][0]), 0u);
+    EXPECT_EQ(model.peek(0x40), 0xFFC1);
+    EXPECT_EQ(model.peek(0x42), 0xF023);
+    EXPECT_EQ(model.peek(0x44), 0xFF5B);
+    EXPECT_EQ(model.peek(0x4A), 0xFFFE);
+    EXPECT_EQ(model.peek(0x6A), 0xFFBE);  // bit 6 from PLL2 and PLL3, bit 0 PLL2's reset
+    EXPECT_EQ(model.peek(0x100), 0x0400);
+}
+
+TEST_F(Init, UnlockedPllFailsButTheOthersAreProgrammed) {
+    struct Case {
+        uint32_t pll;
+        std::string text;
+    };
+    const Case cases[] = {
+        {0, "Err. VQ6192_Base_SetPLLCfg.  SetPLL0, ChkTime[0x1], PLL Stat[0x1]\n, ErrCode[0x3010003]\r\n"},
+        {1, "Err. VQ6192_Base_SetPLLCfg.  SetPLL1, ChkTime[0x1], PLL Stat[0x2]\n, ErrCode[0x3010003]\r\n"},
+        {3, "Err. VQ6192_Base_SetPLLCfg.  SetPLL3, ChkTime[0x1], PLL Stat[0x8]\n, ErrCode[0x3010003]\r\n"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.pll);
+        clocks().setPllLocked(c.pll, false);
+        capture.clear();
+        VQ6192_Platform_ResetVirtualTime();
+        const auto t = traced(
+            [&] { EXPECT_EQ(VQ6192_Base_SetPLLCfg(kChip, &g_ausVQ6192E1PLLCfg[0][0]), kBaseTimeout); });
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{c.text});
+        // The failing PLL stops after its first check; the later PLLs are still programmed.
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 1000000u - 2u * 50000u);
+        EXPECT_TRUE(wrote(t, 0x80));
+        EXPECT_TRUE(wrote(t, 0x8A));
+        clocks().setPllLocked(c.pll, true);
+    }
+}
+
+// ---- reset, soft resets, clock enables ----------------------------------------------------------------
+
+TEST_F(Init, ChipResetPulsesEveryResetBit) {
+    model.poke(0x0C, 0xFFC0);
+    const auto t = traced([&] { EXPECT_EQ(VQ6192_Base_ResetChip(kChip, 1), 0u); });
+    EXPECT_EQ(writes(t),
+              (std::vector<BusAccess>{wr(0x0A, 0xFFFF), wr(0x0C, 0xFFFF), wr(0x0A, 0), wr(0x0C, 0xFFC0)}));
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 20000u);
+    EXPECT_EQ(model.peek(0x0C), 0xFFC0);
+}
+
+TEST_F(Init, SoftResetAndClockEnableBits) {
+    struct Case {
+        const char *name;
+        bool clock;
+        uint32_t module, value, reg;
+        uint16_t before, after;
+    };
+    const Case cases[] = {
+        {"reset 0 on", false, 0, 1, 0x0A, 0x8000, 0x8001},
+        {"reset 15 off", false, 15, 0, 0x0A, 0xFFFF, 0x7FFF},
+        {"reset 16 on", false, 16, 1, 0x0C, 0x0000, 0x0001},
+        {"reset 17 on", false, 17, 1, 0x0C, 0xA0F0, 0xA0F2},
+        {"reset 21 off", false, 21, 0, 0x0C, 0xFFFF, 0xFFDF},
+        {"clock 14 on", true, 14, 1, 0x06, 0x0001, 0x4001},
+        {"clock 5 off", true, 5, 0, 0x06, 0xFFFF, 0xFFDF},
+        {"clock 15 off", true, 15, 0, 0x08, 0xFFFF, 0xFFFE},
+        {"clock 20 on", true, 20, 1, 0x08, 0x8000, 0x8020},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        model.poke(c.reg, c.before);
+        const uint32_t rc = c.clock ? VQ6192_Base_SetModuleClkEn(kChip, c.module, c.value)
+                                    : VQ6192_Base_SetSoftResetModule(kChip, c.module, c.value);
+        EXPECT_EQ(rc, 0u);
+        EXPECT_EQ(model.peek(c.reg), c.after);
+    }
+}
+
+// ---- DDR start-up ----------------------------------------------------------------------------------------
+
+// The start-up sequence of a healthy DDR with the first setting, CAS latency 6.
+std::vector<BusAccess> healthyDdrWrites(uint16_t config, uint16_t timing1, uint16_t mode0) {
+    std::vector<BusAccess> w;
+    const uint16_t map[10] = {0x000, 0x180, 0x1C0, 0x4F9, 0x519, 0x6B7, 0x279, 0x100, 0x2F9, 0x278};
+    for (uint32_t k = 0; k < 10; ++k) {
+        w.push_back(fw(0xC12C + 8 * k, map[k], 0, 11));
+    }
+    auto pair = [&](uint32_t reg, uint32_t lo, uint32_t hi) {
+        w.insert(w.end(), {wr(reg, lo), wr(reg + 2, hi)});
+    };
+    pair(0xD360, 0x0067, 0);
+    pair(0xD02C, config, 0);
+    for (uint32_t v : {0x56u, 0x57u}) {
+        for (uint32_t reg : {0xD228u, 0xD230u, 0xD234u, 0xD238u, 0xD23Cu, 0xD240u}) {
+            pair(reg, v, 0);
+        }
+    }
+    pair(0xD058, 0x5000, 0x8471);
+    pair(0xD010, 0, 0);
+    pair(0xD010, 1, 0);
+    pair(0xD004, 0, 0);
+    pair(0xD014, mode0, 4);
+    pair(0xD018, 0, 0);
+    pair(0xD01C, 0x0611, 0x8140);
+    pair(0xD020, 0x0023, 0);
+    pair(0xD050, 0x1710, 0xC577);
+    pair(0xD054, timing1, 0xFF52);
+    pair(0xD058, 0x5061, 0x8471);
+    pair(0xD05C, 0xF4F4, 0xFFDF);
+    pair(0xD0AC, 0x0103, 0x0F10);
+    pair(0xD0F4, 1, 0);
+    pair(0xD200, 0x22, 0);
+    pair(0xD008, 1, 0);
+    pair(0xD01C, 0x0611, 0x8141);
+    return w;
+}
+
+TEST_F(Init, DdrStartSequenceForBothSettings) {
+    const int option = 1;
+    struct Case {
+        const char *name;
+        const void *ddrOption;
+        uint32_t cl;
+        uint16_t config, timing1, mode0;
+        std::vector<std::string> traces;
+    };
+    const Case cases[] = {
+        {"first setting", nullptr, 6, 0x0122, 0x5641, 0x1720, {}},
+        {"second setting", &option, 6, 0x0142, 0x5669, 0x1720, {}},
+        {"CL 17 falls back to 6",
+         nullptr,
+         17,
+         0x0122,
+         0x5641,
+         0x1720,
+         {"Err. VQ6192_Base_InitDDR.  g_wVq6192DdrCl[0x11] Err. g_wVq6192DdrCl set to 6 \r\n"}},
+        {"CL 16", nullptr, 16, 0x0122, 0x5041, 0x1741, {}},  // code 9: bit 0 and (9 * 8) & 0x70
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        g_ulVq6192DdrCl = c.cl;
+        capture.clear();
+        VQ6192_Platform_ResetVirtualTime();
+        uint8_t failed = 9;
+        const auto t = traced([&] { EXPECT_EQ(VQ6192_Base_InitDDR(kChip, &failed, c.ddrOption), 0u); });
+        EXPECT_EQ(failed, 0);
+        EXPECT_EQ(writes(t), healthyDdrWrites(c.config, c.timing1, c.mode0));
+        EXPECT_EQ(capture.traceTexts(), c.traces);
+        EXPECT_EQ(g_ulVq6192DdrCl, c.cl > 16 ? 6u : c.cl);
+        // 10 + 70 us PHY, 10 + 10 ms reset, 70 + 70 us, one ready poll, 70 ms after the mode write.
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 160220u);
+    }
+}
+
+TEST_F(Init, DdrStartFailures) {
+    struct Case {
+        const char *name;
+        uint32_t busyReads, fromStart;
+        uint16_t training;
+        uint32_t productFlag;
+        uint32_t rc;
+        uint8_t failed;
+        std::vector<std::string> traces;
+    };
+    const uint32_t never = DdrCtrlBlock::kForever;
+    const Case cases[] = {
+        {"ready at the third poll", 2, 0, 15, 0, 0, 0, {}},
+        {"never ready", never, 0, 15, 0, kBaseTimeout, 1, {"Err. VQ6192_Base_InitDDR.  TimeOut \r\n"}},
+        {"training short",
+         0,
+         0,
+         14,
+         0,
+         kBaseFailed,
+         1,
+         {"Err. VQ6192_Base_InitDDR.  DDR Init Dtr Err[e00]. \r\n"}},
+        {"training short, product fallback",
+         0,
+         0,
+         0,
+         1,
+         0,
+         0,
+         {"Err. VQ6192_Base_InitDDR.  DDR Init Dtr Err[0]. \r\n"}},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        ddrCtrl().setBusyReads(c.busyReads, c.fromStart);
+        ddrCtrl().setTraining(c.training);
+        g_vq6192[kChip].ulSupportProductFlag = c.productFlag;
+        capture.clear();
+        uint8_t failed = 9;
+        const auto t = traced([&] { EXPECT_EQ(VQ6192_Base_InitDDR(kChip, &failed, nullptr), c.rc); });
+        g_vq6192[kChip].ulSupportProductFlag = 0;
+        EXPECT_EQ(failed, c.failed);
+        EXPECT_EQ(capture.traceTexts(), c.traces);
+        const auto w = writes(t);
+        const bool fallback = c.productFlag == 1;
+        EXPECT_EQ(wrote(t, 0xD0E4), fallback);
+        if (fallback) {
+            const std::vector<BusAccess> tail(w.end() - 7, w.end());
+            EXPECT_EQ(tail, (std::vector<BusAccess>{wr(0xD0AC, 0x0101), wr(0xD0AE, 0x0F10), wr(0xD0E4, 2),
+                                                    wr(0xD0E6, 2), wr(0xD0B4, 0xAA), wr(0xD0C4, 0x2222),
+                                                    wr(0xD0C6, 0)}));
+        }
+    }
+    ddrCtrl().setBusyReads(0);
+    ddrCtrl().setTraining(15);
+}
+
+TEST_F(Init, WriteLevellingCorrection) {
+    // PHY lane 0 and mode register 3 with bits the correction must keep.
+    model.stickBits(0xD020, 0x8000, 0x8000);
+    model.stickBits(0xD228, 0x0F00, 0x0300);
+    model.stickBits(0xD22A, 0xFFFF, 0x1234);
+    ddrCtrl().setWriteLevel(1, 0x0001);
+    ddrCtrl().setWriteLevel(3, 0x8000);
+    uint8_t failed = 9;
+    VQ6192_Platform_ResetVirtualTime();
+    const auto t = traced([&] { EXPECT_EQ(VQ6192_Base_InitDDR(kChip, &failed, nullptr), 0u); });
+    EXPECT_EQ(failed, 0);
+    EXPECT_EQ(ddrCtrl().starts(), 2u);
+    const auto w = writes(t);
+    // The correction runs between the first start and the final mode write.
+    const auto start = std::find(w.begin(), w.end(), wr(0xD008, 1)) + 2;
+    const std::vector<BusAccess> correction(start, w.end() - 2);
+    EXPECT_EQ(correction,
+              (std::vector<BusAccess>{
+                  wr(0xD020, 0x8003), wr(0xD022, 0),      wr(0xD274, 0),      wr(0xD276, 0),
+                  wr(0xD27C, 0),      wr(0xD27E, 0),      wr(0xD058, 0x5000), wr(0xD05A, 0x8471),
+                  wr(0xD010, 0),      wr(0xD012, 0),      wr(0xD004, 1),      wr(0xD006, 0),
+                  wr(0xD228, 0x0356), wr(0xD22A, 0x1234), wr(0xD228, 0x0357), wr(0xD22A, 0x1234),
+                  wr(0xD0AC, 0x0101), wr(0xD0AE, 0x0F10), wr(0xD010, 1),      wr(0xD012, 0),
+                  wr(0xD004, 0),      wr(0xD006, 0),      wr(0xD0AC, 0x0103), wr(0xD0AE, 0x0F10),
+                  wr(0xD008, 1),      wr(0xD00A, 0),      wr(0xD058, 0x5061), wr(0xD05A, 0x8471)}));
+    model.clearStuckBits();
+    EXPECT_EQ(model.peek(0xD276), 0u);
+    EXPECT_EQ(model.peek(0xD27E), 0u);
+    // Healthy start plus the correction's 70 ms, 10 ms, 10 ms, three 70 us steps and one ready poll.
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 160220u + 70000u + 10000u + 10000u + 210u + 70000u);
+
+    // Second start never ready: the lanes are named in the trace.
+    ddrCtrl().setWriteLevel(3, 0x8000);
+    ddrCtrl().setBusyReads(DdrCtrlBlock::kForever, ddrCtrl().starts() + 1);
+    capture.clear();
+    EXPECT_EQ(VQ6192_Base_InitDDR(kChip, &failed, nullptr), kBaseTimeout);
+    EXPECT_EQ(failed, 1);
+    EXPECT_EQ(capture.traceTexts(),
+              std::vector<std::string>{"Err. InitDDR.  DDR Init Err in write level [8] TimeOut\r\n"});
+    ddrCtrl().setBusyReads(0);
+}
+
+// ---- the whole bring-up ---------------------------------------------------------------------------------
+
+TEST_F(Init, FullBringUpOrderAndWaits) {
+    // The initialisers' own waits, measured alone.
+    VQ6192_Platform_ResetVirtualTime();
+    ASSERT_EQ(VQ6192_ATM_InitAtm(kChip, 1), 0u);
+    ASSERT_EQ(VQ6192_PPP_InitPppModule(kChip, 1), 0u);
+    ASSERT_EQ(VQ6192_IMA_InitIma(kChip, 1), 0u);
+    ASSERT_EQ(VQ6192_CES_InitCesModule(kChip, 1), 0u);
+    ASSERT_EQ(VQ6192_Framer_FrmInit(kChip, 1, 0), 0u);
+    ASSERT_EQ(VQ6192_ETH_ETHInit(kChip, 1), 0u);
+    const uint64_t initialisers = VQ6192_Platform_GetVirtualTimeUs();
+
+    model.poke(0x06, 0x8020);
+    model.poke(0x08, 0xFFFF);
+    VQ6192_Platform_ResetVirtualTime();
+    capture.clear();
+    const auto t = traced([&] { EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), 0u); });
+    for (const auto &line : capture.traceTexts()) {
+        EXPECT_NE(line.rfind("Err. VQ6192_Base_", 0), 0u) << line;
+    }
+    // 70 ms settle; four PLLs of five 50 ms waits; 70 + 20 + 70 ms around the reset; DDR start;
+    // SerDes: 100 us and six short delays, one lock poll.
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(),
+              70000u + 1000000u + 160000u + 160220u + 100u + 6u * 50u + 50u + initialisers);
+    // Step order on the bus.
+    const uint32_t landmarks[] = {0x20, 0x06, 0x0A, 0x04, 0xC12C, 0xD000, 0x200, 0x220};
+    for (size_t i = 1; i < std::size(landmarks); ++i) {
+        EXPECT_LT(firstAccess(t, landmarks[i - 1]), firstAccess(t, landmarks[i])) << std::hex << landmarks[i];
+    }
+    EXPECT_EQ(model.peek(0x06), 0xFFDF);
+    EXPECT_EQ(model.peek(0x08), 0xFFC0);
+    EXPECT_EQ(model.peek(0x0A) & 0x3000, 0);
+    EXPECT_EQ(clocks().serdesLockReads(), 1u);
+}
+
+TEST_F(Init, MacPortsGetPreamblesThenComeUp) {
+    auto &mac = model.block<vq6192::sim::MacBlock>();
+    for (uint32_t port : {1u, 2u}) {
+        mac.setReg(port, 13, 0xFFFFFFFF);   // preamble lengths, bits 0..4, 8..12, 16..20
+        mac.setReg(port, 105, 0xFFFFFFFE);  // port enable, bit 0
+    }
+    // Stopped right after the clocks: preambles of 3 written, ports still disabled.
+    model.block<vq6192::sim::ChipControlBlock>().setNonInvertingBits(0xFFFF);
+    EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), kStepFailed);
+    for (uint32_t port : {1u, 2u}) {
+        SCOPED_TRACE(port);
+        EXPECT_EQ(mac.reg(port, 13), 0xFFE3E3E3u);
+        EXPECT_EQ(mac.reg(port, 105), 0xFFFFFFFEu);
+    }
+    control().setNonInvertingBits(0);
+    EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), 0u);
+    for (uint32_t port : {1u, 2u}) {
+        SCOPED_TRACE(port);
+        EXPECT_EQ(mac.reg(port, 105), 0xFFFFFFFFu);
+    }
+}
+
+TEST_F(Init, SerdesStartSequence) {
+    model.stickBits(0x0A, 0x0005, 0x0005);  // reset bits that stay set keep their place
+    const auto w = writes(traced([&] { EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 1, 0, 0, nullptr), 0u); }));
+    const auto from = std::find(w.begin(), w.end(), wr(0x200, 0x1000)) - 1;
+    ASSERT_GE(w.end() - from, 29);
+    // Whole-register values: 0x200 keeps bit 3 while bit 12 comes and goes.
+    EXPECT_EQ(std::vector<BusAccess>(from, from + 29),
+              (std::vector<BusAccess>{
+                  wr(0x0A, 0x3005),  wr(0x200, 0x1000), wr(0x200, 0x1008), wr(0x1E, 0x0001),   //
+                  wr(0x208, 0x0003), wr(0x20A, 0),      wr(0x212, 0x0003), wr(0x214, 0),       //
+                  wr(0x20C, 0),      wr(0x216, 0),      wr(0x200, 0x0008), wr(0x202, 0x0001),  //
+                  wr(0x202, 0),      wr(0x202, 0),      wr(0x206, 0),      wr(0x210, 0),       //
+                  wr(0x206, 0x0020), wr(0x210, 0x0020), wr(0x202, 0x0010), wr(0x202, 0),       //
+                  wr(0x206, 0),      wr(0x210, 0),      wr(0x20C, 0),      wr(0x216, 0),       //
+                  wr(0x20A, 0x0002), wr(0x214, 0x0002), wr(0x20A, 0),      wr(0x214, 0),       //
+                  wr(0x0A, 0x0005),
+              }));
+    model.clearStuckBits();
+}
+
+TEST_F(Init, SerdesLockIsWaitedForButNotRequired) {
+    struct Case {
+        const char *name;
+        uint32_t unlockedReads;
+        uint64_t lockReads;
+    };
+    const Case cases[] = {{"locks at the second poll", 1, 2}, {"never locks", ClockBlock::kForever, 3}};
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        clocks().delaySerdesLock(c.unlockedReads);
+        const uint64_t before = clocks().serdesLockReads();
+        EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), 0u);
+        EXPECT_EQ(clocks().serdesLockReads() - before, c.lockReads);
+    }
+    clocks().delaySerdesLock(0);
+}
+
+TEST_F(Init, BusyWaitShortDelays) {
+    g_vq6192[kChip].ulDelayMode = 1;
+    VQ6192_Platform_ResetVirtualTime();
+    EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), 0u);
+    const uint64_t busy = VQ6192_Platform_GetVirtualTimeUs();
+    g_vq6192[kChip].ulDelayMode = 0;
+    VQ6192_Platform_ResetVirtualTime();
+    EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), 0u);
+    // Six short delays in the start and one lock poll no longer sleep.
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs() - busy, 7u * 50u);
+}
+
+TEST_F(Init, BringUpFailures) {
+    struct Case {
+        const char *name;
+        std::function<void()> fault;
+        uint32_t tdm, ddrTest, frmOption;
+        uint32_t rc;
+        std::string trace;  // a line the failure traces, or the name of the failing call
+    };
+    const Case cases[] = {
+        {"PLL2 unlocked", [this] { clocks().setPllLocked(2, false); }, 0, 0, 0, kStepFailed,
+         "Err. VQ6192_Base_SetPLLCfg.  SetPLL2, ChkTime[0x1], PLL Stat[0x4]\n, ErrCode[0x3010003]\r\n"},
+        {"TDM mode refused", [] {}, 2, 0, 0, kStepFailed,
+         "Err. VQ6192_Base_Initialize.  VQ6192_Framer_SetFrmTDMMode ErrCode[0x30e0001]\r\n"},
+        {"register test", [this] { control().setNonInvertingBits(0xFFFF); }, 0, 0, 0, kStepFailed,
+         "Err. VQ6192_Base_Initialize.  VQ6192_Base_GetChipStatus ErrCode[0x3010007]\r\n"},
+        {"DDR never ready", [this] { ddrCtrl().setBusyReads(DdrCtrlBlock::kForever); }, 0, 0, 0,
+         kDdrStartFailed, "Err. VQ6192_Base_InitDDR.  TimeOut \r\n"},
+        {"DDR training", [this] { ddrCtrl().setTraining(7); }, 0, 0, 0, kDdrStartFailed,
+         "Err. VQ6192_Base_InitDDR.  DDR Init Dtr Err[700]. \r\n"},
+        {"DDR scan error",
+         [this] {
+             ddr().failScan(0x100, 2, {0, 0, 0, 0});
+         },
+         0, 1, 0, kStepFailed,
+         "Err. VQ6192_Base_Initialize.  VQ6192_Base_DDR9StepTest ErrCode[0x3010007]\r\n"},
+        {"MAC tables stuck", [this] { model.tables().holdBusy(0x4000, vq6192::sim::TableEngine::kForever); },
+         0, 0, 0, kStepFailed, "VQ6192_ETH_SetMACAttr"},
+        {"CES tables stuck", [this] { model.tables().holdBusy(0xA000, vq6192::sim::TableEngine::kForever); },
+         0, 0, 0, kStepFailed, "VQ6192_CES_InitCesModule"},
+        {"framer option low byte 2", [] {}, 0, 0, 0x0102, kStepFailed,
+         "Err. VQ6192_Base_Initialize.  VQ6192_Framer_FrmInit ErrCode[0x30e0001]\r\n"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        c.fault();
+        capture.clear();
+        const auto t = traced([&] {
+            EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, c.tdm, c.ddrTest, c.frmOption, nullptr), c.rc);
+        });
+        if (c.trace.rfind("Err. ", 0) == 0) {
+            EXPECT_TRUE(contains(capture.traceTexts(), c.trace))
+                << ::testing::PrintToString(capture.traceTexts());
+            for (const auto &line : capture.traces) {
+                if (line.text.rfind("Err. VQ6192_Base_", 0) == 0) {  // the chip module's own lines
+                    EXPECT_EQ(line.module, 1u);
+                    EXPECT_EQ(line.level, 4u);
+                }
+            }
+        } else {
+            const std::string prefix = "Err. VQ6192_Base_Initialize.  " + c.trace + " ErrCode[";
+            const auto texts = capture.traceTexts();
+            EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [&](const std::string &s) {
+                return s.rfind(prefix, 0) == 0;
+            })) << ::testing::PrintToString(texts);
+        }
+        // Bring-up stops at the failing step: the SerDes are never started.
+        EXPECT_FALSE(wrote(t, 0x200));
+        // Undo the fault on a fresh model state.
+        control().setNonInvertingBits(0);
+        clocks().setPllLocked(2, true);
+        ddrCtrl().setBusyReads(0);
+        ddrCtrl().setTraining(15);
+        ddr().passScan();
+        model.tables().holdBusy(0x4000, 0);
+        model.tables().holdBusy(0xA000, 0);
+    }
+    // With the scan passing, the DDR test runs and bring-up completes.
+    EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 1, 0, nullptr), 0u);
+    EXPECT_EQ(ddr().scansStarted(), 2u);
+}
+
+TEST_F(Init, RestoreRunsOnlyTheModuleInitialisers) {
+    const auto direct = traced([&] {
+        EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 2), 0u);
+        EXPECT_EQ(VQ6192_PPP_InitPppModule(kChip, 2), 0u);
+        EXPECT_EQ(VQ6192_IMA_InitIma(kChip, 2), 0u);
+        EXPECT_EQ(VQ6192_CES_InitCesModule(kChip, 2), 0u);
+        EXPECT_EQ(VQ6192_Framer_FrmInit(kChip, 2, 0), 0u);
+        EXPECT_EQ(VQ6192_ETH_ETHInit(kChip, 2), 0u);
+    });
+    VQ6192_Platform_ResetVirtualTime();
+    const auto restore = traced([&] { EXPECT_EQ(VQ6192_Base_Initialize(kChip, 2, 1, 1, 0, nullptr), 0u); });
+    EXPECT_EQ(restore, direct);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 0u);
+    EXPECT_EQ(ddr().scansStarted(), 0u);
+    // A failing initialiser ends the restore with the step failure.
+    EXPECT_EQ(VQ6192_Base_Initialize(kChip, 2, 0, 0, 0x02, nullptr), kStepFailed);
+}
+
+TEST_F(Init, MacPortFailuresAreToldApart) {
+    ASSERT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), 0u);
+    const auto steps = vq::chip::bringUpSteps();
+    const auto ports = std::find_if(steps.begin(), steps.end(),
+                                    [](const auto &s) { return std::string(s.name) == "MAC ports"; });
+    ASSERT_NE(ports, steps.end());
+    EXPECT_EQ(ports, steps.end() - 1);  // the last step
+    // A lock failure injected ever later in the step: port 1 fails first, then port 2, then nothing.
+    const vq::chip::BringUpRun run{kChip, 1, 0, 0, 0, nullptr};
+    std::vector<uint32_t> seen;
+    for (uint32_t after = 0; after < 64; ++after) {
+        VQ6192_Platform_FailSemTakes(after, 1);
+        const uint32_t rc = ports->run(run);
+        VQ6192_Platform_FailSemTakes(0, 0);
+        if (seen.empty() || seen.back() != rc) {
+            seen.push_back(rc);
+        }
+        if (rc == 0) {
+            break;
+        }
+    }
+    EXPECT_EQ(seen, (std::vector<uint32_t>{kStepFailed, kBaseFailed, 0}));
+    const auto texts = capture.traceTexts();
+    EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [](const std::string &s) {
+        return s.rfind("Err. VQ6192_Base_Initialize.  VQ6192_ETH_SetMACAttr ErrCode[", 0) == 0;
+    }));
+}
+
+}  // namespace
