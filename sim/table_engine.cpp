@@ -152,6 +152,9 @@ void TableEngine::onCommand(size_t block, uint16_t newValue, uint16_t oldValue) 
             model_.poke(addrOf(layout.readData + k), it == memory_.end() ? 0 : it->second[k]);
         }
         s.reads++;
+        for (const ReadDoneHook &hook : s.readDoneHooks) {
+            hook(select, address);
+        }
     }
     if (s.commandBusy != 0) {
         s.busyPolls = s.commandBusy;
@@ -181,6 +184,10 @@ void TableEngine::setCommandBusy(uint32_t block, uint32_t polls) {
 
 void TableEngine::onTableCommand(uint32_t block, CommandHook hook) {
     state_[blockIndex(block)].hooks.push_back(std::move(hook));
+}
+
+void TableEngine::onTableReadDone(uint32_t block, ReadDoneHook hook) {
+    state_[blockIndex(block)].readDoneHooks.push_back(std::move(hook));
 }
 
 void TableEngine::failCommand(uint32_t block, uint32_t n) {
