@@ -514,6 +514,45 @@ VQ6192_API uint32_t getatmccloc(uint32_t chip, uint32_t vcx, char *buf);
 VQ6192_API uint32_t getcclocall(uint32_t chip, char *buf);
 VQ6192_API uint32_t getlinkdata(uint32_t chip, char *buf);
 VQ6192_API uint32_t getbmtemplate(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmportstat(uint32_t chip, uint32_t port, uint32_t side, char *buf);
+VQ6192_API uint32_t getatmvcsstat(uint32_t chip, uint32_t vcx, char *buf);
+VQ6192_API uint32_t getatmccsrcstat(uint32_t chip, uint32_t vcx, char *buf);
+VQ6192_API uint32_t getatmvcxdropstat(uint32_t chip, uint32_t vcx, char *buf);
+VQ6192_API uint32_t getatmportdropstat(uint32_t chip, uint32_t linePort, char *buf);
+VQ6192_API uint32_t getvcxdropinfo(uint32_t chip, uint32_t vcx, char *buf);
+VQ6192_API uint32_t getatmdropstat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmqmdatastat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmpolicingstat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmoamstat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmccstat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmfifooverflow(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmtabrambusy(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmswalarm(uint32_t chip, char *buf);
+VQ6192_API uint32_t getvpcdelack(uint32_t chip, char *buf);
+VQ6192_API uint32_t captureatmcell(uint32_t chip, uint32_t mode, uint32_t index, uint32_t matchVci,
+                                   uint32_t vpi, uint32_t vci, char *buf);
+VQ6192_API uint32_t getatmvcxstatall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmportstatall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getvcxdropall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getportdropall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getdropall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getsendpwe3time(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmpwe3statall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmpwe3perall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmpwe3per(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getatmpwcwen(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getatmpwencpmode(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getatmpwcellconcattr(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwpriIndex(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwpktdropen(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwexpectrange(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwe3loop(uint32_t chip, uint32_t which, char *buf);
+VQ6192_API uint32_t getpwenable(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwchkerralm(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwsnchkadd(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwpritemplate(uint32_t chip, uint32_t tmpl, uint32_t serviceType, char *buf);
+VQ6192_API uint32_t getpw3fifostats(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmpwe3capcell(uint32_t chip, uint32_t pw, uint32_t direction, char *buf);
 
 VQ6192_EXTERN_C_END
 
