@@ -114,6 +114,9 @@ AtmPwe3Block::AtmPwe3Block(ChipModel &model) : model_(model) {
 }
 
 void AtmPwe3Block::onReadDone(uint32_t select, uint32_t address) {
+    if (!readClear_) {
+        return;
+    }
     for (const Counter &c : kCounters) {
         if (c.select == select) {
             clearBits(select, address, c.startBit, c.width);

@@ -25,6 +25,10 @@ using RegWrite = std::pair<uint32_t, uint32_t>;
 
 class Pwe3Test : public AtmTest {
   protected:
+    void SetUp() override {
+        AtmTest::SetUp();
+        model.block<AtmPwe3Block>().setReadClear(true);
+    }
     AtmPwe3Block &pwe3() { return model.block<AtmPwe3Block>(); }
     std::vector<RegWrite> regWrites(uint32_t addr) {
         std::vector<RegWrite> out;

@@ -12,6 +12,10 @@ enum StatSel : uint32_t { kTrcc = 1, kTtcc = 2, kLpcc = 6, kSpcc = 8, kBmPvcSta 
 
 class StatsTest : public AtmTest {
   protected:
+    void SetUp() override {
+        AtmTest::SetUp();
+        model.block<AtmPwe3Block>().setReadClear(true);
+    }
     // Every bit set but the capture start bits.
     static uint16_t startCleared(uint32_t reg) {
         switch (reg) {

@@ -178,6 +178,7 @@ void setAtmEntry(vq6192::sim::ChipModel &m, uint32_t sel, uint32_t index,
 }
 
 TEST_F(AtmDiagTest, CounterReports) {
+    model.block<vq6192::sim::AtmPwe3Block>().setReadClear(true);
     setAtmEntry(model, 6, 7, {0x0005, 0, 0x0010, 0});  // line port 7: 5 sent, 16 received
     ASSERT_EQ(getatmportstat(kChip, 7, 0, buf.data()), 0u);
     EXPECT_EQ(text(), std::string(kSep) + "        GetAtmPortStat()\n" + kSep + " dwRcc    :    0x10(16)\n" +

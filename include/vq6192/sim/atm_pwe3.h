@@ -51,6 +51,9 @@ class AtmPwe3Block : public ChipBlock {
     // A cell waiting in the line (0) or system (1) capture FIFO; the captured flag of the side reads 1
     // while one of its start bits is set and a cell waits.
     void queueCell(uint32_t side, const Cell &cell);
+    // The counter tables clear when read, as the chip's do, once switched on; off by default so that
+    // readers comparing the model's memory with what they read (the chip dump) find it unchanged.
+    void setReadClear(bool on) { readClear_ = on; }
     size_t fifoWords(uint32_t side) const { return fifo_[side].size(); }
 
   private:
@@ -69,6 +72,7 @@ class AtmPwe3Block : public ChipBlock {
     std::vector<PwCommand> captures_;
     std::vector<std::vector<uint8_t>> packets_;
     std::array<std::deque<uint32_t>, 2> fifo_;
+    bool readClear_ = false;
 };
 
 }  // namespace vq6192::sim
