@@ -427,6 +427,14 @@ TEST_F(Pwe3Test, PacketCaptureFailures) {
         traced("Err. VQ6192_ATM_GetAtmPWE3CapCell VQ6192_ATM_GetAtmPWE3CapData(0x3, 0x5) ErrorCode: "
                "0x30c0003\r\n"));
 
+    // Nothing captured: the buffer has no end mark, the length is 0 and nothing is copied.
+    model.tables().failCommand(kAtmBlock, 0);
+    model.tables().holdBusy(kAtmBlock, 0);
+    cell[0] = 0x5A;
+    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 6, 1, cell, &length), 0u);
+    EXPECT_EQ(length, 0u);
+    EXPECT_EQ(cell[0], 0x5A);
+
     model.clearTrace();
     EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 2048, 0, cell, &length), kPara);
     EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 1, 2, cell, &length), kPara);
