@@ -2,6 +2,7 @@
 #include "vq6192/sim.h"
 #include "vq6192/sim/ces.h"
 #include "vq6192/sim/atm.h"
+#include "vq6192/sim/atm_pwe3.h"
 #include "vq6192/sim/chip_control.h"
 #include "vq6192/sim/clocks.h"
 #include "vq6192/sim/ddr.h"
@@ -38,6 +39,7 @@ void installBlocks(ChipModel &model) {
     model.block<RegisterWindow>();
     model.block<AtmBlock>();
     model.block<ImaProcessor>();
+    model.block<AtmPwe3Block>();
 }
 
 }  // namespace vq6192::sim

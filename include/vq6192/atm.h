@@ -366,6 +366,126 @@ VQ6192_API uint32_t VQ6192_ATM_SetOamCapFifoClear(uint32_t chip);
 
 /* ---- Diagnostic commands ---------------------------------------------------------------------------- */
 
+/* ---- ATM pseudowires: the system ports of the switch as PWE3 channels 0..2047 ---- */
+
+/* Encapsulation modes: 0 and 3 N:1 cells, 1 VPC one-to-one, 2 VCC one-to-one (control word
+ * mandatory in the one-to-one modes). */
+typedef struct {
+    uint32_t dwEgVpi;   /* VPI put into the cells of a one-to-one PW */
+    uint32_t dwEgVci;   /* VCI put into the cells of a one-to-one PW */
+    uint32_t dwPwLabel; /* 20-bit label put into the PSN header */
+    uint32_t dwInLabel; /* 20-bit label that identifies the PW on receive */
+    uint8_t byCwEn;
+    uint8_t bySnChkEn;
+    uint8_t bySnAddEn;
+    uint8_t byEncpMode;
+    uint8_t byPsnEncpType; /* the PSN encapsulation type of the Ethernet side; 0 removes */
+} ATM_PW_CFG;
+
+#define VQ6192_ATM_PWE3_PER_NUM 14u      /* values of one PW's statistics record */
+#define VQ6192_ATM_PW3_FIFO_STAT_NUM 22u /* flags of the PWE3 FIFO status read-out */
+#define VQ6192_ATM_PWE3_CAP_BYTES 2048u  /* bytes the packet buffer holds (512 entries of 4) */
+#define VQ6192_ATM_PWE3_CAP_ENTRIES 512u
+
+/* The largest number of polls any PW delete handshake has needed so far, over all chips. */
+VQ6192_API extern uint32_t g_ulVq6192AtmPwe3EnableCnt;
+
+VQ6192_API uint32_t VQ6192_ATM_AtmPwe3Init(uint32_t chip, uint32_t mode);
+VQ6192_API uint32_t VQ6192_ATM_CreateAtmPw(uint32_t chip, uint32_t pw, const ATM_PW_CFG *cfg);
+VQ6192_API uint32_t VQ6192_ATM_RemoveAtmPw(uint32_t chip, uint32_t pw, uint32_t inLabel);
+VQ6192_API uint32_t VQ6192_ATM_SetPwEnable(uint32_t chip, uint32_t pw, uint32_t enable);
+VQ6192_API uint32_t VQ6192_ATM_GetPwEnable(uint32_t chip, uint32_t pw, uint8_t *byPwEnable);
+VQ6192_API uint32_t VQ6192_ATM_GetPwEnable_Pro(uint32_t chip, uint32_t pw, uint8_t *byPwEnable);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmPwEncpMode(uint32_t chip, uint32_t pw, uint32_t mode);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPwEncpMode(uint32_t chip, uint32_t pw, uint32_t *renPwEnMode);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmPwCWEn(uint32_t chip, uint32_t pw, uint32_t enable);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPwCWEn(uint32_t chip, uint32_t pw, uint8_t *rbyEnable);
+VQ6192_API uint32_t VQ6192_ATM_SetPwEgVPIVCI(uint32_t chip, uint32_t pw, uint32_t vpi, uint32_t vci);
+VQ6192_API uint32_t VQ6192_ATM_GetPwEgVPIVCI(uint32_t chip, uint32_t pw, uint32_t *rdwVpi, uint32_t *rdwVci);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmPwCellConcAttr(uint32_t chip, uint32_t pw, uint32_t cells,
+                                                    uint32_t maxTime);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPwCellConcAttr(uint32_t chip, uint32_t pw, uint32_t *rdwCellNum,
+                                                    uint32_t *rdwMaxEncpTime);
+VQ6192_API uint32_t VQ6192_ATM_SetPwSnChkAdd(uint32_t chip, uint32_t pw, uint32_t check, uint32_t add);
+VQ6192_API uint32_t VQ6192_ATM_GetPwSnChkAdd(uint32_t chip, uint32_t pw, uint16_t *rwSnChkEn,
+                                             uint16_t *rwSnAddEn);
+VQ6192_API uint32_t VQ6192_ATM_SetPwPktDropEn(uint32_t chip, uint32_t pw, uint32_t enable);
+VQ6192_API uint32_t VQ6192_ATM_GetPwPktDropEn(uint32_t chip, uint32_t pw, uint16_t *rwDropEn);
+VQ6192_API uint32_t VQ6192_ATM_SetPwExpectRange(uint32_t chip, uint32_t pw, uint32_t range);
+VQ6192_API uint32_t VQ6192_ATM_GetPwExpectRange(uint32_t chip, uint32_t pw, uint16_t *rwRange);
+VQ6192_API uint32_t VQ6192_ATM_SetPwPriIndex(uint32_t chip, uint32_t pw, uint32_t index);
+VQ6192_API uint32_t VQ6192_ATM_GetPwPriIndex(uint32_t chip, uint32_t pw, uint16_t *wPwPriIndex);
+VQ6192_API uint32_t VQ6192_ATM_SetPwPriTemplate(uint32_t chip, uint32_t tmpl, uint32_t serviceType,
+                                                uint32_t priority);
+VQ6192_API uint32_t VQ6192_ATM_GetPwPriTemplate(uint32_t chip, uint32_t tmpl, uint32_t serviceType,
+                                                uint16_t *rwPriority);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmPwLabelCos(uint32_t chip, uint32_t pw, uint32_t label, uint32_t cos);
+VQ6192_API uint32_t VQ6192_ATM_SetPWE3Loop(uint32_t chip, uint32_t which, uint32_t enable);
+VQ6192_API uint32_t VQ6192_ATM_GetPWE3Loop(uint32_t chip, uint32_t which, uint16_t *wEnable);
+VQ6192_API uint32_t VQ6192_ATM_SetSendPwe3Time(uint32_t chip, uint32_t value);
+VQ6192_API uint32_t VQ6192_ATM_GetSendPwe3Time(uint32_t chip, uint16_t *wTime);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPwe3Per(uint32_t chip, uint32_t pw, uint32_t out[14]);
+VQ6192_API uint32_t VQ6192_ATM_GetPwChkErrAlm(uint32_t chip, uint32_t pw, uint8_t *byAlmStat);
+VQ6192_API uint32_t VQ6192_ATM_SetPw3FIFOStats(uint32_t chip, uint32_t which, uint32_t value);
+VQ6192_API uint32_t VQ6192_ATM_GetPw3FIFOStats(uint32_t chip, uint8_t out[22]);
+VQ6192_API uint32_t VQ6192_ATM_SetAtmPWE3Capture(uint32_t chip, uint32_t pw, uint32_t direction);
+/* data: 2048 bytes; cellEnds: 512 running byte totals, one per end of cell; count: cell ends found. */
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPWE3CapData(uint32_t chip, uint8_t *data, uint16_t *cellEnds,
+                                                 uint16_t *count);
+/* pbyCell: 2048 bytes; gets the first captured packet, its byte count in *length. */
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPWE3CapCell(uint32_t chip, uint32_t pw, uint32_t direction,
+                                                 uint8_t *pbyCell, uint32_t *length);
+
+/* ---- ATM statistics, alarms and cell capture ---- */
+
+typedef struct {
+    uint16_t wRedDrop, wFdDrop, wPfdDrop, wClpDrop, wFdAll5Drop, wPfdAll5Drop, wCbrDrop, wRtvbrDrop,
+        wNrtvbrDrop, wUbrplusDrop, wUbrDrop, wGlobalDrop, wErrDrop, wTcamDropRx, wTcamDropTx, wLcptDropRx,
+        wLcptDropTx, wScptDropRx, wScptDropTx, wNoVldRx, wNoVldTx;
+} ATM_DROP_STAT;
+
+typedef struct {
+    uint32_t dwCbrData, dwRtVbrData, dwNrtVbrData, dwUbrPlusData, dwUbrData, dwGlobalData;
+} ATM_QM_DATA_STAT;
+
+typedef struct {
+    uint16_t wPolDropRx, wPolDropTx, wPolTagRx, wPolTagTx;
+} ATM_POLICING_STAT;
+
+typedef struct {
+    uint16_t wOamMin, wOamCapRx, wOamCapTx, wOamCapNum, wOamInNum, wOamDropRx, wOamDropTx, wOamDrop,
+        wOamCrcErrRx, wOamCrcErrTx, wCapFifoNum, wInFifoNum, wCapltInc;
+} ATM_OAM_STAT;
+
+#define VQ6192_ATM_CAP_CELL_BYTES 64u
+
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPortStat(uint32_t chip, uint32_t port, uint32_t side, uint32_t *dwRcc,
+                                              uint32_t *dwTcc);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPortStat_Pro(uint32_t chip, uint32_t port, uint32_t side,
+                                                  uint32_t *dwRcc, uint32_t *dwTcc);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmVcsStat(uint32_t chip, uint32_t vcx, uint32_t *dwTTcc, uint32_t *dwTRcc);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmVcxDropStat(uint32_t chip, uint32_t vcx, uint16_t *wDropCell);
+VQ6192_API uint32_t VQ6192_ATM_GetVcxDropInfo(uint32_t chip, uint32_t vcx, uint8_t *byBmAll5, uint8_t *byBmFD,
+                                              uint8_t *byBmPFD);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPortDropStat(uint32_t chip, uint32_t linePort, uint16_t *wDropCell);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmCcSrcStat(uint32_t chip, uint32_t vcx, uint16_t *wSrcTimer,
+                                               uint16_t *wTtcc);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmDropStat(uint32_t chip, ATM_DROP_STAT *stat);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmQmDataStat(uint32_t chip, ATM_QM_DATA_STAT *stat);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmPolicingStat(uint32_t chip, ATM_POLICING_STAT *stat);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmOamStat(uint32_t chip, ATM_OAM_STAT *stat);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmCcStat(uint32_t chip, uint16_t *wCcFifoNum, uint16_t *wCcCnt);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmFifoOverflow(uint32_t chip, uint16_t out[3]);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmTabRamBusy(uint32_t chip, uint16_t *byRam);
+VQ6192_API uint32_t VQ6192_ATM_GetAtmSwAlarm(uint32_t chip, uint16_t out[3]);
+VQ6192_API uint32_t VQ6192_ATM_GetVpcDelAck(uint32_t chip, uint8_t *byDelStat, uint8_t *byType,
+                                            uint16_t *wLinkPort);
+VQ6192_API uint32_t VQ6192_Read_QMLEN(uint32_t chip, uint32_t queue, uint32_t n, uint32_t *len);
+VQ6192_API uint32_t VQ6192_ATM_CaptureAtmCell(uint32_t chip, uint8_t cell[64], uint32_t mode, uint32_t index,
+                                              uint32_t matchVci, uint32_t vpi, uint32_t vci);
+VQ6192_API uint32_t VQ6192_ATM_CaptureAtmLcapCell(uint32_t chip, uint8_t cell[64]);
+VQ6192_API uint32_t VQ6192_ATM_CaptureAtmScapCell(uint32_t chip, uint8_t cell[64]);
+
 VQ6192_API uint32_t getatmvcx(uint32_t chip, uint32_t link, uint32_t dir, char *buf);
 VQ6192_API uint32_t getatmsrvconn(uint32_t chip, uint32_t vcx, char *buf);
 VQ6192_API uint32_t getatmvcxenstat(uint32_t chip, uint32_t vcx, char *buf);
@@ -394,6 +514,45 @@ VQ6192_API uint32_t getatmccloc(uint32_t chip, uint32_t vcx, char *buf);
 VQ6192_API uint32_t getcclocall(uint32_t chip, char *buf);
 VQ6192_API uint32_t getlinkdata(uint32_t chip, char *buf);
 VQ6192_API uint32_t getbmtemplate(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmportstat(uint32_t chip, uint32_t port, uint32_t side, char *buf);
+VQ6192_API uint32_t getatmvcsstat(uint32_t chip, uint32_t vcx, char *buf);
+VQ6192_API uint32_t getatmccsrcstat(uint32_t chip, uint32_t vcx, char *buf);
+VQ6192_API uint32_t getatmvcxdropstat(uint32_t chip, uint32_t vcx, char *buf);
+VQ6192_API uint32_t getatmportdropstat(uint32_t chip, uint32_t linePort, char *buf);
+VQ6192_API uint32_t getvcxdropinfo(uint32_t chip, uint32_t vcx, char *buf);
+VQ6192_API uint32_t getatmdropstat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmqmdatastat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmpolicingstat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmoamstat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmccstat(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmfifooverflow(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmtabrambusy(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmswalarm(uint32_t chip, char *buf);
+VQ6192_API uint32_t getvpcdelack(uint32_t chip, char *buf);
+VQ6192_API uint32_t captureatmcell(uint32_t chip, uint32_t mode, uint32_t index, uint32_t matchVci,
+                                   uint32_t vpi, uint32_t vci, char *buf);
+VQ6192_API uint32_t getatmvcxstatall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmportstatall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getvcxdropall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getportdropall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getdropall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getsendpwe3time(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmpwe3statall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmpwe3perall(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmpwe3per(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getatmpwcwen(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getatmpwencpmode(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getatmpwcellconcattr(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwpriIndex(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwpktdropen(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwexpectrange(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwe3loop(uint32_t chip, uint32_t which, char *buf);
+VQ6192_API uint32_t getpwenable(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwchkerralm(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwsnchkadd(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API uint32_t getpwpritemplate(uint32_t chip, uint32_t tmpl, uint32_t serviceType, char *buf);
+VQ6192_API uint32_t getpw3fifostats(uint32_t chip, char *buf);
+VQ6192_API uint32_t getatmpwe3capcell(uint32_t chip, uint32_t pw, uint32_t direction, char *buf);
 
 VQ6192_EXTERN_C_END
 

@@ -178,4 +178,127 @@ inline constexpr auto kVcxFifoVcx = entryField("Atmswvcxfifo", "Vcx");
 inline constexpr uint32_t kInsertFifoIndex = 0;
 inline constexpr uint32_t kReportFifoIndex = 1;
 
+// ---- Pseudowires (PWE3 block) ----
+
+// PW delete handshake: bits 0..10 PW, bit 11 start, bit 12 done.
+inline constexpr uint32_t kPwDelReg = 0xA740;
+inline constexpr uint32_t kPwDelStartBit = 11;
+inline constexpr uint32_t kPwDelDoneBit = 12;
+// PW packet capture: bits 0..10 PW, bit 11 direction, bit 12 start, bit 13 done.
+inline constexpr uint32_t kPwCapReg = 0xA720;
+inline constexpr uint32_t kPwCapDirBit = 11;
+inline constexpr uint32_t kPwCapStartBit = 12;
+inline constexpr uint32_t kPwCapDoneBit = 13;
+inline constexpr uint32_t kPwBits = 11;  // PW number field of both handshakes
+// The two PWE3 loopbacks, bit 0 each.
+inline constexpr uint32_t kPwe3LoopReg[2] = {0xA760, 0xA762};
+// FIFO status: high-water flags (bit 1 empty, bit 0 full), the live flags, resets, overruns.
+inline constexpr uint32_t kPwe3RxEthFifoReg = 0xA680;
+inline constexpr uint32_t kPwe3RxSwFifoReg = 0xA682;
+inline constexpr uint32_t kPwe3TxEthFifoReg = 0xA684;
+inline constexpr uint32_t kPwe3TxSwFifoReg = 0xA686;
+inline constexpr uint32_t kPwe3FifoFlagsReg = 0xA68A;  // bits 7..0
+inline constexpr uint32_t kPwe3FifoRstReg = 0xA6A0;    // bits 3..0
+inline constexpr uint32_t kPwe3RxOverrunReg = 0xA6C0;
+inline constexpr uint32_t kPwe3TxOverrunReg = 0xA6C2;
+// FIFO overflow counters of the statistics record, bits 0..15.
+inline constexpr uint32_t kPwe3RxOverflowReg = 0xA6E0;
+inline constexpr uint32_t kPwe3TxOverflowReg = 0xA6E2;
+
+inline constexpr uint32_t kPwCfg = tableId("Atmpwe3pwcfgtab");
+inline constexpr uint32_t kPwRxManage = tableId("Atmpwe3rxmanagetab");
+inline constexpr uint32_t kPwTxManage = tableId("Atmpwe3txmanagetab");
+inline constexpr uint32_t kPwPri = tableId("Atmpwe3pritab");
+inline constexpr uint32_t kPwRxSt = tableId("Atmpwe3rxsttab");
+inline constexpr uint32_t kPwTxSt = tableId("Atmpwe3txsttab");
+inline constexpr uint32_t kPwPktBuf = tableId("Atmpwe3pktbuf");
+
+inline constexpr auto kPwEn = entryField("Atmpwe3pwcfgtab", "Atmpwe3pwen");
+inline constexpr auto kPwCwEn = entryField("Atmpwe3pwcfgtab", "Atmpwe3cwen");
+inline constexpr auto kPwType = entryField("Atmpwe3pwcfgtab", "Atmpwe3pwtype");
+inline constexpr auto kPwPktDropEn = entryField("Atmpwe3rxmanagetab", "Pwe3pktdropen");
+inline constexpr auto kPwSnChkEn = entryField("Atmpwe3rxmanagetab", "Pwe3snchken");
+inline constexpr auto kPwExpectRange = entryField("Atmpwe3rxmanagetab", "Expectsnrstrange");
+inline constexpr auto kPwVci = entryField("Atmpwe3rxmanagetab", "Atmpwe3vci");
+inline constexpr auto kPwVpi = entryField("Atmpwe3rxmanagetab", "Atmpwe3vpi");
+inline constexpr auto kPwSnAddEn = entryField("Atmpwe3txmanagetab", "Pwe3snadden");
+inline constexpr auto kPwMaxPeriod = entryField("Atmpwe3txmanagetab", "Maxrelayperiod");
+inline constexpr auto kPwMaxCells = entryField("Atmpwe3txmanagetab", "Maxrelaynum");
+inline constexpr auto kPwPriIndex = entryField("Atmpwe3txmanagetab", "Pwpriindex");
+inline constexpr auto kPriUbr = entryField("Atmpwe3pritab", "Ubrpri");
+inline constexpr auto kPriUbrPlus = entryField("Atmpwe3pritab", "Ubrppri");
+inline constexpr auto kPriNrtVbr = entryField("Atmpwe3pritab", "Nrtvbrpri");
+inline constexpr auto kPriRtVbr = entryField("Atmpwe3pritab", "Rtvbrpri");
+inline constexpr auto kPriCbr = entryField("Atmpwe3pritab", "Cbrpri");
+inline constexpr auto kTxStSn = entryField("Atmpwe3txsttab", "Atmpwe3sn");
+inline constexpr auto kTxStLength = entryField("Atmpwe3txsttab", "Atmpwe3length");
+inline constexpr auto kTxStRelayNum = entryField("Atmpwe3txsttab", "Currentrelaynum");
+inline constexpr auto kTxStDelayPkt = entryField("Atmpwe3txsttab", "Atmpwe3delaypkt");
+inline constexpr auto kTxStPktCnt = entryField("Atmpwe3txsttab", "Atmpwe3txpktcnt");
+inline constexpr auto kRxStPktCnt = entryField("Atmpwe3rxsttab", "Atmpwe3rxpktcnt");
+inline constexpr auto kRxStLossPkt = entryField("Atmpwe3rxsttab", "Atmpwe3losspkt");
+inline constexpr auto kRxStDisorder = entryField("Atmpwe3rxsttab", "Atmpwe3disorderpkt");
+inline constexpr auto kRxStFractCell = entryField("Atmpwe3rxsttab", "Atmpwe3fractcell");
+inline constexpr auto kRxStExpectSn = entryField("Atmpwe3rxsttab", "Atmpwe3expectsn");
+inline constexpr auto kRxStLastSn = entryField("Atmpwe3rxsttab", "Atmpwe3lastsn");
+inline constexpr auto kRxStRstCnt = entryField("Atmpwe3rxsttab", "Expectsnrstcnt");
+inline constexpr auto kRxStSnChkErr = entryField("Atmpwe3rxsttab", "Pwe3snchkerr");
+inline constexpr auto kPktBufData = entryField("Atmpwe3pktbuf", "Pwe3capturepkt");
+inline constexpr auto kPktBufSel = entryField("Atmpwe3pktbuf", "Pwe3capturesel");
+inline constexpr auto kPktBufEof = entryField("Atmpwe3pktbuf", "Pwe3captureeof");
+
+// ---- Statistics and cell capture ----
+
+inline constexpr uint32_t kLpcc = tableId("Atmswlpcc");
+inline constexpr uint32_t kSpcc = tableId("Atmswspcc");
+inline constexpr uint32_t kTtcc = tableId("Atmswttcc");
+inline constexpr uint32_t kTrcc = tableId("Atmswtrcc");
+inline constexpr uint32_t kBmPvcSta = tableId("Atmbmpvcsta");
+inline constexpr uint32_t kBmFifoSta = tableId("Atmbmfifosta");
+inline constexpr uint32_t kLcapFifo = tableId("Atmswlcapfifo");
+inline constexpr uint32_t kScapFifo = tableId("Atmswscapfifo");
+inline constexpr auto kLpccRx = entryField("Atmswlpcc", "Lprcc");
+inline constexpr auto kLpccTx = entryField("Atmswlpcc", "Lptcc");
+inline constexpr auto kSpccRx = entryField("Atmswspcc", "Sprcc");
+inline constexpr auto kSpccTx = entryField("Atmswspcc", "Sptcc");
+inline constexpr auto kTtccCells = entryField("Atmswttcc", "Ttcc");
+inline constexpr auto kTrccCells = entryField("Atmswtrcc", "Trcc");
+inline constexpr auto kBmStaDrop = entryField("Atmbmpvcsta", "Atmbmdropcnt");
+inline constexpr auto kBmStaNewFrm = entryField("Atmbmpvcsta", "Atmbmnewfrm");
+inline constexpr auto kBmStaFd = entryField("Atmbmpvcsta", "Atmbmfdst");
+inline constexpr auto kBmStaPfd = entryField("Atmbmpvcsta", "Atmbmpfdst");
+inline constexpr auto kBmFifoStaDrop = entryField("Atmbmfifosta", "Atmbmfifodropcnt");
+inline constexpr auto kOamStSrcTimer = entryField("Atmswoamst", "Srctimer");
+inline constexpr auto kOamStCcTtcc = entryField("Atmswoamst", "Ccttcc");
+inline constexpr auto kLcapData = entryField("Atmswlcapfifo", "Lcapdata");
+inline constexpr auto kScapData = entryField("Atmswscapfifo", "Scapdata");
+// Both capture FIFOs are read at index 1.
+inline constexpr uint32_t kCapFifoIndex = 1;
+
+// Cell capture match registers of one side.
+struct CaptureRegs {
+    uint32_t vpi;   // bits 0..11
+    uint32_t vci;   // bits 0..15
+    uint32_t port;  // port or PW, its start bit and its match-VCI bit
+    uint32_t portWidth;
+    uint32_t portStartBit;
+    uint32_t matchVciBit;
+    uint32_t vcx;       // bits 0..12 VCX, bit 13 start
+    uint32_t captured;  // bit 0
+    uint32_t fifo;      // capture FIFO table
+    EntryField data;
+};
+inline constexpr uint32_t kCapVcxStartBit = 13;
+inline constexpr CaptureRegs kLineCapture{0xA2D8, 0xA2DA, 0xA2DC, 9,         9,
+                                          10,     0xA2DE, 0xA2EC, kLcapFifo, kLcapData};
+inline constexpr CaptureRegs kSysCapture{0xA2E0, 0xA2E2, 0xA2E4, 11,        11,
+                                         12,     0xA2E6, 0xA2EA, kScapFifo, kScapData};
+
+// Alarms.
+inline constexpr uint32_t kTabRamBusyReg = 0xA006;  // bit 0, also the DDR2 full alarm
+inline constexpr uint32_t kTcamRepeatReg = 0xA294;
+inline constexpr uint32_t kTcamRepeatHisReg = 0xA296;
+inline constexpr uint32_t kCcFifoNumReg = 0xA286;  // bits 0..1
+inline constexpr uint32_t kCcCntReg = 0xA28A;
+
 }  // namespace vq::atm

@@ -70,8 +70,7 @@ VQ6192_API uint32_t VQ6192_ATM_InitAtm(uint32_t chip, uint32_t mode) {
     rc |= VQ6192_ATM_SetAtmBmReg(chip, kStartBmLimits);
     VQ6192_ATM_TRACE(
         chip, "Err. VQ6192_ATM_InitAtm: initializtion Ingress ATM to PWE3 times! ChipID: %#x\r\n", chip);
-    // The ingress cell-to-PWE3 time belongs to the pseudowire side; its start value is set here.
-    VQ6192_WriteRegField(chip, kSendPwe3TimeReg, kStartPwe3Time, 0, 16);
+    rc |= VQ6192_ATM_SetSendPwe3Time(chip, kStartPwe3Time);
     VQ6192_ATM_TRACE(chip, "Err. VQ6192_ATM_InitAtm: initializtion CRC Enable! ChipID: %#x\r\n", chip);
     rc |= VQ6192_ATM_SetOamCrcEn(chip, 1);
     return rc;

@@ -7,6 +7,7 @@
 #include "support/test_support.h"
 #include "vq6192/atm.h"
 #include "vq6192/sim/atm.h"
+#include "vq6192/sim/atm_pwe3.h"
 
 namespace {
 
@@ -163,6 +164,137 @@ TEST_F(AtmDiagTest, EveryCommandRefusesANullBufferAndHasHelp) {
         EXPECT_EQ(c.invoke(args.data(), nullptr), 2u);
         EXPECT_TRUE(model.trace().empty());
     }
+}
+
+// An ATM table entry by select code, low 16-bit halves first.
+void setAtmEntry(vq6192::sim::ChipModel &m, uint32_t sel, uint32_t index,
+                 std::initializer_list<uint16_t> halves) {
+    vq6192::sim::TableEngine::Entry e{};
+    size_t k = 0;
+    for (uint16_t h : halves) {
+        e[k++] = h;
+    }
+    m.tables().setEntry(0x5000, sel, index, e);
+}
+
+TEST_F(AtmDiagTest, CounterReports) {
+    model.block<vq6192::sim::AtmPwe3Block>().setReadClear(true);
+    setAtmEntry(model, 6, 7, {0x0005, 0, 0x0010, 0});  // line port 7: 5 sent, 16 received
+    ASSERT_EQ(getatmportstat(kChip, 7, 0, buf.data()), 0u);
+    EXPECT_EQ(text(), std::string(kSep) + "        GetAtmPortStat()\n" + kSep + " dwRcc    :    0x10(16)\n" +
+                          " dwTcc    :    0x5(5)\n" + kSep);
+    EXPECT_EQ(getatmportstat(kChip, 2048, 1, buf.data()), 0x03020001u);
+
+    for (uint32_t k = 0; k < 21; ++k) {
+        const uint32_t regs[21] = {0xA400, 0xA402, 0xA404, 0xA406, 0xA416, 0xA418, 0xA40A,
+                                   0xA40C, 0xA40E, 0xA410, 0xA412, 0xA408, 0xA41A, 0xA268,
+                                   0xA26A, 0xA2C8, 0xA2C6, 0xA2C4, 0xA2C2, 0xA2F2, 0xA2F4};
+        model.poke(regs[k], static_cast<uint16_t>(k + 1));
+    }
+    ASSERT_EQ(getatmdropstat(kChip, buf.data()), 0u);
+    const std::string drop = text();
+    EXPECT_EQ(drop.substr(0, 31), "    GetAtmDropStat()\n    | wRed");
+    EXPECT_NE(drop.find("    | wRedDrop         :        1 | wFdDrop          :        2 | wPfdDrop         "
+                        ":        3 \n"),
+              std::string::npos);
+    EXPECT_NE(drop.find("       20 | wNoVldTx         :       21 \n    PRINT_END\n"), std::string::npos);
+
+    setAtmEntry(model, 2, 9, {0x0002});  // connection 9: 2 sent
+    setAtmEntry(model, 1, 9, {0x0003});  // 3 received
+    setAtmEntry(model, 2, 8191, {0xFFFF, 0x0001});
+    ASSERT_EQ(getatmvcxstatall(kChip, buf.data()), 0u);
+    EXPECT_EQ(text(),
+              "VCX =        9                  dwTTcc =        2                  dwTRcc =        3\n"
+              "VCX =     8191                  dwTTcc =   131071                  dwTRcc =        0\n"
+              "dwTTccAll=131073\ndwTRccAll=3\ndwVcxNum=2\n");
+    ASSERT_EQ(getatmvcxstatall(kChip, buf.data()), 0u);
+    EXPECT_EQ(text(), "dwTTccAll=0\ndwTRccAll=0\ndwVcxNum=0\n") << "counters cleared by the first listing";
+}
+
+TEST_F(AtmDiagTest, DropListings) {
+    g_conndata[11].stConn = egress();
+    g_conndata[11].ulUsed = 1;
+    setAtmEntry(model, 18, 11, {0x0007});  // 7 cells dropped by connection 11
+    setAtmEntry(model, 20, 12, {0x0009});  // 9 by transparent port 12
+    ASSERT_EQ(getdropall(kChip, buf.data()), 0u);
+    EXPECT_EQ(text(),
+              "Statistics about packets discarded by VCX:  \n"
+              "VCX=  11,       DropCell=   7        SerType=   3          wImaPort=  12\n"
+              "dwDropAll = 7\n"
+              "Statistics about packets discarded by VCX: \n"
+              "Port=12,       DropCell=9\n");
+}
+
+TEST_F(AtmDiagTest, PseudowireReports) {
+    setAtmEntry(model, 34, 5, {0x0003});           // PW 5: 3 packets sent
+    setAtmEntry(model, 36, 5, {0, 0, 0, 0x0004});  // 4 received
+    setAtmEntry(model, 34, 2047, {0x0001});
+    ASSERT_EQ(getatmpwe3statall(kChip, buf.data()), 0u);
+    EXPECT_EQ(text(),
+              "Pwe3Port=   5             Pwe3Tx =    3             Pwe3Rx =    4\n"
+              "Pwe3Port=2047             Pwe3Tx =    1             Pwe3Rx =    0\n");
+
+    setAtmEntry(model, 34, 6, {0x0001, 0, 0, 0, 0x0040});  // 1 packet, previous sequence number 1
+    ASSERT_EQ(getatmpwe3per(kChip, 6, buf.data()), 0u);
+    const std::string first = "Sequence number of the previous packet in the upstream direction : 0x1(1)\n";
+    EXPECT_EQ(text().substr(0, first.size()), first);
+
+    ASSERT_EQ(VQ6192_ATM_SetPwEnable(kChip, 4, 1), 0u);
+    ASSERT_EQ(getpwenable(kChip, 4, buf.data()), 0u);
+    EXPECT_EQ(text(),
+              std::string(kSep) + "        GetPwEnable()\n" + kSep + " byPwEnable    :    0x1(1)\n" + kSep);
+    model.poke(0xA2E8, 32);
+    ASSERT_EQ(getsendpwe3time(kChip, buf.data()), 0u);
+    EXPECT_EQ(text(),
+              std::string(kSep) + "        GetSendPwe3Time()\n" + kSep + " wTime    :    0x20(32)\n" + kSep);
+
+    model.poke(0xA6C2, 1);
+    ASSERT_EQ(getpw3fifostats(kChip, buf.data()), 0u);
+    const std::string fifo = text();
+    EXPECT_NE(fifo.find(" byPwe3rxEthfifoEmpH    :    0x0(0)\n"), std::string::npos);
+    EXPECT_NE(fifo.find(" byPwe3TxfifoOverrun    :    0x1(1)\n" + std::string(kSep)), std::string::npos);
+
+    auto &pwe3 = model.block<vq6192::sim::AtmPwe3Block>();
+    pwe3.queuePacket({0x01, 0xAB, 0x00, 0xFF, 0x10});
+    ASSERT_EQ(getatmpwe3capcell(kChip, 5, 1, buf.data()), 0u);
+    EXPECT_EQ(text(), " pbyCell    :   \n01ab00ff10");
+}
+
+TEST_F(AtmDiagTest, CellCaptureReport) {
+    ASSERT_EQ(captureatmcell(kChip, 0, 1, 0, 0, 0, buf.data()), 0x03020001u);
+    EXPECT_EQ(text(), "capture is error!\n");
+    vq6192::sim::AtmPwe3Block::Cell cell{};
+    cell[0] = 0xA;
+    cell[63] = 0xFF;
+    model.block<vq6192::sim::AtmPwe3Block>().queueCell(1, cell);
+    ASSERT_EQ(captureatmcell(kChip, 2, 1, 0, 0, 0, buf.data()), 0u);
+    std::string expect = std::string(64, '-') + "\n";
+    for (int i = 0; i < 64; ++i) {
+        expect += i == 0 ? "0xa    " : i == 63 ? "0xff   " : "0x0    ";
+        if (i % 16 == 15) {
+            expect += "\n";
+        }
+    }
+    EXPECT_EQ(text(), expect);
+}
+
+TEST_F(AtmDiagTest, NewCommandsRefuseAMissingBuffer) {
+    using Call = uint32_t (*)(uint32_t);
+    const Call calls[] = {
+        [](uint32_t c) { return getatmportstat(c, 0, 0, nullptr); },
+        [](uint32_t c) { return getatmdropstat(c, nullptr); },
+        [](uint32_t c) { return getdropall(c, nullptr); },
+        [](uint32_t c) { return captureatmcell(c, 0, 0, 0, 0, 0, nullptr); },
+        [](uint32_t c) { return getatmpwe3perall(c, nullptr); },
+        [](uint32_t c) { return getatmpwe3capcell(c, 0, 0, nullptr); },
+        [](uint32_t c) { return getpw3fifostats(c, nullptr); },
+        [](uint32_t c) { return getpwpritemplate(c, 0, 1, nullptr); },
+    };
+    model.clearTrace();
+    for (Call call : calls) {
+        EXPECT_EQ(call(kChip), 2u);
+    }
+    EXPECT_TRUE(model.trace().empty());
 }
 
 }  // namespace

@@ -1,0 +1,445 @@
+// ATM pseudowires: creation and removal with their table entries and labels, the delete handshake,
+// the per-PW fields, counters, FIFO flags and the PW packet capture.
+#include "atm/atm_fixture.h"
+#include "vq6192/eth.h"
+#include "vq6192/sim/atm_pwe3.h"
+
+namespace {
+
+using namespace atmtest;
+using vq6192::sim::AtmPwe3Block;
+using vq6192::sim::BusAccess;
+
+enum PwSel : uint32_t {
+    kPwCfg = 32,
+    kPwTxMng = 33,
+    kPwTxSt = 34,
+    kPwRxMng = 35,
+    kPwRxSt = 36,
+    kPktBuf = 37,
+    kPri = 38
+};
+constexpr uint32_t kStep = 0x03020004;  // chip 3, ATM, error 4
+
+using RegWrite = std::pair<uint32_t, uint32_t>;
+
+class Pwe3Test : public AtmTest {
+  protected:
+    void SetUp() override {
+        AtmTest::SetUp();
+        model.block<AtmPwe3Block>().setReadClear(true);
+    }
+    AtmPwe3Block &pwe3() { return model.block<AtmPwe3Block>(); }
+    std::vector<RegWrite> regWrites(uint32_t addr) {
+        std::vector<RegWrite> out;
+        for (const BusAccess &a : vqtest::writes(model.trace())) {
+            if (a.addr == addr) {
+                out.push_back({a.addr, a.value});
+            }
+        }
+        return out;
+    }
+    void prefill(uint32_t pw) {
+        fillEntry(kPwCfg, pw, 4);
+        fillEntryWide(kPwRxMng, pw, 38);
+        fillEntry(kPwTxMng, pw, 30);
+    }
+    uint64_t tick() { return VQ6192_Platform_GetTickUs(); }
+};
+
+TEST_F(Pwe3Test, CreateWritesEntriesLabelsAndEnable) {
+    struct Case {
+        const char *name;
+        uint32_t pw;
+        ATM_PW_CFG cfg;
+        uint64_t rx;  // bits 0..37 of the receive management entry, pre-filled with ones
+    };
+    const Case cases[] = {
+        {"N:1, VPI and VCI cut", 7, {0xFFFFF, 0x1FFFF, 0x100, 0x345, 0, 1, 0, 0, 1}, 0x3FFFFFFFFFull},
+        {"VPC 1:1, VPI 4095", 2047, {4095, 0, 0xFFFFF, 0xFFF, 1, 0, 1, 1, 1}, 0xFFFull << 26 | 0x3FD},
+        {"VCC 1:1", 300, {0x12, 0xABCD, 0x55, 0x77, 1, 1, 1, 2, 1}, 0x12ull << 26 | 0xABCDull << 10 | 0x3FF},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.name);
+        prefill(k.pw);
+        ASSERT_EQ(VQ6192_ATM_CreateAtmPw(kChip, k.pw, &k.cfg), 0u);
+        EXPECT_EQ(bits(kPwCfg, k.pw, 0, 4), k.cfg.byEncpMode << 2 | k.cfg.byCwEn << 1 | 1u);
+        EXPECT_EQ(bits(kPwRxMng, k.pw, 0, 38), k.rx);
+        EXPECT_EQ(bits(kPwTxMng, k.pw, 0, 30), 0x3FFFFFFEu | k.cfg.bySnAddEn);
+        VQ6192_ETH_PSN_INFO_S info{};
+        ASSERT_EQ(VQ6192_ETH_GetPSNEthInfo(kChip, k.pw, VQ6192_ETH_SRV_ATM, &info), 0u);
+        EXPECT_EQ(info.dwLblPwLable, k.cfg.dwPwLabel);
+        uint32_t srv = 9, ch = 9, valid = 9;
+        ASSERT_EQ(VQ6192_ETH_GetAtmCesEgChnl2Mpls(kChip, 0, k.cfg.dwInLabel, &srv, &ch, &valid), 0u);
+        EXPECT_EQ(valid, 1u);
+        EXPECT_EQ(srv, 2u);
+        EXPECT_EQ(ch, k.pw);
+    }
+}
+
+TEST_F(Pwe3Test, CreateRefusalsTouchNothing) {
+    struct Case {
+        const char *name;
+        uint32_t pw;
+        ATM_PW_CFG cfg;
+        uint32_t status;
+        const char *trace;
+    };
+    const char *para = "ParaErr. \r\n";
+    const Case cases[] = {
+        {"PW 2048", 2048, {0, 0, 1, 1, 1, 0, 0, 0, 1}, kPara, para},
+        {"control word 2", 1, {0, 0, 1, 1, 2, 0, 0, 0, 1}, kPara, para},
+        {"sequence check 2", 1, {0, 0, 1, 1, 1, 2, 0, 0, 1}, kPara, para},
+        {"sequence add 2", 1, {0, 0, 1, 1, 1, 0, 2, 0, 1}, kPara, para},
+        {"mode 4", 1, {0, 0, 1, 1, 1, 0, 0, 4, 1}, kPara, para},
+        {"VPC VPI 4096", 1, {4096, 0, 1, 1, 1, 0, 0, 1, 1}, kPara, para},
+        {"VCC VCI 65536", 1, {0, 65536, 1, 1, 1, 0, 0, 2, 1}, kPara, para},
+        {"PW label", 1, {0, 0, 0x100000, 1, 1, 0, 0, 0, 1}, kPara, para},
+        {"in-label", 1, {0, 0, 1, 0x100000, 1, 0, 0, 0, 1}, kPara, para},
+        {"VCC without control word",
+         5,
+         {1, 2, 3, 4, 0, 0, 0, 2, 1},
+         kStep,
+         "Err.chipid 3 VQ6192_ATM_CreateAtmPw VPC1:1 or VCC1:1 , CW must be enabled! EnType[0x2], CWEn[0]    "
+         "  "
+         "ErrCode[0x3020004]\r\n"},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.name);
+        model.clearTrace();
+        capture.clear();
+        EXPECT_EQ(VQ6192_ATM_CreateAtmPw(kChip, k.pw, &k.cfg), k.status);
+        EXPECT_TRUE(vqtest::writes(model.trace()).empty());
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{k.trace});
+    }
+    EXPECT_EQ(VQ6192_ATM_CreateAtmPw(kChip, 1, nullptr), kPara);
+}
+
+TEST_F(Pwe3Test, DisableRunsTheDeleteHandshake) {
+    struct Case {
+        const char *name;
+        uint32_t pw;
+        uint32_t polls;
+        uint32_t status;
+        uint64_t waitedUs;
+    };
+    const Case cases[] = {
+        {"done at the first poll", 0x7FF, 1, 0, 2},
+        {"done at poll 1000", 5, 1000, 0, 2000},
+        {"never done", 6, AtmPwe3Block::kForever, kStep, 2000},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.name);
+        setBits(kPwCfg, k.pw, 0, 4, 0xF);
+        model.poke(0xA740, 0xE000);  // bits above the handshake kept
+        pwe3().setDeletePolls(k.polls);
+        model.clearTrace();
+        capture.clear();
+        VQ6192_Platform_ResetVirtualTime();
+        EXPECT_EQ(VQ6192_ATM_SetPwEnable(kChip, k.pw, 0), k.status);
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), k.waitedUs);
+        EXPECT_EQ(bits(kPwCfg, k.pw, 0, 4), 0xEu);
+        // The last write puts back what it read: the done bit when the chip raised it.
+        const uint32_t done = k.status == 0 ? 0x1000 : 0;
+        const std::vector<RegWrite> expect = {{0xA740, 0xE000},
+                                              {0xA740, 0xE000 | k.pw},
+                                              {0xA740, 0xE800 | k.pw},
+                                              {0xA740, 0xE000 | done | k.pw}};
+        EXPECT_EQ(regWrites(0xA740), expect);
+        EXPECT_GE(g_ulVq6192AtmPwe3EnableCnt, k.polls == AtmPwe3Block::kForever ? 1000u : k.polls);
+        if (k.status != 0) {
+            EXPECT_TRUE(
+                traced("Err. VQ6192_ATM_SetPwEnable ATMPWE3DRV_RemoveAtmPw. Delete don't finish. "
+                       "ChipID[0x3],     ErrCode[0x3020004]\r\n"));
+        }
+    }
+    // Disabling a disabled PW, and enabling, are only the table write.
+    for (uint32_t v : {0u, 1u}) {
+        setBits(kPwCfg, 9, 0, 4, 0xE);
+        model.clearTrace();
+        EXPECT_EQ(VQ6192_ATM_SetPwEnable(kChip, 9, v), 0u);
+        EXPECT_TRUE(regWrites(0xA740).empty());
+        EXPECT_EQ(bits(kPwCfg, 9, 0, 4), 0xEu | v);
+    }
+    // The read of the enable fails.
+    model.tables().failCommand(kAtmBlock, 1);
+    capture.clear();
+    EXPECT_EQ(VQ6192_ATM_SetPwEnable(kChip, 9, 0), kStep);
+    EXPECT_TRUE(traced(
+        "Err. VQ6192_ATM_SetPwEnable VQ6192_ATM_GetPwEnable error. ChipID[0x3],ErrCode[0x30c0003]\r\n"));
+}
+
+TEST_F(Pwe3Test, RemoveClearsEntriesAndLabelEvenWhenDeleteHangs) {
+    const ATM_PW_CFG cfg{0x12, 0xABCD, 0x55, 0x777, 1, 1, 1, 2, 1};
+    for (uint32_t polls : {3u, AtmPwe3Block::kForever}) {
+        prefill(40);
+        ASSERT_EQ(VQ6192_ATM_CreateAtmPw(kChip, 40, &cfg), 0u);
+        pwe3().setDeletePolls(polls);
+        capture.clear();
+        const uint32_t status = polls == 3 ? 0u : kStep;
+        EXPECT_EQ(VQ6192_ATM_RemoveAtmPw(kChip, 40, 0x777), status);
+        EXPECT_EQ(bits(kPwCfg, 40, 0, 4), 0u);
+        EXPECT_EQ(bits(kPwRxMng, 40, 0, 38), 0x3FDu) << "packet drop and reset range kept";
+        EXPECT_EQ(bits(kPwTxMng, 40, 0, 30), 0x3FFFFFFEu);
+        uint32_t srv = 0, ch = 0, valid = 9;
+        EXPECT_EQ(VQ6192_ETH_GetAtmCesEgChnl2Mpls(kChip, 0, 0x777, &srv, &ch, &valid), 0u);
+        EXPECT_EQ(valid, 0u);
+        EXPECT_EQ(
+            traced("Err. VQ6192_ATM_RemoveAtmPw -> VQ6192_ATM_SetPwEnable()! ulChipID[0x3], ulPwIdx[0x28], "
+                   "ErrCode[0x3020004]\r\n"),
+            status != 0);
+    }
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_ATM_RemoveAtmPw(kChip, 40, 0x100000), kPara);
+    EXPECT_EQ(VQ6192_ATM_RemoveAtmPw(kChip, 2048, 1), kPara);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+TEST_F(Pwe3Test, FieldSettersChangeOnlyTheirField) {
+    struct Case {
+        const char *name;
+        uint32_t (*set)(uint32_t chip);
+        uint32_t sel;
+        uint32_t index;
+        uint32_t width;   // entry width, pre-filled with ones
+        uint64_t expect;  // entry after the write
+    };
+    const Case cases[] = {
+        {"mode 1", [](uint32_t c) { return VQ6192_ATM_SetAtmPwEncpMode(c, 3, 1); }, kPwCfg, 3, 4, 0x7},
+        {"control word off in N:1 mode 3", [](uint32_t c) { return VQ6192_ATM_SetAtmPwCWEn(c, 3, 0); },
+         kPwCfg, 3, 4, 0xD},
+        {"egress VPI/VCI cut", [](uint32_t c) { return VQ6192_ATM_SetPwEgVPIVCI(c, 3, 0x1001, 0x10002); },
+         kPwRxMng, 3, 38, 0x001ull << 26 | 0x0002ull << 10 | 0x3FF},
+        {"sequence check off, add on", [](uint32_t c) { return VQ6192_ATM_SetPwSnChkAdd(c, 3, 0, 1); },
+         kPwRxMng, 3, 38, 0x3FFFFFFFFDull},
+        {"packet drop off", [](uint32_t c) { return VQ6192_ATM_SetPwPktDropEn(c, 3, 0); }, kPwRxMng, 3, 38,
+         0x3FFFFFFFFEull},
+        {"reset range 0x5A", [](uint32_t c) { return VQ6192_ATM_SetPwExpectRange(c, 3, 0x5A); }, kPwRxMng, 3,
+         38, 0x3FFFFFFD6Bull},
+        {"31 cells, time 0", [](uint32_t c) { return VQ6192_ATM_SetAtmPwCellConcAttr(c, 3, 31, 0); },
+         kPwTxMng, 3, 30, 0x3FFFFF81},
+        {"4 cells, time 63", [](uint32_t c) { return VQ6192_ATM_SetAtmPwCellConcAttr(c, 3, 4, 63); },
+         kPwTxMng, 3, 30, 0x3E4FFFFF},
+        {"priority index 2", [](uint32_t c) { return VQ6192_ATM_SetPwPriIndex(c, 3, 2); }, kPwTxMng, 3, 30,
+         0x05FFFFFF},
+        {"CBR priority", [](uint32_t c) { return VQ6192_ATM_SetPwPriTemplate(c, 31, 1, 0); }, kPri, 31, 15,
+         0x0FFF},
+        {"rt-VBR priority", [](uint32_t c) { return VQ6192_ATM_SetPwPriTemplate(c, 31, 2, 2); }, kPri, 31, 15,
+         0x75FF},
+        {"nrt-VBR priority", [](uint32_t c) { return VQ6192_ATM_SetPwPriTemplate(c, 31, 3, 0); }, kPri, 31,
+         15, 0x7E3F},
+        {"UBR+ priority", [](uint32_t c) { return VQ6192_ATM_SetPwPriTemplate(c, 31, 4, 5); }, kPri, 31, 15,
+         0x7FEF},
+        {"UBR priority", [](uint32_t c) { return VQ6192_ATM_SetPwPriTemplate(c, 31, 5, 6); }, kPri, 31, 15,
+         0x7FFE},
+    };
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.name);
+        fillEntryWide(k.sel, k.index, k.width);
+        fillEntry(kPwTxMng, 3, 30);
+        ASSERT_EQ(k.set(kChip), 0u);
+        EXPECT_EQ(bits(k.sel, k.index, 0, k.width), k.expect);
+    }
+}
+
+TEST_F(Pwe3Test, ControlWordRuleOfTheOneToOneModes) {
+    struct Case {
+        uint32_t cfg;  // bits 0..3 of the configuration entry
+        uint8_t reported;
+    };
+    // mode in bits 2..3, control word bit 1, enable bit 0
+    const Case cases[] = {{0x4 | 0x1, 1}, {0x8 | 0x1, 1}, {0x0 | 0x1, 0}, {0xC | 0x3, 1}, {0xC, 0}};
+    for (const Case &k : cases) {
+        SCOPED_TRACE(k.cfg);
+        setBits(kPwCfg, 12, 0, 4, k.cfg);
+        uint8_t cw = 9;
+        EXPECT_EQ(VQ6192_ATM_GetAtmPwCWEn(kChip, 12, &cw), 0u);
+        EXPECT_EQ(cw, k.reported);
+    }
+    setBits(kPwCfg, 12, 0, 4, 0x7);  // VPC one-to-one, control word on
+    capture.clear();
+    EXPECT_EQ(VQ6192_ATM_SetAtmPwCWEn(kChip, 12, 0), kStep);
+    EXPECT_EQ(bits(kPwCfg, 12, 0, 4), 0x7u);
+    EXPECT_TRUE(
+        traced("Err.chipid 3 VQ6192_ATM_SetAtmPwCWEn In VPC1:1 or VCC1:1 Mode, CW must be enabled! "
+               "EnType[0x1], CWEn[0]      ErrCode[0x3020004]\r\n"));
+}
+
+TEST_F(Pwe3Test, StatisticsRecordAndReadClear) {
+    // Transmit entry: sn 0x1234, length 0x1ABCD, relay 0x15, delayed 0x7777, packets 0x89ABCDEF.
+    setBits(kPwTxSt, 100, 0, 32, 0x89ABCDEF);
+    setBits(kPwTxSt, 100, 32, 16, 0x7777);
+    setBits(kPwTxSt, 100, 48, 5, 0x15);
+    setBits(kPwTxSt, 100, 53, 17, 0x1ABCD);
+    setBits(kPwTxSt, 100, 70, 16, 0x1234);
+    // Receive entry: fraction 0x11, disorder 0x22, loss 0x33, packets 0x44556677, error 1, reset 0x88,
+    // last 0x99AA, expected 0xBBCC.
+    setBits(kPwRxSt, 100, 0, 16, 0x11);
+    setBits(kPwRxSt, 100, 16, 16, 0x22);
+    setBits(kPwRxSt, 100, 32, 16, 0x33);
+    setBits(kPwRxSt, 100, 48, 32, 0x44556677);
+    setBits(kPwRxSt, 100, 80, 1, 1);
+    setBits(kPwRxSt, 100, 81, 8, 0x88);
+    setBits(kPwRxSt, 100, 89, 16, 0x99AA);
+    setBits(kPwRxSt, 100, 105, 16, 0xBBCC);
+    model.poke(0xA6E0, 0x0102);
+    model.poke(0xA6E2, 0x0304);
+    model.poke(0xA008, 0xFFE0);
+    model.clearTrace();
+    uint32_t out[14] = {};
+    ASSERT_EQ(VQ6192_ATM_GetAtmPwe3Per(kChip, 100, out), 0u);
+    const uint32_t expect[14] = {0x1234, 0x1ABCD, 0x15,   0x7777, 0x89ABCDEF, 0x44556677, 0x33,
+                                 0x22,   0x11,    0xBBCC, 0x99AA, 0x88,       0x0102,     0x0304};
+    EXPECT_EQ(std::vector<uint32_t>(out, out + 14), std::vector<uint32_t>(expect, expect + 14));
+    EXPECT_EQ(regWrites(0xA008), (std::vector<RegWrite>{{0xA008, 0xFFEF}, {0xA008, 0xFFFF}}));
+    ASSERT_EQ(VQ6192_ATM_GetAtmPwe3Per(kChip, 100, out), 0u);
+    EXPECT_EQ(out[4], 0u) << "packet counters clear when read";
+    EXPECT_EQ(out[5], 0u);
+    EXPECT_EQ(out[12], 0u);
+
+    model.poke(0xA008, 0xFFE0);
+    model.clearTrace();
+    uint8_t alarm = 0;
+    ASSERT_EQ(VQ6192_ATM_GetPwChkErrAlm(kChip, 100, &alarm), 0u);
+    EXPECT_EQ(alarm, 1);
+    EXPECT_EQ(regWrites(0xA008), (std::vector<RegWrite>{{0xA008, 0xFFF0}, {0xA008, 0xFFFF}}));
+
+    model.tables().failCommand(kAtmBlock, 2);
+    EXPECT_EQ(VQ6192_ATM_GetAtmPwe3Per(kChip, 100, out), 0x030C0003u) << "receive read times out";
+}
+
+TEST_F(Pwe3Test, FifoFlagsAndResets) {
+    model.poke(0xA680, 0xFFFE);  // rx Ethernet: empty 1, full 0
+    model.poke(0xA682, 0x0001);  // rx switch: empty 0, full 1
+    model.poke(0xA684, 0x0003);
+    model.poke(0xA686, 0x0000);
+    model.poke(0xA68A, 0xFFA5);  // 1010 0101
+    model.poke(0xA6A0, 0xFFF6);  // 0110
+    model.poke(0xA6C0, 0x0001);
+    model.poke(0xA6C2, 0xFFFE);
+    uint8_t out[22] = {};
+    ASSERT_EQ(VQ6192_ATM_GetPw3FIFOStats(kChip, out), 0u);
+    const uint8_t expect[22] = {1, 0, 0, 1, 1, 1, 0, 0, 1, 0, 1, 0, 0, 1, 0, 1, 0, 1, 1, 0, 1, 0};
+    EXPECT_EQ(std::vector<uint8_t>(out, out + 22), std::vector<uint8_t>(expect, expect + 22));
+    const uint16_t bitOf[4] = {0x8, 0x4, 0x2, 0x1};
+    for (uint32_t which = 0; which < 4; ++which) {
+        model.poke(0xA6A0, 0xFFFF);
+        EXPECT_EQ(VQ6192_ATM_SetPw3FIFOStats(kChip, which, 0), 0u);
+        EXPECT_EQ(model.peek(0xA6A0), 0xFFFF & ~bitOf[which]);
+    }
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_ATM_SetPw3FIFOStats(kChip, 4, 0), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetPw3FIFOStats(kChip, 0, 2), kPara);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+TEST_F(Pwe3Test, LoopbacksTimeAndInit) {
+    for (uint32_t which = 0; which < 2; ++which) {
+        const uint32_t reg = which == 0 ? 0xA760 : 0xA762;
+        model.poke(reg, 0xFFFE);
+        ASSERT_EQ(VQ6192_ATM_SetPWE3Loop(kChip, which, 1), 0u);
+        EXPECT_EQ(model.peek(reg), 0xFFFF);
+        uint16_t v = 0;
+        EXPECT_EQ(VQ6192_ATM_GetPWE3Loop(kChip, which, &v), 0u);
+        EXPECT_EQ(v, 1);
+    }
+    ASSERT_EQ(VQ6192_ATM_SetSendPwe3Time(kChip, 0xBEEF), 0u);
+    uint16_t t = 0;
+    EXPECT_EQ(VQ6192_ATM_GetSendPwe3Time(kChip, &t), 0u);
+    EXPECT_EQ(t, 0xBEEF);
+    ASSERT_EQ(VQ6192_ATM_InitAtm(kChip, 1), 0u);
+    EXPECT_EQ(model.peek(0xA2E8), 32) << "start value";
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_ATM_SetPWE3Loop(kChip, 2, 1), kPara);
+    EXPECT_EQ(VQ6192_ATM_SetSendPwe3Time(kChip, 0x10000), kPara);
+    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 1), 0u);
+    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 2), 0u);
+    EXPECT_TRUE(model.trace().empty()) << "nothing to do at start";
+    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 0), kPara);
+    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 3), kPara);
+    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(264, 1), 0x08020001u);
+}
+
+TEST_F(Pwe3Test, PacketCaptureCopiesTheFirstPacket) {
+    std::vector<uint8_t> first(53);
+    for (size_t i = 0; i < first.size(); ++i) {
+        first[i] = static_cast<uint8_t>(0xA0 + i);
+    }
+    pwe3().queuePacket(first);
+    pwe3().queuePacket({1, 2, 3, 4, 5, 6, 7});
+    pwe3().setCapturePolls(4);
+    model.poke(0xA720, 0xC000);
+    VQ6192_Platform_ResetVirtualTime();
+    uint8_t cell[2048] = {};
+    uint32_t length = 0;
+    ASSERT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 0x7FF, 1, cell, &length), 0u);
+    EXPECT_EQ(length, 53u);
+    EXPECT_EQ(std::vector<uint8_t>(cell, cell + 53), first);
+    EXPECT_EQ(cell[53], 0);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 1000 * tick() + 4 * 2)
+        << "1000 ticks, then four 2 us polls";
+    EXPECT_EQ(pwe3().captures(), (std::vector<AtmPwe3Block::PwCommand>{{0x7FF, 1}}));
+    EXPECT_EQ(model.peek(0xA720) & 0xC000, 0xC000) << "bits above the handshake kept";
+
+    // The buffer read on its own: ends after 53 and 60 bytes; the closing entry of the second packet
+    // holds count 2 and adds three bytes.
+    pwe3().queuePacket(first);
+    pwe3().queuePacket({1, 2, 3, 4, 5, 6, 7});
+    ASSERT_EQ(VQ6192_ATM_SetAtmPWE3Capture(kChip, 1, 0), 0u);
+    EXPECT_EQ(bits(kPktBuf, 15, 0, 3), 0x5u) << "count 2, end of packet";
+    std::vector<uint8_t> data(2048);
+    std::vector<uint16_t> ends(512);
+    uint16_t count = 0;
+    capture.clear();
+    ASSERT_EQ(VQ6192_ATM_GetAtmPWE3CapData(kChip, data.data(), ends.data(), &count), 0u);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(ends[0], 53);
+    EXPECT_EQ(ends[1], 60);
+    EXPECT_EQ(data[57], 5);
+    EXPECT_EQ(data[59], 7);
+    EXPECT_TRUE(traced("Err. VQ6192_ATM_GetAtmPWE3CapData OK! ErrorCode: 0\r\n"));
+}
+
+TEST_F(Pwe3Test, PacketCaptureFailures) {
+    pwe3().setCapturePolls(AtmPwe3Block::kForever);
+    model.poke(0xA720, 0);
+    VQ6192_Platform_ResetVirtualTime();
+    capture.clear();
+    uint8_t cell[2048] = {};
+    uint32_t length = 77;
+    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 5, 0, cell, &length), kStep);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 1000 * tick() + 1000 * 2);
+    EXPECT_EQ(model.peek(0xA720), 0x0005) << "start dropped";
+    EXPECT_EQ(length, 77u);
+    EXPECT_EQ(capture.traceTexts(),
+              (std::vector<std::string>{
+                  "Err. VQ6192_ATM_SetAtmPWE3Capture GetPwe3CaptureAck(0x5) WaitFinish Fail. "
+                  "checkTime[0x3e8]ErrorCode: "
+                  "0x3020004\r\n",
+                  "Err. VQ6192_ATM_GetAtmPWE3CapCell VQ6192_ATM_SetAtmPWE3Capture( 3,     5,   0) ErrorCode: "
+                  "0x3020004\r\n"}));
+
+    pwe3().setCapturePolls(1);
+    model.tables().failCommand(kAtmBlock, 512);
+    capture.clear();
+    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 5, 0, cell, &length), kStep);
+    EXPECT_TRUE(
+        traced("Err. VQ6192_ATM_GetAtmPWE3CapCell VQ6192_ATM_GetAtmPWE3CapData(0x3, 0x5) ErrorCode: "
+               "0x30c0003\r\n"));
+
+    // Nothing captured: the buffer has no end mark, the length is 0 and nothing is copied.
+    model.tables().failCommand(kAtmBlock, 0);
+    model.tables().holdBusy(kAtmBlock, 0);
+    cell[0] = 0x5A;
+    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 6, 1, cell, &length), 0u);
+    EXPECT_EQ(length, 0u);
+    EXPECT_EQ(cell[0], 0x5A);
+
+    model.clearTrace();
+    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 2048, 0, cell, &length), kPara);
+    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 1, 2, cell, &length), kPara);
+    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 1, 0, nullptr, &length), kPara);
+    EXPECT_TRUE(model.trace().empty());
+}
+
+}  // namespace
