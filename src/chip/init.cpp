@@ -151,6 +151,10 @@ uint32_t ddrTest(const BringUpRun &r) {
     return checked(r, "VQ6192_Base_DDR9StepTest", rc);
 }
 
+uint32_t atmPwe3Init(const BringUpRun &r) {
+    return checked(r, "VQ6192_ATM_AtmPwe3Init", VQ6192_ATM_AtmPwe3Init(r.chip, r.mode));
+}
+
 uint32_t atmInit(const BringUpRun &r) {
     return checked(r, "VQ6192_ATM_InitAtm", VQ6192_ATM_InitAtm(r.chip, r.mode));
 }
@@ -234,9 +238,7 @@ uint32_t framerChannels(const BringUpRun &r) {
     return checked(r, "VQ6192_Framer_ReSetFrmChnl", rc);
 }
 
-// The bring-up sequence. Steps whose operations this library does not have yet are left out here,
-// and only here:
-//   - the ATM pseudowire initialiser before ATM (VQ6192_ATM_AtmPwe3Init).
+// The bring-up sequence.
 // clang-format off
 constexpr BringUpStep kSteps[] = {
     // name              restore  DDR test only  body
@@ -249,6 +251,7 @@ constexpr BringUpStep kSteps[] = {
     {"register test",    false,   false,         registerTest},
     {"DDR start",        false,   false,         ddrStart},
     {"DDR test",         false,   true,          ddrTest},
+    {"ATM pseudowires",  true,    false,         atmPwe3Init},
     {"ATM",              true,    false,         atmInit},
     {"PPP",              true,    false,         pppInit},
     {"IMA",              true,    false,         imaInit},

@@ -379,6 +379,7 @@ TEST_F(Init, WriteLevellingCorrection) {
 TEST_F(Init, FullBringUpOrderAndWaits) {
     // The initialisers' own waits, measured alone.
     VQ6192_Platform_ResetVirtualTime();
+    ASSERT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 1), 0u);
     ASSERT_EQ(VQ6192_ATM_InitAtm(kChip, 1), 0u);
     ASSERT_EQ(VQ6192_PPP_InitPppModule(kChip, 1), 0u);
     ASSERT_EQ(VQ6192_IMA_InitIma(kChip, 1), 0u);
@@ -554,6 +555,7 @@ TEST_F(Init, BringUpFailures) {
 
 TEST_F(Init, RestoreRunsOnlyTheModuleInitialisers) {
     const auto direct = traced([&] {
+        EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 2), 0u);
         EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 2), 0u);
         EXPECT_EQ(VQ6192_PPP_InitPppModule(kChip, 2), 0u);
         EXPECT_EQ(VQ6192_IMA_InitIma(kChip, 2), 0u);

@@ -254,7 +254,7 @@ TEST(ShellBringUp, ChipsOnTheModelComeUpWithAProgressLinePerStep) {
         uint16_t clocks;  // reg 0x06: every module clock but module 5's once up
     };
     const Case cases[] = {
-        {"terminal", true, true, 2 * 17, 0x7FDF},
+        {"terminal", true, true, 2 * 18, 0x7FDF},
         {"pipe", true, false, 0, 0x7FDF},
         {"no bring-up", false, true, 0, 0},
     };
