@@ -1,8 +1,8 @@
 // Every block model of the chip, created with each chip model: one line per block.
 #include "vq6192/sim.h"
-#include "vq6192/sim/ces.h"
 #include "vq6192/sim/atm.h"
 #include "vq6192/sim/atm_pwe3.h"
+#include "vq6192/sim/ces.h"
 #include "vq6192/sim/chip_control.h"
 #include "vq6192/sim/clocks.h"
 #include "vq6192/sim/ddr.h"
@@ -14,10 +14,10 @@
 #include "vq6192/sim/mac.h"
 #include "vq6192/sim/ppp.h"
 #include "vq6192/sim/ram_bist.h"
+#include "vq6192/sim/register_window.h"
 #include "vq6192/sim/sam.h"
 #include "vq6192/sim/sdh_paths.h"
 #include "vq6192/sim/telecom.h"
-#include "vq6192/sim/register_window.h"
 
 namespace vq6192::sim {
 

@@ -146,9 +146,10 @@ constexpr const char *kMacPerNames[VQ6192_ETH_MAC_PER_NUM] = {
     X(byTxEn)                                                                                              \
     X(byRxEn)                                                                                              \
     X(byCfSlientEn)                                                                                        \
-    X(bySoftRstMII) X(bySoftRstRx) X(bySoftRstTx) X(wMaxFrmSize) X(sFdFcAddrL) X(sFdFcAddrM) X(sFdFcAddrH) \
-        X(wAddrL) X(wAddrM) X(wAddrH) X(byPadEnable) X(byStripPadEn) X(byRxRuntPktEn) X(byShortRuntsThr)   \
-            X(byCrcAdd) X(byStripCRCEn) X(byCRCErrPass) X(byIpgTxTimer) X(byRxDflSgl) X(byCf2DfTwoPartDf1) \
+    X(bySoftRstMII)                                                                                        \
+    X(bySoftRstRx) X(bySoftRstTx) X(wMaxFrmSize) X(sFdFcAddrL) X(sFdFcAddrM) X(sFdFcAddrH) X(wAddrL)       \
+        X(wAddrM) X(wAddrH) X(byPadEnable) X(byStripPadEn) X(byRxRuntPktEn) X(byShortRuntsThr) X(byCrcAdd) \
+            X(byStripCRCEn) X(byCRCErrPass) X(byIpgTxTimer) X(byRxDflSgl) X(byCf2DfTwoPartDf1)             \
                 X(bySerDesOrd) X(wVLanType) X(byVlanDropEn) X(byBcDropEn) X(byMcMatchEn) X(byUcMatchEn)    \
                     X(byTxFdFc) X(byRxFdFc) X(byAutoEegEnable) X(wFdFcType) X(wFcTxTimer) X(wPauseThr)     \
                         X(byDropUnkCtlFrm) X(byPauseFrmPass) X(byNoRmiiPreamble) X(byNoMiiPreamble)        \
