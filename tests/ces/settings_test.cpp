@@ -140,19 +140,33 @@ TEST_F(Settings, RegistersOfTheChannelAndChipWideSettings) {
     }
 }
 
+// Each flag from its own bit, one bit at a time, so that two flags read from one bit cannot pass.
 TEST_F(Settings, AlarmsDecodedBitByBit) {
-    model.poke(0x14200 + 2 * 9, 0b100101);
-    model.poke(0x14600 + 2 * 9, 0b011010);
-    uint8_t a[6] = {};
-    ASSERT_EQ(VQ6192_CES_GetCesChanAlm(kChip, 9, a), 0u);
-    EXPECT_EQ(std::vector<uint8_t>(a, a + 6), (std::vector<uint8_t>{1, 0, 0, 1, 0, 1}));
-    ASSERT_EQ(VQ6192_CES_GetCesChanHistoryAlm(kChip, 9, a), 0u);
-    EXPECT_EQ(std::vector<uint8_t>(a, a + 6), (std::vector<uint8_t>{0, 1, 1, 0, 1, 0}));
-
-    model.poke(0x14028, 0x0A59);  // bits 0, 3, 4, 6, 9, 11
-    uint8_t f[12] = {};
-    ASSERT_EQ(VQ6192_CES_GetCesRxTxFifoAlm(kChip, f), 0u);
-    EXPECT_EQ(std::vector<uint8_t>(f, f + 12), (std::vector<uint8_t>{1, 0, 0, 1, 1, 0, 1, 0, 0, 1, 0, 1}));
+    // Channel alarms: drop 5, defect 4, TB over 3, TB under 2, JB over 1, JB under 0.
+    const uint32_t chanBits[6] = {5, 4, 3, 2, 1, 0};
+    // FIFO alarms: TX over 3, TX under 2, RX over 1, RX under 0, then bits 11 down to 4.
+    const uint32_t fifoBits[12] = {3, 2, 1, 0, 11, 10, 9, 8, 7, 6, 5, 4};
+    for (uint32_t k = 0; k < 12; ++k) {
+        SCOPED_TRACE(k);
+        std::vector<uint8_t> one(12, 0);
+        one[k] = 1;
+        if (k < 6) {
+            model.poke(0x14200 + 2 * 9, static_cast<uint16_t>(1u << chanBits[k]));
+            model.poke(0x14600 + 2 * 9, static_cast<uint16_t>(0x3F & ~(1u << chanBits[k])));
+            uint8_t a[6] = {};
+            ASSERT_EQ(VQ6192_CES_GetCesChanAlm(kChip, 9, a), 0u);
+            EXPECT_EQ(std::vector<uint8_t>(a, a + 6), std::vector<uint8_t>(one.begin(), one.begin() + 6));
+            ASSERT_EQ(VQ6192_CES_GetCesChanHistoryAlm(kChip, 9, a), 0u);
+            EXPECT_EQ(a[k], 0);
+        }
+        model.poke(0x14028, static_cast<uint16_t>(1u << fifoBits[k]));
+        model.poke(0x1402A, static_cast<uint16_t>(1u << fifoBits[k]));
+        uint8_t f[12] = {};
+        ASSERT_EQ(VQ6192_CES_GetCesRxTxFifoAlm(kChip, f), 0u);
+        EXPECT_EQ(std::vector<uint8_t>(f, f + 12), one);
+        ASSERT_EQ(VQ6192_CES_GetCesRxTxFifoHistoryAlm(kChip, f), 0u);
+        EXPECT_EQ(std::vector<uint8_t>(f, f + 12), one);
+    }
 
     model.poke(0x16C00 + 2 * 9, 0x2001);  // bits 13 and 0 (the drain bits read set as well)
     uint8_t h[14] = {};
