@@ -147,13 +147,13 @@ constexpr const char *kMacPerNames[VQ6192_ETH_MAC_PER_NUM] = {
     X(byRxEn)                                                                                              \
     X(byCfSlientEn)                                                                                        \
     X(bySoftRstMII)                                                                                        \
-    X(bySoftRstRx) X(bySoftRstTx) X(wMaxFrmSize) X(sFdFcAddrL) X(sFdFcAddrM) X(sFdFcAddrH) X(wAddrL)       \
-        X(wAddrM) X(wAddrH) X(byPadEnable) X(byStripPadEn) X(byRxRuntPktEn) X(byShortRuntsThr) X(byCrcAdd) \
-            X(byStripCRCEn) X(byCRCErrPass) X(byIpgTxTimer) X(byRxDflSgl) X(byCf2DfTwoPartDf1)             \
-                X(bySerDesOrd) X(wVLanType) X(byVlanDropEn) X(byBcDropEn) X(byMcMatchEn) X(byUcMatchEn)    \
-                    X(byTxFdFc) X(byRxFdFc) X(byAutoEegEnable) X(wFdFcType) X(wFcTxTimer) X(wPauseThr)     \
-                        X(byDropUnkCtlFrm) X(byPauseFrmPass) X(byNoRmiiPreamble) X(byNoMiiPreamble)        \
-                            X(byNoGmiiPreamble)
+    X(bySoftRstRx)                                                                                         \
+    X(bySoftRstTx) X(wMaxFrmSize) X(sFdFcAddrL) X(sFdFcAddrM) X(sFdFcAddrH) X(wAddrL) X(wAddrM) X(wAddrH)  \
+        X(byPadEnable) X(byStripPadEn) X(byRxRuntPktEn) X(byShortRuntsThr) X(byCrcAdd) X(byStripCRCEn)     \
+            X(byCRCErrPass) X(byIpgTxTimer) X(byRxDflSgl) X(byCf2DfTwoPartDf1) X(bySerDesOrd) X(wVLanType) \
+                X(byVlanDropEn) X(byBcDropEn) X(byMcMatchEn) X(byUcMatchEn) X(byTxFdFc) X(byRxFdFc)        \
+                    X(byAutoEegEnable) X(wFdFcType) X(wFcTxTimer) X(wPauseThr) X(byDropUnkCtlFrm)          \
+                        X(byPauseFrmPass) X(byNoRmiiPreamble) X(byNoMiiPreamble) X(byNoGmiiPreamble)
 
 #define VQ6192_COUNT_FIELD(f) +1
 constexpr size_t kMacAttrFields = 0 VQ6192_MAC_ATTR_FIELDS(VQ6192_COUNT_FIELD);
