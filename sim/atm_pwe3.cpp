@@ -109,8 +109,11 @@ AtmPwe3Block::AtmPwe3Block(ChipModel &model) : model_(model) {
         fifo_[side].pop_front();
         model_.tables().setEntry(kTableBlock, select, address, e);
     });
-    model_.tables().onTableReadDone(
-        kTableBlock, [this](uint32_t select, uint32_t address) { onReadDone(select, address); });
+    model_.tables().addReadHooks(nullptr, [this](uint32_t block, uint32_t select, uint32_t address) {
+        if (block == kTableBlock) {
+            onReadDone(select, address);
+        }
+    });
 }
 
 void AtmPwe3Block::onReadDone(uint32_t select, uint32_t address) {

@@ -158,9 +158,6 @@ void TableEngine::onCommand(size_t block, uint16_t newValue, uint16_t oldValue) 
         for (const ReadHook &hook : afterRead_) {
             hook(layout.base, select, address);
         }
-        for (const ReadDoneHook &hook : s.readDoneHooks) {
-            hook(select, address);
-        }
     }
     if (s.commandBusy != 0) {
         s.busyPolls = s.commandBusy;
@@ -199,10 +196,6 @@ void TableEngine::setCommandBusy(uint32_t block, uint32_t polls) {
 
 void TableEngine::onTableCommand(uint32_t block, CommandHook hook) {
     state_[blockIndex(block)].hooks.push_back(std::move(hook));
-}
-
-void TableEngine::onTableReadDone(uint32_t block, ReadDoneHook hook) {
-    state_[blockIndex(block)].readDoneHooks.push_back(std::move(hook));
 }
 
 void TableEngine::failCommand(uint32_t block, uint32_t n) {

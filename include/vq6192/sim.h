@@ -70,9 +70,6 @@ class TableEngine {
     // command of the block, before a read loads its entry and after a write stored it.
     using CommandHook = std::function<void(uint32_t select, uint32_t address, bool write)>;
     void onTableCommand(uint32_t block, CommandHook hook);
-    // Told after a read loaded its entry into the data registers (counters that clear when read).
-    using ReadDoneHook = std::function<void(uint32_t select, uint32_t address)>;
-    void onTableReadDone(uint32_t block, ReadDoneHook hook);
     // The n-th table command of a block from now on (1: the next) is not carried out and leaves the
     // busy bit set for ever; 0 cancels.
     void failCommand(uint32_t block, uint32_t n);
@@ -94,7 +91,6 @@ class TableEngine {
         uint32_t commandBusy = 0;
         uint32_t failIn = 0;
         std::vector<CommandHook> hooks;
-        std::vector<ReadDoneHook> readDoneHooks;
         uint64_t writes = 0;
         uint64_t reads = 0;
     };
