@@ -409,6 +409,8 @@ VQ6192_API int32_t MCARD_IMA_DiagHardwareGet6192Dump(uint32_t chip, uint32_t mod
                                                      char *buf);
 VQ6192_API int32_t MCARD_IMA_DiagHardwareGetAtmConnCfg(uint32_t chip, uint32_t connId, uint32_t dir,
                                                        char *buf);
+VQ6192_API int32_t MCARD_IMA_DiagHardwareGetAtmPwe3Cfg(uint32_t chip, uint32_t pw, char *buf);
+VQ6192_API int32_t MCARD_IMA_DiagHardwareGetAtmDrop(uint32_t chip, char *buf);
 VQ6192_API int32_t MCARD_IMA_DiagHardwarePrint6192Table(uint32_t chip, uint32_t tableId, uint32_t object,
                                                         uint32_t word, char *buf);
 

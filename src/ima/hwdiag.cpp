@@ -1,11 +1,13 @@
 // IMA hardware diagnostics: one dispatcher that prints chip tables entry by entry, the IMA processor,
 // transmit and receive tables of a group or link, issues raw IMA processor commands, dumps a module of
-// the chip to a file and prints one ATM connection with its policer and OAM settings.
+// the chip to a file, and prints one ATM connection with its policer and OAM settings, one ATM
+// pseudowire with its labels, and the ATM drop counters.
 #include <cstdio>
 
 #include "vq6192/atm.h"
 #include "vq6192/core.h"
 #include "vq6192/dump.h"
+#include "vq6192/eth.h"
 #include "vq6192/platform.h"
 
 #include "core/table_print.h"
@@ -503,6 +505,55 @@ uint32_t atmConn(TextBuilder &t, uint32_t chip, uint32_t connId, uint32_t dir) {
     return rc;
 }
 
+// The PSN header kinds the label type line tells apart: none, or the MPLS label header that the
+// MPLS, multicast MPLS and MEF encapsulations all build. The IP and UDP headers print their own header
+// type (5..7), which the legend calls wrong for an ATM pseudowire.
+constexpr uint32_t kHdNone = 0;
+constexpr uint32_t kHdMpls = 4;
+constexpr uint32_t kAtmService = 2;
+constexpr uint32_t kSearchablePws = 512;
+
+uint32_t labelType(uint32_t hdType) {
+    return hdType == kHdNone ? 0 : hdType == kHdMpls ? 1 : hdType;
+}
+
+uint32_t atmPw(TextBuilder &t, uint32_t chip, uint32_t pw) {
+    VQ6192_ETH_PSN_INFO_S psn{};
+    uint32_t rc = VQ6192_ETH_GetPSNEthInfo(chip, pw, kAtmService, &psn);
+    // The received label is found by searching the label map for the channel, which the packet side
+    // offers for channels below 512 only: higher pseudowires show label 0 without a search.
+    uint32_t inLabel = 0, sel = 0, found = 0;
+    if (pw < kSearchablePws) {
+        rc |= VQ6192_ETH_GetAtmCesEgMpls2Chnl(chip, pw, kAtmService, &inLabel, &sel, &found);
+    }
+    uint32_t encap = 0, vpi = 0, vci = 0, cells = 0, wait = 0;
+    uint8_t cw = 0;
+    uint16_t snChk = 0, snAdd = 0;
+    rc |= VQ6192_ATM_GetAtmPwEncpMode(chip, pw, &encap);
+    rc |= VQ6192_ATM_GetPwEgVPIVCI(chip, pw, &vpi, &vci);
+    rc |= VQ6192_ATM_GetAtmPwCWEn(chip, pw, &cw);
+    rc |= VQ6192_ATM_GetPwSnChkAdd(chip, pw, &snChk, &snAdd);
+    rc |= VQ6192_ATM_GetAtmPwCellConcAttr(chip, pw, &cells, &wait);
+    const auto ul = [](uint32_t v) { return static_cast<unsigned long>(v); };
+    t.add("LABEL TYPE(0 unuse, 1 MPLS, other wrong)         :           %u\r\n", labelType(psn.dwLblHdType));
+    t.add("EGRESS LABEL       :           0x%x(%lu)\r\n", psn.dwLblPwLable, ul(psn.dwLblPwLable));
+    t.add("INGRESS LABEL      :           0x%x(%lu)\r\n", inLabel, ul(inLabel));
+    t.add("ENCAP TYPE(0,3 N:1; 1 VPC 1:1; 2 VCC 1:1)         :           %d\r\n", static_cast<int>(encap));
+    t.add("EGRESS VPI         :           0x%x(%lu)\r\n", vpi, ul(vpi));
+    t.add("EGRESS VCI         :           0x%x(%lu)\r\n", vci, ul(vci));
+    t.add("CW  ENABLE         :           %u\r\n", static_cast<unsigned>(cw));
+    t.add("SN CHECK ENABLE    :           %u\r\n", static_cast<unsigned>(snChk));
+    t.add("SN ADD ENABLE      :           %u\r\n", static_cast<unsigned>(snAdd));
+    t.add("MAX CELL NUM       :           %lu\r\n", ul(cells));
+    t.add("MAX WAIT TIME(ms)  :           %lu\r\n", ul(wait));
+    if (rc != 0) {
+        t.add("The Data is INVALID. 0x%X\r\n", rc);
+    } else {
+        t.add("The Data is VALID\r\n");
+    }
+    return rc;
+}
+
 bool issCode(uint32_t code) {
     switch (code) {
         case 0:
@@ -693,6 +744,22 @@ VQ6192_API int32_t MCARD_IMA_DiagHardwareGetAtmConnCfg(uint32_t chip, uint32_t c
     return static_cast<int32_t>(atmConn(t, chip, connId, dir));
 }
 
+VQ6192_API int32_t MCARD_IMA_DiagHardwareGetAtmPwe3Cfg(uint32_t chip, uint32_t pw, char *buf) {
+    if (refused(chip, buf)) {
+        return kRefused;
+    }
+    vq::TextBuilder t(buf);
+    return static_cast<int32_t>(atmPw(t, chip, pw));
+}
+
+// The chip-wide drop counters in the layout of the ATM statistics command.
+VQ6192_API int32_t MCARD_IMA_DiagHardwareGetAtmDrop(uint32_t chip, char *buf) {
+    if (refused(chip, buf)) {
+        return kRefused;
+    }
+    return static_cast<int32_t>(getatmdropstat(chip, buf));
+}
+
 VQ6192_API int32_t MCARD_IMA_Dbg_ImaHardWareInfo(uint32_t chip, uint32_t type, uint32_t arg1, uint32_t arg2,
                                                  char *buf) {
     if (refused(chip, buf)) {
@@ -717,11 +784,10 @@ VQ6192_API int32_t MCARD_IMA_Dbg_ImaHardWareInfo(uint32_t chip, uint32_t type, u
             return MCARD_IMA_DiagHardwareGet6192Dump(chip, arg1, arg2, buf);
         case 8:
             return MCARD_IMA_DiagHardwareGetAtmConnCfg(chip, arg1, arg2, buf);
-        case 9:   // ATM pseudowire view
-        case 10:  // ATM drop counters
-            // These views need the ATM pseudowire and drop statistics operations; until they are
-            // built the dispatcher refuses them without output.
-            return kRefused;
+        case 9:
+            return MCARD_IMA_DiagHardwareGetAtmPwe3Cfg(chip, arg1, buf);
+        case 10:
+            return MCARD_IMA_DiagHardwareGetAtmDrop(chip, buf);
         default: {
             vq::TextBuilder t(buf);
             t.add("  Table Type Error!! Tyble Type %u  \r\n ", type);
