@@ -53,6 +53,10 @@ TEST(Bounded, TextBuilderNeverPassesTheBuffer) {
     EXPECT_EQ(std::string(buf.c_str()), "line 0\nline 1\nl");
     EXPECT_EQ(buf[16], '\xEE');
     EXPECT_FALSE(text.failed());
+    // A builder that is given nothing to add still leaves an empty, terminated text.
+    std::string untouched(4, '\xEE');
+    vq::TextBuilder empty(untouched.data(), 4);
+    EXPECT_EQ(untouched[0], '\0');
     vq::TextBuilder none(nullptr);
     none.add("ignored");
     EXPECT_EQ(none.length(), 0u);
