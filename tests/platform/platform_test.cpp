@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "platform/osal.h"
 #include "platform/text_builder.h"
@@ -136,6 +137,40 @@ TEST(Semaphore, IsBinaryAndHonoursInjectedFailures) {
     EXPECT_NE(vq::DrvSemBCreate(other, 1), 0u);
     EXPECT_EQ(vq::DrvSemDelete(block), 0u);
     EXPECT_NE(vq::iof_sema_timewait(nullptr, 0), 0u);
+}
+
+// A host's semaphores: the chip lock is created free (initial count 1) and binary, so a second take
+// while it is held fails.
+TEST(Semaphore, ChipLockOnHostSemaphoresIsCreatedFreeAndBinary) {
+    static std::vector<uint32_t> initials;
+    VQ6192_PLATFORM_HOOKS hooks{};
+    hooks.pfnSemCreate = [](void *, void *b, uint32_t initial) -> uint32_t {
+        initials.push_back(initial);
+        *static_cast<uint32_t *>(b) = initial;
+        return 0;
+    };
+    hooks.pfnSemDelete = [](void *, void *) -> uint32_t { return 0; };
+    hooks.pfnSemTake = [](void *, void *b, uint32_t) -> uint32_t {
+        uint32_t &count = *static_cast<uint32_t *>(b);
+        return count == 0 ? 1 : (--count, 0u);
+    };
+    hooks.pfnSemGive = [](void *, void *b) -> uint32_t { return *static_cast<uint32_t *>(b) = 1, 0u; };
+    hooks.pfnLog = [](void *, uint32_t, const char *) {};  // the refused take's log line
+    VQ6192_Platform_SetHooks(&hooks);
+    {
+        vq6192::sim::ChipModel model;
+        model.attach(5);
+        VQ6192_INSTALL_PARA para = model.installPara(5);
+        ASSERT_EQ(VQ6192_Install_SDK(&para), 0u);
+        EXPECT_EQ(initials, std::vector<uint32_t>{1});
+        EXPECT_EQ(VQ6192_GetArbitrateFunc(5, 0, 0), 0u);
+        EXPECT_NE(VQ6192_GetArbitrateFunc(5, 0, 0), 0u) << "held";
+        EXPECT_EQ(VQ6192_GiveArbitrateFunc(5, 0, 0), 0u);
+        EXPECT_EQ(VQ6192_GetArbitrateFunc(5, 0, 0), 0u);
+        EXPECT_EQ(VQ6192_GiveArbitrateFunc(5, 0, 0), 0u);
+        VQ6192_UnInstall_SDK(5);
+    }
+    VQ6192_Platform_SetHooks(nullptr);
 }
 
 TEST(Clock, VirtualClockTotalsEveryWait) {
