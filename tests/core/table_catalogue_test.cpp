@@ -198,16 +198,10 @@ const BlockCommands &blockOf(uint32_t base) {
 }
 
 uint32_t kindCode(char kind) {
-    switch (kind) {
-        case 'S':
-            return VQ6192_TBL_KIND_STATUS;
-        case 'C':
-            return VQ6192_TBL_KIND_CONFIG;
-        case 'F':
-            return VQ6192_TBL_KIND_WRITE_FIFO;
-        default:
-            return VQ6192_TBL_KIND_CLOCK_RECOVERY;
-    }
+    return kind == 'S'   ? VQ6192_TBL_KIND_STATUS
+           : kind == 'C' ? VQ6192_TBL_KIND_CONFIG
+           : kind == 'F' ? VQ6192_TBL_KIND_WRITE_FIFO
+                         : VQ6192_TBL_KIND_CLOCK_RECOVERY;
 }
 
 void expectField(const VQ6192_TBL_FIELD_S &f, uint32_t reg, uint32_t start, uint32_t width, uint32_t v1,
