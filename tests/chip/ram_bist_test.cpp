@@ -6,8 +6,10 @@ namespace {
 using namespace chiptest;
 using RamBist = ChipFixture;
 
-// PLL2 restart: hold, reset, release reset, release hold (read-modify-writes of 0x6A from 0).
-const std::vector<BusAccess> kPll2Restart = {wr(0x6A, 0x80), wr(0x6A, 0x81), wr(0x6A, 0x80), wr(0x6A, 0x00)};
+// PLL2 restart: hold (bit 7), reset (bit 0), release reset, release hold, as read-modify-writes of
+// 0x6A from 0xFF7E: every other bit of the register stays set.
+const std::vector<BusAccess> kPll2Restart = {wr(0x6A, 0xFFFE), wr(0x6A, 0xFFFF), wr(0x6A, 0xFFFE),
+                                             wr(0x6A, 0xFF7E)};
 
 std::vector<BusAccess> concat(std::initializer_list<std::vector<BusAccess>> parts) {
     std::vector<BusAccess> out;
@@ -21,6 +23,7 @@ std::vector<BusAccess> concat(std::initializer_list<std::vector<BusAccess>> part
 TEST_F(RamBist, HealthyBlockPassesWithTheFullSequenceAndItsWaits) {
     model.poke(0x62, 0xF123);
     model.poke(0x100, 0xA800);
+    model.poke(0x6A, 0xFF7E);
     uint8_t failed = 9;
     VQ6192_Platform_ResetVirtualTime();
     const auto t = writes(traced([&] { EXPECT_EQ(VQ6192_Base_RamBistTest(kChip, 3, &failed), 0u); }));
