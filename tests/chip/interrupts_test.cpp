@@ -34,9 +34,12 @@ TEST_F(Interrupts, SourceEnableAndModeBits) {
         EXPECT_EQ(out, s.id == 128 ? 0x7FF : 1);
         EXPECT_EQ(VQ6192_INT_SetIntEnable(kChip, s.id, 0), 0u);
         EXPECT_EQ(model.peek(s.enableAddr), 0x8000);
-        model.poke(s.modeAddr, 0);
+        model.poke(s.modeAddr, 0x8000);
         EXPECT_EQ(VQ6192_INT_SetIntMode(kChip, s.id, 1), 0u);
-        EXPECT_EQ(model.peek(s.modeAddr), 1);
+        EXPECT_EQ(model.peek(s.modeAddr), 0x8001);
+        model.poke(s.modeAddr, 0xFFFF);
+        EXPECT_EQ(VQ6192_INT_SetIntMode(kChip, s.id, 0), 0u);
+        EXPECT_EQ(model.peek(s.modeAddr), 0xFFFE);
     }
 }
 
@@ -140,8 +143,9 @@ TEST_F(Interrupts, CesTimingRecoveryPendingInstance) {
 }
 
 TEST_F(Interrupts, EngineEnables) {
+    model.poke(0xC0, 0xFFFD);
     EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_SetIntActiveMode(kChip, 1, 0), 0u); }),
-              (Accesses{rd(0xC0, 0), wr(0xC0, 2)}));
+              (Accesses{rd(0xC0, 0xFFFD), wr(0xC0, 0xFFFE)}));
     uint32_t a = 9, b = 9;
     EXPECT_EQ(VQ6192_INT_GetIntActiveMode(kChip, &a, &b), 0u);
     EXPECT_EQ((std::vector<uint32_t>{a, b}), (std::vector<uint32_t>{1, 0}));
@@ -150,13 +154,19 @@ TEST_F(Interrupts, EngineEnables) {
     EXPECT_EQ(VQ6192_INT_GetIntIndex(kChip, &index), 0u);
     EXPECT_EQ(index, 0x1FF);
 
+    for (uint32_t reg : {0xC4u, 0xC6u}) {
+        model.poke(reg, 0xFFFE);
+    }
+    model.poke(0xC8, 0xFFFD);
     EXPECT_EQ(VQ6192_INT_SetPmuIntEn(kChip, 1), 0u);
     EXPECT_EQ(VQ6192_INT_SetMpIntEn(kChip, 1), 0u);
-    EXPECT_EQ(VQ6192_INT_SetAtmIntEn(kChip, 0, 1), 0u);
-    EXPECT_EQ(peeks({0xC4, 0xC6, 0xC8}), (U16s{1, 1, 2}));
+    EXPECT_EQ(VQ6192_INT_SetAtmIntEn(kChip, 0, 1), 0u);  // bit 1 <- 1, bit 0 <- 0
+    EXPECT_EQ(peeks({0xC4, 0xC6, 0xC8}), (U16s{0xFFFF, 0xFFFF, 0xFFFE}));
 
+    model.poke(0x170AA, 0xFFF0);
     EXPECT_EQ(VQ6192_INT_SetCesTrIntEn(kChip, 5, 1), 0u);
-    EXPECT_EQ(model.peek(0x170AA), 0xF);
+    EXPECT_EQ(model.peek(0x170AA), 0xFFFF);
+    model.poke(0x170AA, 0);
     EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_SetCesTrIntEn(kChip, VQ6192_INT_ALL, 1), 0u); }).size(), 32u);
     for (uint32_t i = 0; i < 16; ++i) {
         EXPECT_EQ(model.peek(0x170A0 + 2 * i), 0xF) << i;
@@ -165,8 +175,9 @@ TEST_F(Interrupts, EngineEnables) {
     EXPECT_EQ(VQ6192_INT_GetCesTrInt(kChip, &inst, &f, &f, &f, 1), VQ6192_INT_CES_TR_NONE);
     EXPECT_EQ(inst, 0xFFFF);
 
+    model.poke(0x16180, 0x8F8F);  // channel 100: group 1, bits 4..6
     EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_SetCesIntEn(kChip, 100, 1, 0, 0), 0u); }),
-              (Accesses{rd(0x16180, 0), wr(0x16180, 0x70)}));
+              (Accesses{rd(0x16180, 0x8F8F), wr(0x16180, 0x8FFF)}));
     EXPECT_EQ(VQ6192_INT_SetCesIntEn(kChip, 335, 1, 1, 1), 0u);  // 335 mod 84 = 83, group 3
     EXPECT_EQ(model.peek(0x16160 + 2 * 83), 0x7000);
     model.poke(0x16160, 0x8888);
@@ -180,10 +191,11 @@ TEST_F(Interrupts, EngineEnables) {
 }
 
 TEST_F(Interrupts, E1MapperRegisters) {
-    EXPECT_EQ(VQ6192_INT_SetE1MapRfpIntEn(kChip, 1, 0), 0u);
-    EXPECT_EQ(model.peek(0x20006), 0x4);
+    model.poke(0x20006, 0xFFFB);
+    EXPECT_EQ(VQ6192_INT_SetE1MapRfpIntEn(kChip, 1, 0), 0u);  // bit 2 <- 1, bit 1 <- 0
+    EXPECT_EQ(model.peek(0x20006), 0xFFFD);
     EXPECT_EQ(VQ6192_INT_SetE1MapRfpIntEn(kChip, 0, 1), 0u);
-    EXPECT_EQ(model.peek(0x20006), 0x2);
+    EXPECT_EQ(model.peek(0x20006), 0xFFFB);
     uint16_t f1 = 9, f2 = 9, f0 = 9, f3 = 9;
     for (const auto &[reg, clear, want] : {std::tuple{0x0012, 0, U16s{0, 1}},
                                            {0x0012, 1, U16s{0, 1}},
@@ -198,17 +210,18 @@ TEST_F(Interrupts, E1MapperRegisters) {
     for (const LpCase &c : {LpCase{0, 1, 2, 0x7C38C}, LpCase{1, 3, 62, 0xDC38C}, LpCase{2, 0, 27, 0x2C38C},
                             LpCase{2, 2, 28, 0x9C38C}, LpCase{0, 0, 0, 0x2C38C}}) {
         SCOPED_TRACE(testing::Message() << c.type << "/" << c.group << "/" << c.index);
-        model.poke(c.addr, 0);
+        model.poke(c.addr, 0xFFFD);
         EXPECT_EQ(writes(traced([&] {
                       EXPECT_EQ(VQ6192_INT_SetE1MapLpIntEn(kChip, c.type, c.group, c.index, 1), 0u);
                   })),
-                  Accesses{wr(c.addr, 2)});
+                  Accesses{wr(c.addr, 0xFFFF)});
     }
     model.poke(0x39A22, 0x2);  // type 3, index 90
     EXPECT_EQ(VQ6192_INT_GetE1MapLpInt(kChip, 3, 90, &f1, &f0), 0u);
     EXPECT_EQ((U16s{f1, f0}), (U16s{1, 0}));
+    model.poke(0x2C30C, 0xFFFB);
     EXPECT_EQ(VQ6192_INT_SetE1MapHpIntEn(kChip, 1, 11, 1), 0u);
-    EXPECT_EQ(model.peek(0x2C30C), 0x4);
+    EXPECT_EQ(model.peek(0x2C30C), 0xFFFF);
     EXPECT_EQ(VQ6192_INT_SetE1MapHpIntEn(kChip, 0, 3, 1), 0u);
     EXPECT_EQ(model.peek(0x2C10C), 0x4);
     model.poke(0x2C0DE, 0x8);
@@ -222,20 +235,22 @@ TEST_F(Interrupts, E1MapperRegisters) {
 
 TEST_F(Interrupts, TimeslotBusAndE3T3Ports) {
     uint16_t a = 0, b = 0;
+    model.poke(0x2A01E, 0xF000);
+    model.poke(0x2A01C, 0xFF80);
     EXPECT_EQ(VQ6192_INT_SetHtbWarmIntEn(kChip, 5, 63), 0u);
-    EXPECT_EQ(model.peek(0x2A01E), 0xFC5);
+    EXPECT_EQ(model.peek(0x2A01E), 0xFFC5);
     EXPECT_EQ(VQ6192_INT_GetHtbWarmInt(kChip, &a, &b), 0u);
     EXPECT_EQ((U16s{a, b}), (U16s{5, 63}));
     EXPECT_EQ(VQ6192_INT_SetHtbB2sfIntEn(kChip, 1, 10), 0u);
-    EXPECT_EQ(model.peek(0x2A01C), 0x4A);
+    EXPECT_EQ(model.peek(0x2A01C), 0xFFCA);
     EXPECT_EQ(VQ6192_INT_GetHtbB2sfInt(kChip, &a, &b), 0u);
     EXPECT_EQ((U16s{a, b}), (U16s{1, 10}));
     uint8_t out = 9;
     for (uint32_t kind = 0; kind < 4; ++kind) {
         SCOPED_TRACE(kind);
-        model.poke(0x2B768, 0);
+        model.poke(0x2B768, 0xFFF0);
         EXPECT_EQ(VQ6192_INT_SetET3IntEn(kChip, 11, kind, 1), 0u);
-        EXPECT_EQ(model.peek(0x2B768), 1u << (3 - kind));
+        EXPECT_EQ(model.peek(0x2B768), 0xFFF0u | 1u << (3 - kind));
         out = 9;
         EXPECT_EQ(VQ6192_INT_GetET3Int(kChip, 11, kind, &out), 0u);
         EXPECT_EQ(out, 1);
