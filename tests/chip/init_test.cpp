@@ -407,24 +407,37 @@ TEST_F(Init, MacPortsGetPreamblesThenComeUp) {
     EXPECT_EQ((U32s{mac.reg(1, 105), mac.reg(2, 105)}), (U32s{0xFFFFFFFFu, 0xFFFFFFFFu}));
 }
 
+// Whole-register values of the SerDes start, from SerDes registers at 0 and at 0xFFFF: 0x200 keeps
+// bit 3 while bit 12 comes and goes, and every field write leaves the register's other bits as they were.
 TEST_F(Init, SerdesStartSequence) {
-    model.stickBits(0x0A, 0x0005, 0x0005);  // reset bits that stay set keep their place
-    const auto w = writes(traced([&] { EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 1, 0, 0, nullptr), 0u); }));
-    const auto from = std::find(w.begin(), w.end(), wr(0x200, 0x1000)) - 1;
-    ASSERT_GE(w.end() - from, 29);
-    // Whole-register values: 0x200 keeps bit 3 while bit 12 comes and goes.
-    EXPECT_EQ(std::vector<BusAccess>(from, from + 29),
-              (std::vector<BusAccess>{
-                  wr(0x0A, 0x3005),  wr(0x200, 0x1000), wr(0x200, 0x1008), wr(0x1E, 0x0001),   //
-                  wr(0x208, 0x0003), wr(0x20A, 0),      wr(0x212, 0x0003), wr(0x214, 0),       //
-                  wr(0x20C, 0),      wr(0x216, 0),      wr(0x200, 0x0008), wr(0x202, 0x0001),  //
-                  wr(0x202, 0),      wr(0x202, 0),      wr(0x206, 0),      wr(0x210, 0),       //
-                  wr(0x206, 0x0020), wr(0x210, 0x0020), wr(0x202, 0x0010), wr(0x202, 0),       //
-                  wr(0x206, 0),      wr(0x210, 0),      wr(0x20C, 0),      wr(0x216, 0),       //
-                  wr(0x20A, 0x0002), wr(0x214, 0x0002), wr(0x20A, 0),      wr(0x214, 0),       //
-                  wr(0x0A, 0x0005),
-              }));
-    model.clearStuckBits();
+    const uint32_t serdes[] = {0x1E, 0x200, 0x202, 0x206, 0x208, 0x20A, 0x20C, 0x210, 0x212, 0x214, 0x216};
+    // clang-format off
+    const std::vector<BusAccess> fromZero = {
+        wr(0x0A, 0x3005),  wr(0x200, 0x1000), wr(0x200, 0x1008), wr(0x1E, 0x0001),  wr(0x208, 0x0003), wr(0x20A, 0),
+        wr(0x212, 0x0003), wr(0x214, 0),      wr(0x20C, 0),      wr(0x216, 0),      wr(0x200, 0x0008), wr(0x202, 0x0001),
+        wr(0x202, 0),      wr(0x202, 0),      wr(0x206, 0),      wr(0x210, 0),      wr(0x206, 0x0020), wr(0x210, 0x0020),
+        wr(0x202, 0x0010), wr(0x202, 0),      wr(0x206, 0),      wr(0x210, 0),      wr(0x20C, 0),      wr(0x216, 0),
+        wr(0x20A, 0x0002), wr(0x214, 0x0002), wr(0x20A, 0),      wr(0x214, 0),      wr(0x0A, 0x0005)};
+    const std::vector<BusAccess> fromOnes = {
+        wr(0x0A, 0x3005),  wr(0x200, 0xFFFF), wr(0x200, 0xFFFF), wr(0x1E, 0xFFFF),  wr(0x208, 0xFFE3), wr(0x20A, 0xFFCF),
+        wr(0x212, 0xFFE3), wr(0x214, 0xFFCF), wr(0x20C, 0xFFFD), wr(0x216, 0xFFFD), wr(0x200, 0xEFFF), wr(0x202, 0xFFFF),
+        wr(0x202, 0xFFFE), wr(0x202, 0xFFF6), wr(0x206, 0xFFEF), wr(0x210, 0xFFEF), wr(0x206, 0xFFEF), wr(0x210, 0xFFEF),
+        wr(0x202, 0xFFF6), wr(0x202, 0xFFE6), wr(0x206, 0xFFCF), wr(0x210, 0xFFCF), wr(0x20C, 0xFFFD), wr(0x216, 0xFFFD),
+        wr(0x20A, 0xFFCF), wr(0x214, 0xFFCF), wr(0x20A, 0xFFCD), wr(0x214, 0xFFCD), wr(0x0A, 0x0005)};
+    // clang-format on
+    for (const auto &[seed, expected] : {std::pair{0x0000, fromZero}, {0xFFFF, fromOnes}}) {
+        SCOPED_TRACE(seed);
+        model.stickBits(0x0A, 0x0005, 0x0005);  // reset bits that stay set keep their place
+        for (uint32_t reg : serdes) {
+            model.poke(reg, static_cast<uint16_t>(seed));
+        }
+        const auto w =
+            writes(traced([&] { EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 1, 0, 0, nullptr), 0u); }));
+        const auto from = std::find(w.begin(), w.end(), wr(0x0A, 0x3005));
+        ASSERT_GE(w.end() - from, 29);
+        EXPECT_EQ(std::vector<BusAccess>(from, from + 29), expected);
+        model.clearStuckBits();
+    }
 }
 
 TEST_F(Init, SerdesLockIsWaitedForButNotRequired) {
