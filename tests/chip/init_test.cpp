@@ -209,12 +209,12 @@ TEST_F(Init, SoftResetAndClockEnableBits) {
 
 // ---- DDR start-up ----------------------------------------------------------------------------------------
 
-// The start-up sequence of a healthy DDR with the first setting, CAS latency 6.
+// The start-up sequence of a healthy DDR, the address map registers starting at all ones.
 std::vector<BusAccess> healthyDdrWrites(uint16_t config, uint16_t timing1, uint16_t mode0) {
     std::vector<BusAccess> w;
     const uint16_t map[10] = {0x000, 0x180, 0x1C0, 0x4F9, 0x519, 0x6B7, 0x279, 0x100, 0x2F9, 0x278};
     for (uint32_t k = 0; k < 10; ++k) {
-        w.push_back(fw(0xC12C + 8 * k, map[k], 0, 11));
+        w.push_back(wr(0xC12C + 8 * k, 0xF800u | map[k]));  // bits 11..15 seeded by the test, kept
     }
     auto pair = [&](uint32_t reg, uint32_t lo, uint32_t hi) {
         w.insert(w.end(), {wr(reg, lo), wr(reg + 2, hi)});
@@ -261,6 +261,9 @@ TEST_F(Init, DdrStartSequenceForBothSettings) {
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         g_ulVq6192DdrCl = c.cl;
+        for (uint32_t k = 0; k < 10; ++k) {
+            model.poke(0xC12C + 8 * k, 0xFFFF);
+        }
         capture.clear();
         VQ6192_Platform_ResetVirtualTime();
         uint8_t failed = 9;
