@@ -1,4 +1,5 @@
-// Shared fixture of the chip health, self-test and interrupt tests.
+// Shared fixture of the chip tests: chip 3 on the model, traced calls, refusal checks, and the chip
+// control, interrupt, RAM self-test and DDR blocks of the model.
 #pragma once
 
 #include <array>
@@ -18,6 +19,9 @@ namespace chiptest {
 
 using vq6192::sim::BusAccess;
 using vq6192::sim::BusOp;
+using Lines = std::vector<std::string>;
+using Accesses = std::vector<BusAccess>;
+using U16s = std::vector<uint16_t>;
 
 // Status codes of chip 3.
 constexpr uint32_t kBasePara = 0x03010001;
@@ -32,6 +36,15 @@ inline BusAccess wr(uint32_t addr, uint32_t value) {
     return {BusOp::Write, addr, value, 0, 16};
 }
 
+// A call that must be refused with `status`, trace "ParaErr.\r\n" (nothing when quiet) and touch no
+// register.
+struct Refusal {
+    const char *what;
+    uint32_t status;
+    std::function<uint32_t()> op;
+    bool quiet = false;
+};
+
 class ChipFixture : public vqtest::ChipTest {
   protected:
     vq6192::sim::ChipControlBlock &control() { return model.block<vq6192::sim::ChipControlBlock>(); }
@@ -39,28 +52,37 @@ class ChipFixture : public vqtest::ChipTest {
     vq6192::sim::RamBistBlock &bist() { return model.block<vq6192::sim::RamBistBlock>(); }
     vq6192::sim::DdrBlock &ddr() { return model.block<vq6192::sim::DdrBlock>(); }
 
-    // Runs an operation with the bus trace on, from a clean trace and clean captures.
-    std::vector<BusAccess> traced(const std::function<void()> &op) {
+    // Runs an operation with the bus trace on, from a clean trace.
+    Accesses traced(const std::function<void()> &op) {
         model.clearTrace();
         model.setTrace(true);
         op();
         model.setTrace(false);
         return model.trace();
     }
+    static Accesses writes(const Accesses &t) { return vqtest::writes(t); }
+    // The registers at `addrs`, as the model holds them.
+    std::vector<uint16_t> peeks(std::initializer_list<uint32_t> addrs) {
+        std::vector<uint16_t> v;
+        for (uint32_t a : addrs) {
+            v.push_back(model.peek(a));
+        }
+        return v;
+    }
 
-    static std::vector<BusAccess> writes(const std::vector<BusAccess> &t) { return vqtest::writes(t); }
-
-    // A call that must be refused with `status`, trace "ParaErr.\r\n" (or nothing) and touch no register.
-    void expectRefused(const char *what, uint32_t status, const std::function<uint32_t()> &op,
-                       bool quiet = false) {
-        SCOPED_TRACE(what);
+    void expectRefused(const Refusal &r) {
+        SCOPED_TRACE(r.what);
         capture.clear();
         uint32_t rc = 0;
-        const auto t = traced([&] { rc = op(); });
-        EXPECT_EQ(rc, status);
+        const auto t = traced([&] { rc = r.op(); });
+        EXPECT_EQ(rc, r.status);
         EXPECT_TRUE(t.empty()) << t.size() << " bus accesses";
-        EXPECT_EQ(capture.traceTexts(),
-                  quiet ? std::vector<std::string>{} : std::vector<std::string>{"ParaErr.\r\n"});
+        EXPECT_EQ(capture.traceTexts(), r.quiet ? Lines{} : Lines{"ParaErr.\r\n"});
+    }
+    void expectRefused(std::initializer_list<Refusal> rows) {
+        for (const Refusal &r : rows) {
+            expectRefused(r);
+        }
     }
 };
 

@@ -7,6 +7,7 @@ namespace {
 
 using namespace chiptest;
 using Short = vq6192::sim::DdrBlock::Short;
+using U32s = std::vector<uint32_t>;
 
 const char *const kLineName[16] = {"A0", "A1", "A2",  "A3",  "A4",  "A5",  "A6",  "A7",
                                    "A8", "A9", "A10", "A11", "A12", "BA0", "BA1", "BA2"};
@@ -18,7 +19,7 @@ class Ddr3Step : public ChipFixture {
         uint32_t rc;
         std::array<uint8_t, VQ6192_DDR3STEP_STATUS_NUM> status;
         VQ6192_DDR3STEP_CTX ctx;
-        std::vector<std::string> verdicts;  // trace lines naming a fault
+        Lines verdicts;  // trace lines naming a fault
     };
 
     Result run() {
@@ -36,6 +37,14 @@ class Ddr3Step : public ChipFixture {
         return r;
     }
 
+    // The status bytes at `at`.
+    static std::vector<uint32_t> st(const Result &r, std::initializer_list<size_t> at) {
+        std::vector<uint32_t> v;
+        for (size_t k : at) {
+            v.push_back(r.status[k]);
+        }
+        return v;
+    }
     static uint32_t dataMasks(const VQ6192_DDR3STEP_CTX &c) {
         return c.ulStuckOpen1Mask | c.ulStuckOpen0Mask | c.ulStuckAt0Mask | c.ulStuckAt1Mask |
                c.ulShort1Mask | c.ulShort0Mask;
@@ -59,18 +68,17 @@ TEST_F(Ddr3Step, HealthyMemoryPassesEveryStep) {
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 0u);  // the table port is never busy
     EXPECT_EQ(ddr().blockWrites(), 2u + 64 + 34);
     EXPECT_EQ(ddr().blockReads(), 2u + 64 + 34);
-    std::vector<std::string> stages;
+    Lines stages;
     for (const std::string &t : capture.traceTexts()) {
         if (t.rfind(" 3", 0) != 0) {
             stages.push_back(t);
         }
     }
-    EXPECT_EQ(stages, (std::vector<std::string>{
-                          "\nStep 1: data bus testing (step 1)...\n", "\nStep 1 PASS!",
-                          "\nStep 2a: data bus testing (step 1)...", "\nStep 2a PASS!",
-                          "\r\nStep 2b: data bus testing (step 0)...", "\nStep 2b PASS!\n", "\nStep 2 PASS!",
-                          "\r\nStep 3a: Addr bus testing (step 0)...\n",
-                          "\r\nStep 3b: Addr bus testing (step 1)...\n", "\nStep 3a PASS! \n"}));
+    EXPECT_EQ(stages, (Lines{"\nStep 1: data bus testing (step 1)...\n", "\nStep 1 PASS!",
+                             "\nStep 2a: data bus testing (step 1)...", "\nStep 2a PASS!",
+                             "\r\nStep 2b: data bus testing (step 0)...", "\nStep 2b PASS!\n",
+                             "\nStep 2 PASS!", "\r\nStep 3a: Addr bus testing (step 0)...\n",
+                             "\r\nStep 3b: Addr bus testing (step 1)...\n", "\nStep 3a PASS! \n"}));
     EXPECT_TRUE(traced(" 3a. aulTestStep3DataMask0[0]=0xfffffffe\n"));
     EXPECT_TRUE(traced(" 3a. aulTemReadData0[16]=0xfffeffff\n"));
     EXPECT_TRUE(traced(" 3b. aulTestStep3DataMask1[16]=0xff0000ff\n"));
@@ -87,9 +95,8 @@ TEST_F(Ddr3Step, EveryStuckDataLineIsFoundInStepOne) {
             ddr().stickDataLine(line, value);
             const Result r = run();
             EXPECT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-            EXPECT_EQ(r.status[0], 1);
-            EXPECT_EQ(r.status[1], value ? VQ6192_DDR3STEP_STUCK_OPEN_1 : VQ6192_DDR3STEP_STUCK_OPEN_0);
-            EXPECT_EQ(r.status[2], line);
+            EXPECT_EQ(st(r, {0, 1, 2}),
+                      (U32s{1, value ? VQ6192_DDR3STEP_STUCK_OPEN_1 : VQ6192_DDR3STEP_STUCK_OPEN_0, line}));
             EXPECT_EQ(value ? r.ctx.ulStuckOpen1Mask : r.ctx.ulStuckOpen0Mask, 1u << line);
             EXPECT_EQ(dataMasks(r.ctx), 1u << line);
             EXPECT_EQ(r.verdicts,
@@ -111,11 +118,9 @@ TEST_F(Ddr3Step, EveryDataLineShortIsFoundInStepTwo) {
                 ddr().shortDataLines(j, i, kind);
                 const Result r = run();
                 ASSERT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-                EXPECT_EQ(r.status[0], 2);
-                EXPECT_EQ(r.status[3],
-                          kind == Short::And ? VQ6192_DDR3STEP_SHORT_0 : VQ6192_DDR3STEP_SHORT_1);
-                EXPECT_EQ(r.status[4], i);
-                EXPECT_EQ(r.status[6], j);
+                EXPECT_EQ(
+                    st(r, {0, 3, 4, 6}),
+                    (U32s{2, kind == Short::And ? VQ6192_DDR3STEP_SHORT_0 : VQ6192_DDR3STEP_SHORT_1, i, j}));
                 EXPECT_EQ(kind == Short::And ? r.ctx.ulShort0Mask : r.ctx.ulShort1Mask, 1u << i);
                 EXPECT_EQ(dataMasks(r.ctx), 1u << i);
                 ASSERT_EQ(r.verdicts.size(), 1u);
@@ -131,9 +136,7 @@ TEST_F(Ddr3Step, ShortOfBitsThreeAndFourAsTheReadBacksShowIt) {
     ddr().shortDataLines(3, 4, Short::Or);  // 1 << 3 and 1 << 4 read 0x18, complements 0xFFFFFFFF
     const Result r = run();
     EXPECT_EQ(r.rc, 0x10007u);
-    EXPECT_EQ(r.status[3], 8);
-    EXPECT_EQ(r.status[4], 3);
-    EXPECT_EQ(r.status[6], 4);
+    EXPECT_EQ(st(r, {3, 4, 6}), (U32s{8, 3, 4}));
     EXPECT_EQ(r.ctx.ulShort1Mask, 1u << 3);
     EXPECT_EQ(r.verdicts,
               std::vector<std::string>{"\n Step 2: data[3] and data[4] is Stuck-short-1 fault\n"});
@@ -154,8 +157,7 @@ TEST_F(Ddr3Step, StepTwoStuckAtVerdicts) {
     };
     const Case cases[] = {
         {"S-A-0", 5, 0, VQ6192_DDR3STEP_STUCK_AT_0, "\n Step 2: data[5] is S-A-0 fault\n"},
-        {"S-A-1", 17, 1, VQ6192_DDR3STEP_STUCK_AT_1, "\n Step 2: data[17] is S-A-1 fault\n"},
-    };
+        {"S-A-1", 17, 1, VQ6192_DDR3STEP_STUCK_AT_1, "\n Step 2: data[17] is S-A-1 fault\n"}};
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         ddr().clearFaults();
@@ -175,9 +177,7 @@ TEST_F(Ddr3Step, StepTwoStuckAtVerdicts) {
         });
         const Result r = run();
         EXPECT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-        EXPECT_EQ(r.status[0], 2);
-        EXPECT_EQ(r.status[3], c.kind);
-        EXPECT_EQ(r.status[4], c.bit);
+        EXPECT_EQ(st(r, {0, 3, 4}), (U32s{2, c.kind, c.bit}));
         EXPECT_EQ(c.kind == VQ6192_DDR3STEP_STUCK_AT_0 ? r.ctx.ulStuckAt0Mask : r.ctx.ulStuckAt1Mask,
                   1u << c.bit);
         EXPECT_EQ(dataMasks(r.ctx), 1u << c.bit);
@@ -195,9 +195,7 @@ TEST_F(Ddr3Step, EveryStuckAddressLineIsFoundInStepThree) {
             ddr().stickAddressLine(line, value);
             const Result r = run();
             EXPECT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-            EXPECT_EQ(r.status[0], 3);
-            EXPECT_EQ(r.status[5], 0);
-            EXPECT_EQ(r.status[6], kLineCode[line]);
+            EXPECT_EQ(st(r, {0, 5, 6}), (U32s{3, 0, kLineCode[line]}));
             EXPECT_EQ(r.ctx.ulAddrShortXMask, 1u << line);
             EXPECT_EQ(addrMasks(r.ctx), 1u << line);
             EXPECT_EQ(dataMasks(r.ctx), 0u);
@@ -222,8 +220,7 @@ TEST_F(Ddr3Step, EveryAddressLineShortIsFoundInStepThree) {
                 ddr().shortAddressLines(a, b, kind);
                 const Result r = run();
                 ASSERT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-                EXPECT_EQ(r.status[0], 3);
-                EXPECT_EQ(r.status[5], VQ6192_DDR3STEP_ADDR_STUCK_AT);
+                EXPECT_EQ(st(r, {0, 5}), (U32s{3, VQ6192_DDR3STEP_ADDR_STUCK_AT}));
                 const uint32_t pair = 1u << a | 1u << b;
                 EXPECT_EQ(addrMasks(r.ctx), r.ctx.ulAddrStuckAtMask);
                 EXPECT_NE(r.ctx.ulAddrStuckAtMask, 0u);
@@ -253,8 +250,7 @@ TEST_F(Ddr3Step, AliasedAndUnknownAddressVerdicts) {
     });
     Result r = run();
     EXPECT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-    EXPECT_EQ(r.status[5], VQ6192_DDR3STEP_ADDR_SHORT);
-    EXPECT_EQ(r.status[6], 6);
+    EXPECT_EQ(st(r, {5, 6}), (U32s{VQ6192_DDR3STEP_ADDR_SHORT, 6}));
     EXPECT_EQ(r.ctx.ulAddrShortMask, 1u << 5 | 1u << 6);
     EXPECT_EQ(r.verdicts,
               (std::vector<std::string>{"\nStep 3ab: A5 is Stuck-Short-1 or Stuck-Short-0 fault\n",
@@ -269,8 +265,7 @@ TEST_F(Ddr3Step, AliasedAndUnknownAddressVerdicts) {
     });
     r = run();
     EXPECT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-    EXPECT_EQ(r.status[5], 0);
-    EXPECT_EQ(r.status[6], 51);
+    EXPECT_EQ(st(r, {5, 6}), (U32s{0, 51}));
     EXPECT_EQ(r.ctx.ulAddrUnknownMask, 1u << 14);
     EXPECT_EQ(addrMasks(r.ctx), 1u << 14);
     EXPECT_EQ(r.verdicts, std::vector<std::string>{"\nStep 3ab: BA1 is Un-Know fault\n"});
@@ -283,18 +278,17 @@ TEST_F(Ddr3Step, BlockAccessFailureEndsTheTest) {
         uint8_t stage;
         std::string text;
     };
+    // clang-format off
     const Case cases[] = {
         {0, 1, " : WriteDdrDword:[0xfff7fe0] Data to Reg Failed, ulRtn = 50397191 \n"},
         {1, 1, " : ReadDdrDword:[0xfff7fe0] Data From Reg Failed!\n"},
         {2, 1, " : WriteDdrDword:[0xfefff60] Data From Reg Failed!\n"},
         {3, 1, " : ReadDdrDword:[0xfefff60] Data From Reg Failed!\n"},
-        {4, 2, "\n Step 2a: write err and write addr is:0xfefff60"},
-        {5, 2, "\n Step 2a: Read err and write addr:0xfefff60"},
-        {68, 2, "\n Step 2b: write err and write addr is:0xfefff60"},
-        {69, 2, "\n Step 2b: Read err at:0xfefff60\n"},
-        {132, 3, ""},
-        {167, 3, ""},
+        {4, 2, "\n Step 2a: write err and write addr is:0xfefff60"}, {5, 2, "\n Step 2a: Read err and write addr:0xfefff60"},
+        {68, 2, "\n Step 2b: write err and write addr is:0xfefff60"}, {69, 2, "\n Step 2b: Read err at:0xfefff60\n"},
+        {132, 3, ""}, {167, 3, ""},
     };
+    // clang-format on
     for (const Case &c : cases) {
         SCOPED_TRACE(c.after);
         ddr().clearFaults();

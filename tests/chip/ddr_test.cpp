@@ -34,14 +34,14 @@ TEST_F(Ddr, NineStepScanVerdicts) {
         uint64_t us;
         std::string text;
     };
+    // clang-format off
     const Case cases[] = {
         {"done at the fourth poll", 4, false, 0, 0, 1000000, ""},
         {"done at the last poll", 20, false, 0, 0, 5000000, ""},
-        {"never done", vq6192::sim::DdrBlock::kForever, false, kBaseFailed, 1, 5000000,
-         "Err. VQ6192_Base_DDR9StepTest.  Don't finish ErrCode[0x3010007]\r\n"},
-        {"scan error", 1, true, kBaseFailed, 1, 250000,
-         "Err. VQ6192_Base_DDR9StepTest.  ScanErr[0x53] ErrCode[0x3010007]\r\n"},
+        {"never done", vq6192::sim::DdrBlock::kForever, false, kBaseFailed, 1, 5000000, "Err. VQ6192_Base_DDR9StepTest.  Don't finish ErrCode[0x3010007]\r\n"},
+        {"scan error", 1, true, kBaseFailed, 1, 250000, "Err. VQ6192_Base_DDR9StepTest.  ScanErr[0x53] ErrCode[0x3010007]\r\n"},
     };
+    // clang-format on
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         ddr().setScanPolls(c.polls);
@@ -60,18 +60,15 @@ TEST_F(Ddr, NineStepScanVerdicts) {
             EXPECT_EQ(rc, c.rc);
             EXPECT_EQ(newForm ? r.ucStatus : failed, c.failed);
             EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), c.us);
-            EXPECT_EQ(capture.traceTexts(),
-                      c.text.empty() ? std::vector<std::string>{} : std::vector{c.text});
+            EXPECT_EQ(capture.traceTexts(), c.text.empty() ? Lines{} : Lines{c.text});
             EXPECT_FALSE(ddr().scanRunning());
             EXPECT_EQ(model.peek(0xC020) & 1, 0);
             EXPECT_EQ(model.peek(0xC000) & 1, 0);
             if (newForm && c.scanError) {
-                EXPECT_EQ(r.wScanErrAddrHigh, 0x0123);
-                EXPECT_EQ(r.wScanErrAddrLow, 0x4560);
-                EXPECT_EQ(std::vector<uint16_t>(r.awScanErrRData, r.awScanErrRData + 4),
-                          (std::vector<uint16_t>{1, 2, 3, 4}));
-                EXPECT_EQ(std::vector<uint16_t>(r.awScanExpRData, r.awScanExpRData + 4),
-                          (std::vector<uint16_t>{0x5555, 0xAAAA, 0x5555, 0xAAAA}));
+                EXPECT_EQ((U16s{r.wScanErrAddrHigh, r.wScanErrAddrLow}), (U16s{0x0123, 0x4560}));
+                EXPECT_EQ(U16s(r.awScanErrRData, r.awScanErrRData + 4), (U16s{1, 2, 3, 4}));
+                EXPECT_EQ(U16s(r.awScanExpRData, r.awScanExpRData + 4),
+                          (U16s{0x5555, 0xAAAA, 0x5555, 0xAAAA}));
             }
         }
     }
@@ -86,16 +83,12 @@ TEST_F(Ddr, TestStatisticsAfterAScanError) {
     model.poke(0xC104, 0x0123);
     VQ6192_DDR_TEST_STATS s{};
     EXPECT_EQ(VQ6192_Base_GetDDRTestStats(kChip, &s), 0u);
-    EXPECT_EQ(s.wDdr2cTestCurrSt, 7);
-    EXPECT_EQ(s.wDdr2cTestNextSt, 0xA);
-    EXPECT_EQ(s.wDdr2cRrCurrSt, 0x7FF);
-    EXPECT_EQ(s.wDdr2cRrNextSt, 0x123);
+    EXPECT_EQ(
+        (U16s{s.wDdr2cTestCurrSt, s.wDdr2cTestNextSt, s.wDdr2cRrCurrSt, s.wDdr2cRrNextSt, s.wScanErrStep}),
+        (U16s{7, 0xA, 0x7FF, 0x123, 6}));
     EXPECT_EQ(s.dwScanErrAddr, 0x0ABCDEF0u);
-    EXPECT_EQ(s.wScanErrStep, 6);
-    EXPECT_EQ(std::vector<uint16_t>(s.awScanErrRData, s.awScanErrRData + 4),
-              (std::vector<uint16_t>{9, 8, 7, 6}));
-    EXPECT_EQ(std::vector<uint16_t>(s.awScanExpRData, s.awScanExpRData + 4),
-              (std::vector<uint16_t>{0x5555, 0xAAAA, 0x5555, 0xAAAA}));
+    EXPECT_EQ(U16s(s.awScanErrRData, s.awScanErrRData + 4), (U16s{9, 8, 7, 6}));
+    EXPECT_EQ(U16s(s.awScanExpRData, s.awScanExpRData + 4), (U16s{0x5555, 0xAAAA, 0x5555, 0xAAAA}));
 }
 
 TEST_F(Ddr, BlockWriteAndReadRoundTripWithAndWithoutSwap) {
@@ -162,22 +155,18 @@ TEST_F(Ddr, BusyTableTimesOut) {
     EXPECT_EQ(VQ6192_Base_WriteDdr64Bytes(kChip, 0, data, 64), kBaseFailed);
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 90000u);  // 3 x 3 polls
     EXPECT_EQ(model.peek(0xC062) & 1, 0);
-    EXPECT_EQ(
-        capture.traceTexts(),
-        (std::vector<std::string>{"Err. VQ6192_Base_GetDdrTabWBusy. DDR Write Tab Is Busy! TimeOut \r\n",
-                                  "Err. VQ6192_Base_WriteDdr64Bytes.VQ6192_Base_GetDdrTabWBusy DDR Tab Is "
-                                  "Always Busy! Write Failed! "
-                                  "\r\n"}));
+    // clang-format off
+    EXPECT_EQ(capture.traceTexts(), (Lines{"Err. VQ6192_Base_GetDdrTabWBusy. DDR Write Tab Is Busy! TimeOut \r\n",
+        "Err. VQ6192_Base_WriteDdr64Bytes.VQ6192_Base_GetDdrTabWBusy DDR Tab Is Always Busy! Write Failed! \r\n"}));
+    // clang-format on
     capture.clear();
     uint16_t out[32] = {};
     EXPECT_EQ(VQ6192_Base_ReadDdr64Bytes(kChip, 0, out, 0, 64), kBaseFailed);
     EXPECT_EQ(model.peek(0xC062) & 0x10, 0);
-    EXPECT_EQ(
-        capture.traceTexts(),
-        (std::vector<std::string>{
-            "Err. VQ6192_Base_GetDdrTabWBusy. DDR Tab Read Is Busy! TimeOut \r\n",
-            "Err. VQ6192_Base_ReadDdr64Bytes.VQ6192_Base_GetDdrTabRBusy DDR Tab Is Always Busy! Read Failed! "
-            "\r\n"}));
+    // clang-format off
+    EXPECT_EQ(capture.traceTexts(), (Lines{"Err. VQ6192_Base_GetDdrTabWBusy. DDR Tab Read Is Busy! TimeOut \r\n",
+        "Err. VQ6192_Base_ReadDdr64Bytes.VQ6192_Base_GetDdrTabRBusy DDR Tab Is Always Busy! Read Failed! \r\n"}));
+    // clang-format on
     // The busy wait alone, with fewer wait rounds.
     g_ulVQ6192DDRRWWaitTimes = 1;
     VQ6192_Platform_ResetVirtualTime();
@@ -193,32 +182,22 @@ TEST_F(Ddr, FifoFlagsLandInTheirNamedFields) {
         size_t field;  // offset in the record, or SIZE_MAX for a bit the record does not hold
     };
     using F = VQ6192_DDR_FIFO_STAT;
+    // clang-format off
     const Case cases[] = {
-        {0xC004, 10, offsetof(F, bddr2cmpicrcerr)},
-        {0xC004, 0, offsetof(F, bddr2catmcrcerr)},
-        {0xC004, 6, offsetof(F, bddr2cpppicrcerr)},
-        {0xC060, 1, offsetof(F, btabrfull)},
-        {0xC060, 0, offsetof(F, btabwfull)},
-        {0xC100, 3, offsetof(F, brrecfiforerr)},
-        {0xC126, 0, offsetof(F, btabcfifowerr)},
-        {0xC12E, 5, offsetof(F, batmrdfiforerr)},
-        {0xC136, 2, offsetof(F, bpwe3wdfifowerr)},
-        {0xC13E, 1, offsetof(F, bimacfiforerr)},
-        {0xC146, 4, offsetof(F, bcesirdfifowerr)},
-        {0xC14E, 3, offsetof(F, bcesewdfiforerr)},
-        {0xC156, 0, offsetof(F, bcrpcfifowerr)},
-        {0xC15E, 5, offsetof(F, bpppirdfiforerr)},
-        {0xC166, 3, offsetof(F, bpktwdfiforerr)},
-        {0xC166, 0, offsetof(F, bpktcfifowerr)},
-        {0xC16E, 5, offsetof(F, bppperdfiforerr)},
-        {0xC16E, 0, offsetof(F, bpppecfifowerr)},
-        {0xC176, 5, offsetof(F, bppurdfiforerr)},
-        {0xC176, 4, offsetof(F, bppurdfifowerr)},
-        {0xC176, 1, offsetof(F, bppucfiforerr)},
-        {0xC176, 0, offsetof(F, bppucfifowerr)},
-        {0xC176, 2, SIZE_MAX},
-        {0xC004, 11, SIZE_MAX},
+        {0xC004, 10, offsetof(F, bddr2cmpicrcerr)}, {0xC004, 0, offsetof(F, bddr2catmcrcerr)},
+        {0xC004, 6, offsetof(F, bddr2cpppicrcerr)}, {0xC060, 1, offsetof(F, btabrfull)},
+        {0xC060, 0, offsetof(F, btabwfull)},        {0xC100, 3, offsetof(F, brrecfiforerr)},
+        {0xC126, 0, offsetof(F, btabcfifowerr)},    {0xC12E, 5, offsetof(F, batmrdfiforerr)},
+        {0xC136, 2, offsetof(F, bpwe3wdfifowerr)},  {0xC13E, 1, offsetof(F, bimacfiforerr)},
+        {0xC146, 4, offsetof(F, bcesirdfifowerr)},  {0xC14E, 3, offsetof(F, bcesewdfiforerr)},
+        {0xC156, 0, offsetof(F, bcrpcfifowerr)},    {0xC15E, 5, offsetof(F, bpppirdfiforerr)},
+        {0xC166, 3, offsetof(F, bpktwdfiforerr)},   {0xC166, 0, offsetof(F, bpktcfifowerr)},
+        {0xC16E, 5, offsetof(F, bppperdfiforerr)},  {0xC16E, 0, offsetof(F, bpppecfifowerr)},
+        {0xC176, 5, offsetof(F, bppurdfiforerr)},   {0xC176, 4, offsetof(F, bppurdfifowerr)},
+        {0xC176, 1, offsetof(F, bppucfiforerr)},    {0xC176, 0, offsetof(F, bppucfifowerr)},
+        {0xC176, 2, SIZE_MAX},                      {0xC004, 11, SIZE_MAX},
     };
+    // clang-format on
     for (const Case &c : cases) {
         SCOPED_TRACE(testing::Message() << std::hex << c.reg << " bit " << std::dec << c.bit);
         model.poke(c.reg, static_cast<uint16_t>(1u << c.bit));
@@ -239,51 +218,34 @@ TEST_F(Ddr, CrcCountersEightBytesApart) {
     }
     VQ6192_DDR_CRC_CNT c{};
     EXPECT_EQ(VQ6192_Base_GetDDRCntStats(kChip, &c), 0u);
-    EXPECT_EQ(c.wDDR2CIMACRCERRCNT, 100);
-    EXPECT_EQ(c.wDDR2CPWE3CRCERRCNT, 101);
-    EXPECT_EQ(c.wDDR2CATMCRCERRCNT, 102);
-    EXPECT_EQ(c.wDDR2CCESICRCERRCNT, 103);
-    EXPECT_EQ(c.wDDR2CCESECRCERRCNT, 104);
-    EXPECT_EQ(c.wDDR2CCRPCRCERRCNT, 105);
-    EXPECT_EQ(c.wDDR2CPPPICRCERRCNT, 106);
-    EXPECT_EQ(c.wDDR2CPKTCRCERRCNT, 107);
-    EXPECT_EQ(c.wDDR2CPPPECRCERRCNT, 108);
+    EXPECT_EQ((U16s{c.wDDR2CIMACRCERRCNT, c.wDDR2CPWE3CRCERRCNT, c.wDDR2CATMCRCERRCNT, c.wDDR2CCESICRCERRCNT,
+                    c.wDDR2CCESECRCERRCNT, c.wDDR2CCRPCRCERRCNT, c.wDDR2CPPPICRCERRCNT, c.wDDR2CPKTCRCERRCNT,
+                    c.wDDR2CPPPECRCERRCNT}),
+              (U16s{100, 101, 102, 103, 104, 105, 106, 107, 108}));
 }
 
 TEST_F(Ddr, ParameterErrors) {
     uint16_t data[32] = {};
-    uint8_t failed = 0;
+    uint8_t failed = 0, st[VQ6192_DDR3STEP_STATUS_NUM];
     VQ6192_DDR9STEP_RESULT r;
-    const struct {
-        const char *name;
-        std::function<uint32_t()> op;
-    } cases[] = {
-        {"write null", [&] { return VQ6192_Base_WriteDdr64Bytes(kChip, 0, nullptr, 64); }},
-        {"read null", [&] { return VQ6192_Base_ReadDdr64Bytes(kChip, 0, nullptr, 0, 64); }},
-        {"read swap 2", [&] { return VQ6192_Base_ReadDdr64Bytes(kChip, 0, data, 2, 64); }},
-        {"scan null pattern", [&] { return VQ6192_Base_DDR9StepTest(kChip, nullptr, &failed); }},
-        {"scan null result", [&] { return VQ6192_Base_DDR9StepTest(kChip, kPattern, nullptr); }},
-        {"new scan null", [&] { return VQ6192_Base_DDR9StepTestNew(kChip, kPattern, nullptr); }},
-        {"new scan null pattern", [&] { return VQ6192_Base_DDR9StepTestNew(kChip, nullptr, &r); }},
-        {"stats null", [&] { return VQ6192_Base_GetDDRTestStats(kChip, nullptr); }},
-        {"fifo null", [&] { return VQ6192_Base_GetDDRFifoStats(kChip, nullptr); }},
-        {"counters null", [&] { return VQ6192_Base_GetDDRCntStats(kChip, nullptr); }},
-        {"3-step null status",
-         [&] {
-             VQ6192_DDR3STEP_CTX ctx;
-             return VQ6192_Base_DDR3StepTest(kChip, nullptr, &ctx);
-         }},
-        {"3-step null ctx",
-         [&] {
-             uint8_t st[VQ6192_DDR3STEP_STATUS_NUM];
-             return VQ6192_Base_DDR3StepTest(kChip, st, nullptr);
-         }},
-    };
-    for (const auto &c : cases) {
-        expectRefused(c.name, kBasePara, c.op);
-    }
-    expectRefused(
-        "busy chip 264", 0x08010001, [&] { return VQ6192_Base_GetDdrTabWBusy(264); }, true);
+    VQ6192_DDR3STEP_CTX ctx;
+    // clang-format off
+    expectRefused({
+        {"write null", kBasePara, [&] { return VQ6192_Base_WriteDdr64Bytes(kChip, 0, nullptr, 64); }},
+        {"read null", kBasePara, [&] { return VQ6192_Base_ReadDdr64Bytes(kChip, 0, nullptr, 0, 64); }},
+        {"read swap 2", kBasePara, [&] { return VQ6192_Base_ReadDdr64Bytes(kChip, 0, data, 2, 64); }},
+        {"scan null pattern", kBasePara, [&] { return VQ6192_Base_DDR9StepTest(kChip, nullptr, &failed); }},
+        {"scan null result", kBasePara, [&] { return VQ6192_Base_DDR9StepTest(kChip, kPattern, nullptr); }},
+        {"new scan null", kBasePara, [&] { return VQ6192_Base_DDR9StepTestNew(kChip, kPattern, nullptr); }},
+        {"new scan null pattern", kBasePara, [&] { return VQ6192_Base_DDR9StepTestNew(kChip, nullptr, &r); }},
+        {"stats null", kBasePara, [&] { return VQ6192_Base_GetDDRTestStats(kChip, nullptr); }},
+        {"fifo null", kBasePara, [&] { return VQ6192_Base_GetDDRFifoStats(kChip, nullptr); }},
+        {"counters null", kBasePara, [&] { return VQ6192_Base_GetDDRCntStats(kChip, nullptr); }},
+        {"3-step null status", kBasePara, [&] { return VQ6192_Base_DDR3StepTest(kChip, nullptr, &ctx); }},
+        {"3-step null ctx", kBasePara, [&] { return VQ6192_Base_DDR3StepTest(kChip, st, nullptr); }},
+        {"busy chip 264", 0x08010001, [&] { return VQ6192_Base_GetDdrTabWBusy(264); }, true},
+    });
+    // clang-format on
 }
 
 }  // namespace

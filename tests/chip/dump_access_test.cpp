@@ -62,11 +62,7 @@ TEST_F(AccessTest, FieldReadsAndWritesOnBothPaths) {
         {0xA5C3, 12, 4, 0xF, 0xA, 0xF5C3},
     };
     for (bool indirect : {false, true}) {
-        if (indirect) {
-            useIndirect();
-        } else {
-            useWindow();
-        }
+        indirect ? useIndirect() : useWindow();
         auto reg = [&]() { return indirect ? model.peek(0x40) : window().at(0x40); };
         for (const Case &c : cases) {
             SCOPED_TRACE(testing::Message()
@@ -87,9 +83,10 @@ TEST_F(AccessTest, BadFieldArgumentsAreRefusedWithoutBusAccess) {
         uint32_t chip, startBit, width;
         uint32_t status;
     } cases[] = {
-        {kChip, 16, 1, kPara}, {kChip, 0, 0, kPara},     {kChip, 0, 17, kPara},  {kChip, 8, 9, kPara},
-        {kChip, 15, 2, kPara}, {264, 0, 16, 0x080B0001}, {7, 0, 16, 0x070B0001},  // never installed: no dump
-                                                                                  // context
+        // clang-format off
+        {kChip, 16, 1, kPara}, {kChip, 0, 0, kPara}, {kChip, 0, 17, kPara}, {kChip, 8, 9, kPara}, {kChip, 15, 2, kPara},
+        {264, 0, 16, 0x080B0001}, {7, 0, 16, 0x070B0001},  // chip 7 never installed: no dump context
+        // clang-format on
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(testing::Message() << c.chip << " " << c.startBit << "/" << c.width);
@@ -103,7 +100,7 @@ TEST_F(AccessTest, BadFieldArgumentsAreRefusedWithoutBusAccess) {
         });
         EXPECT_TRUE(t.empty());
         if (c.chip == kChip) {
-            EXPECT_EQ(capture.traceTexts(), std::vector<std::string>(4, "ParaErr.\r\n"));
+            EXPECT_EQ(capture.traceTexts(), Lines(4, "ParaErr.\r\n"));
         }
     }
     EXPECT_EQ(VQ6192_DUMP_ReadReg(kChip, 0x20, 0, 16, nullptr), kPara);

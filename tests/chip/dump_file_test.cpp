@@ -132,56 +132,26 @@ TEST_F(FileTest, FullBuffersAreFlushedAsTheyFill) {
 }
 
 TEST_F(FileTest, FileHookFailures) {
+    const std::string noAppend =
+        "Err. VQ6192_DUMP_WriteFile.     open file Fail!! m_pcSaveFile is \"chip3.bd\" \r\n";
+    const size_t body = 24 + 10 + 8 + 24 + 24 + 8;
     struct Case {
         const char *what;
         std::string failOpen, zeroHandle;
         int failWrite;
         bool failClose;
         uint32_t status;
-        std::vector<std::string> traces;
+        Lines traces;
         size_t fileSize;  // bytes in the file afterwards
     } cases[] = {
-        {"header open fails",
-         "wb",
-         "",
-         -1,
-         false,
-         kFileErr,
-         {"Err. VQ6192_DUMP_WriteFileHead.     Open File[chip3.bd] Err.\r\n"},
-         0},
-        {"header handle 0: no header", "", "wb", -1, false, 0, {}, 24 + 10 + 8 + 24 + 24 + 8},
-        {"append open fails",
-         "ab+",
-         "",
-         -1,
-         false,
-         kNoFile,
-         {"Err. VQ6192_DUMP_WriteFile.     open file Fail!! m_pcSaveFile is \"chip3.bd\" \r\n"},
-         48},
-        {"append handle 0",
-         "",
-         "ab+",
-         -1,
-         false,
-         kNoFile,
-         {"Err. VQ6192_DUMP_WriteFile.     open file Fail!! m_pcSaveFile is \"chip3.bd\" \r\n"},
-         48},
-        {"data write fails",
-         "",
-         "",
-         1,
-         false,
-         kFileErr,
-         {"Err. VQ6192_DUMP_WriteFile.     Write file[chip3.bd] Err \r\n"},
-         48},
-        {"close fails",
-         "",
-         "",
-         -1,
-         true,
-         kNoFile,
-         {"Err. VQ6192_DUMP_WriteFile.     Close file[chip3.bd] Err \r\n"},
-         48 + 24 + 10 + 8 + 24 + 24 + 8},
+        // clang-format off
+        {"header open fails", "wb", "", -1, false, kFileErr, {"Err. VQ6192_DUMP_WriteFileHead.     Open File[chip3.bd] Err.\r\n"}, 0},
+        {"header handle 0: no header", "", "wb", -1, false, 0, {}, body},
+        {"append open fails", "ab+", "", -1, false, kNoFile, {noAppend}, 48},
+        {"append handle 0", "", "ab+", -1, false, kNoFile, {noAppend}, 48},
+        {"data write fails", "", "", 1, false, kFileErr, {"Err. VQ6192_DUMP_WriteFile.     Write file[chip3.bd] Err \r\n"}, 48},
+        {"close fails", "", "", -1, true, kNoFile, {"Err. VQ6192_DUMP_WriteFile.     Close file[chip3.bd] Err \r\n"}, 48 + body},
+        // clang-format on
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
@@ -238,31 +208,24 @@ TEST_F(FileTest, InitialisationChecksNames) {
     const VQ6192_DUMP_REG_BLOCK_S nameless[] = {{"GLB", 1, 3, 0, 2, 0, {}}, {nullptr, 0x22, 3, 0, 2, 0, {}}};
     const VQ6192_DUMP_REG_BLOCK_S tooLong[] = {{"ABCDEFGHIJKLMNOPQRS", 0x15, 3, 0, 2, 0, {}}};
     const VQ6192_DUMP_REG_BLOCK_S longest[] = {{"ABCDEFGHIJKLMNOPQR", 0x15, 3, 0, 2, 0, {}}};
+    const std::string err = "Err. VQ6192_DUMP_InitializeDump.  ";
     struct Case {
-        const char *what;
-        const char *chipName;
-        const char *outFile;
+        const char *what, *chipName, *outFile;
         const VQ6192_DUMP_REG_BLOCK_S *regs;
         uint32_t regCount;
         uint32_t status;
         std::string trace;
     } cases[] = {
+        // clang-format off
         {"chip name of 21", "ABCDEFGHIJKLMNOPQRSTU", "f", kBlocks, 2, 0, ""},
-        {"chip name of 22", "ABCDEFGHIJKLMNOPQRSTUV", "f", kBlocks, 2, kFileErr,
-         "Err. VQ6192_DUMP_InitializeDump.  Dump Chip Name len of Name[ABCDEFGHIJKLMNOPQRSTUV] too long or "
-         "NULL\r\n"},
-        {"empty chip name", "", "f", kBlocks, 2, kFileErr,
-         "Err. VQ6192_DUMP_InitializeDump.  Dump Chip Name len of Name[] too long or NULL\r\n"},
+        {"chip name of 22", "ABCDEFGHIJKLMNOPQRSTUV", "f", kBlocks, 2, kFileErr, err + "Dump Chip Name len of Name[ABCDEFGHIJKLMNOPQRSTUV] too long or NULL\r\n"},
+        {"empty chip name", "", "f", kBlocks, 2, kFileErr, err + "Dump Chip Name len of Name[] too long or NULL\r\n"},
         {"file name of 20", "c", "ofs1/fpga/DrvDump.bd", kBlocks, 2, 0, ""},
-        {"file name of 21", "c", "ofs1/fpga/DrvDump.bdx", kBlocks, 2, kFileErr,
-         "Err. VQ6192_DUMP_InitializeDump.  Dump OutFile Name len of Name[ofs1/fpga/DrvDump.bdx] too long or "
-         "NULL\r\n"},
+        {"file name of 21", "c", "ofs1/fpga/DrvDump.bdx", kBlocks, 2, kFileErr, err + "Dump OutFile Name len of Name[ofs1/fpga/DrvDump.bdx] too long or NULL\r\n"},
         {"block name of 18", "c", "f", longest, 1, 0, ""},
-        {"block name of 19", "c", "f", tooLong, 1, kFileErr,
-         "Err. VQ6192_DUMP_InitializeDump.  Reg MDL[0x15] len of Name[ABCDEFGHIJKLMNOPQRS] too long or "
-         "NULL.\r\n"},
-        {"block without a name", "c", "f", nameless, 2, kFileErr,
-         "Err. VQ6192_DUMP_InitializeDump.  Reg MDL[0x22] len of Name[(null)] too long or NULL.\r\n"},
+        {"block name of 19", "c", "f", tooLong, 1, kFileErr, err + "Reg MDL[0x15] len of Name[ABCDEFGHIJKLMNOPQRS] too long or NULL.\r\n"},
+        {"block without a name", "c", "f", nameless, 2, kFileErr, err + "Reg MDL[0x22] len of Name[(null)] too long or NULL.\r\n"},
+        // clang-format on
     };
     ASSERT_EQ(VQ6192_DUMP_RegFileFunc(kChip, vqtest::MemFiles::open, vqtest::MemFiles::write,
                                       vqtest::MemFiles::close),
@@ -273,8 +236,7 @@ TEST_F(FileTest, InitialisationChecksNames) {
         EXPECT_EQ(
             VQ6192_DUMP_InitializeDump(kChip, c.chipName, 0x1234, c.regs, c.regCount, groups_, 1, c.outFile),
             c.status);
-        EXPECT_EQ(capture.traceTexts(),
-                  c.trace.empty() ? std::vector<std::string>{} : std::vector<std::string>{c.trace});
+        EXPECT_EQ(capture.traceTexts(), c.trace.empty() ? Lines{} : Lines{c.trace});
         // The lists and the base address are stored before the names are checked.
         const VQ6192_DUMP_CTX &ctx = *g_vq6192[kChip].pstDumpCtx;
         EXPECT_EQ(ctx.ulRegBase, 0x1234u);
@@ -287,34 +249,20 @@ TEST_F(FileTest, ParameterErrors) {
     const auto open = vqtest::MemFiles::open;
     const auto write = vqtest::MemFiles::write;
     const auto close = vqtest::MemFiles::close;
-    struct Case {
-        const char *what;
-        std::function<uint32_t()> op;
-        uint32_t status;
-    } cases[] = {
-        {"hooks: null write", [&] { return VQ6192_DUMP_RegFileFunc(kChip, open, nullptr, close); }, kPara},
-        {"hooks: chip 264", [&] { return VQ6192_DUMP_RegFileFunc(264, open, write, close); }, 0x080B0001},
-        {"init: null block list",
-         [&] { return VQ6192_DUMP_InitializeDump(kChip, "c", 0, nullptr, 1, groups_, 1, "f"); }, kPara},
-        {"init: null chip name",
-         [&] { return VQ6192_DUMP_InitializeDump(kChip, nullptr, 0, kBlocks, 1, groups_, 1, "f"); }, kPara},
-        {"init: chip never installed",
-         [&] { return VQ6192_DUMP_InitializeDump(5, "c", 0, kBlocks, 1, groups_, 1, "f"); }, 0x050B0001},
-        {"dump before initialisation", [&] { return VQ6192_DUMP_Dump(kChip, -1); }, kPara},
-        {"tables before initialisation", [&] { return VQ6192_DUMP_DumpTbl(kChip, -1); }, kPara},
-        {"buffer before initialisation", [&] { return VQ6192_DUMP_WriteBuffer(kChip, "x", 1); }, kPara},
-        {"flush before initialisation", [&] { return VQ6192_DUMP_WriteFile(kChip); }, kPara},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
-        capture.clear();
-        const auto t = traced([&] { EXPECT_EQ(c.op(), c.status); });
-        EXPECT_TRUE(t.empty());
-        // Chips never installed have their print flags at 0: nothing passes the trace point.
-        const bool quiet = c.status != kPara;
-        EXPECT_EQ(capture.traceTexts(),
-                  quiet ? std::vector<std::string>{} : std::vector<std::string>{"ParaErr.\r\n"});
-    }
+    // Chips never installed have their print flags at 0: nothing passes the trace point.
+    // clang-format off
+    expectRefused({
+        {"hooks: null write", kPara, [&] { return VQ6192_DUMP_RegFileFunc(kChip, open, nullptr, close); }},
+        {"hooks: chip 264", 0x080B0001, [&] { return VQ6192_DUMP_RegFileFunc(264, open, write, close); }, true},
+        {"init: null block list", kPara, [&] { return VQ6192_DUMP_InitializeDump(kChip, "c", 0, nullptr, 1, groups_, 1, "f"); }},
+        {"init: null chip name", kPara, [&] { return VQ6192_DUMP_InitializeDump(kChip, nullptr, 0, kBlocks, 1, groups_, 1, "f"); }},
+        {"init: chip never installed", 0x050B0001, [&] { return VQ6192_DUMP_InitializeDump(5, "c", 0, kBlocks, 1, groups_, 1, "f"); }, true},
+        {"dump before initialisation", kPara, [&] { return VQ6192_DUMP_Dump(kChip, -1); }},
+        {"tables before initialisation", kPara, [&] { return VQ6192_DUMP_DumpTbl(kChip, -1); }},
+        {"buffer before initialisation", kPara, [&] { return VQ6192_DUMP_WriteBuffer(kChip, "x", 1); }},
+        {"flush before initialisation", kPara, [&] { return VQ6192_DUMP_WriteFile(kChip); }},
+    });
+    // clang-format on
     ASSERT_EQ(initSmall(), 0u);
     EXPECT_EQ(VQ6192_DUMP_WriteBuffer(kChip, nullptr, 1), kPara);
     EXPECT_EQ(VQ6192_DUMP_WriteBuffer(kChip, "x", 0), kPara);
@@ -351,9 +299,9 @@ TEST_F(FileTest, DefaultDumpWithTheLibrarysOwnHooksWritesNoFile) {
     useWindow();
     capture.clear();
     EXPECT_EQ(VQ6192_DUMP_F(kChip, 11), kNoFile);
-    EXPECT_EQ(
-        capture.traceTexts().back(),
-        "Err. VQ6192_DUMP_WriteFile.     open file Fail!! m_pcSaveFile is \"ofs1/fpga/DrvDump.bd\" \r\n");
+    // clang-format off
+    EXPECT_EQ(capture.traceTexts().back(), "Err. VQ6192_DUMP_WriteFile.     open file Fail!! m_pcSaveFile is \"ofs1/fpga/DrvDump.bd\" \r\n");
+    // clang-format on
     EXPECT_TRUE(files.calls.empty());
     EXPECT_EQ(g_vq6192[kChip].pstDumpCtx->ulHeadWritten, 0u);
     EXPECT_EQ(VQ6192_DUMP_F(264, -1), 0x080B0001u);

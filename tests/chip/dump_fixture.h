@@ -1,20 +1,17 @@
-// Shared fixture of the chip dump tests: chip 3 on the model, in-memory dump files, and the two ways
-// the dump reaches the registers (the model's register window, and the indirect path).
+// Shared fixture of the chip dump tests: in-memory dump files, and the two ways the dump reaches the
+// registers (the model's register window, and the indirect path).
 #pragma once
 
-#include <functional>
-#include <string>
-#include <vector>
+#include <algorithm>
 
+#include "chip_fixture.h"
 #include "support/mem_files.h"
-#include "support/test_support.h"
 #include "vq6192/dump.h"
 #include "vq6192/sim/register_window.h"
 
 namespace dumptest {
 
-using vq6192::sim::BusAccess;
-using vq6192::sim::BusOp;
+using namespace chiptest;
 using vq6192::sim::TableEngine;
 
 // Status codes of chip 3, module DUMP (11).
@@ -25,17 +22,8 @@ constexpr uint32_t kFileErr = 0x030B0007;
 
 constexpr char kFile[] = "chip3.bd";
 
-inline BusAccess rd(uint32_t addr, uint32_t value) {
-    return {BusOp::Read, addr, value, 0, 16};
-}
-inline BusAccess wr(uint32_t addr, uint32_t value) {
-    return {BusOp::Write, addr, value, 0, 16};
-}
-
-class DumpTest : public vqtest::ChipTest {
+class DumpTest : public ChipFixture {
   protected:
-    static constexpr uint32_t kChip = vqtest::ChipTest::kChip;
-
     vq6192::sim::RegisterWindow &window() { return model.block<vq6192::sim::RegisterWindow>(); }
 
     // Plain register access goes the indirect way; the install base address is `base`.
@@ -45,14 +33,12 @@ class DumpTest : public vqtest::ChipTest {
         p.ulIndirectBaseAddr = indirectBase;
         reinstall(p);
     }
-
     // The chip's registers are the model's register window, read as host memory.
     void useWindow() {
         VQ6192_INSTALL_PARA p = model.installPara(kChip, false);
         p.ulBaseAddr = window().base();
         reinstall(p);
     }
-
     uint32_t init(const VQ6192_DUMP_REG_BLOCK_S *regs, uint32_t regCount,
                   const VQ6192_DUMP_TBL_GROUP_S *groups, uint32_t groupCount, uintptr_t base = 0) {
         EXPECT_EQ(VQ6192_DUMP_RegFileFunc(kChip, vqtest::MemFiles::open, vqtest::MemFiles::write,
@@ -60,21 +46,9 @@ class DumpTest : public vqtest::ChipTest {
                   0u);
         return VQ6192_DUMP_InitializeDump(kChip, "VQ6192", base, regs, regCount, groups, groupCount, kFile);
     }
-
-    std::vector<BusAccess> traced(const std::function<void()> &op) {
-        model.clearTrace();
-        model.setTrace(true);
-        op();
-        model.setTrace(false);
-        return model.trace();
-    }
-
     static TableEngine::Entry halves(std::initializer_list<uint16_t> values) {
         TableEngine::Entry e{};
-        size_t i = 0;
-        for (uint16_t v : values) {
-            e[i++] = v;
-        }
+        std::copy(values.begin(), values.end(), e.begin());
         return e;
     }
 

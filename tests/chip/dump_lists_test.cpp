@@ -14,29 +14,21 @@ struct BlockCase {
     std::vector<std::array<uint16_t, 3>> ranges;
 };
 
+// clang-format off
 const BlockCase kBlockCases[] = {
     {1, "GLB_CFG", {{0x0000, 0, 0x132}}},
-    {2,
-     "IMA",
-     {{0x2000, 0, 0x4}, {0x2800, 0, 0x24F}, {0x2200, 0, 0x29}, {0x2400, 0, 0x60}, {0x2600, 0, 0xBE}}},
+    {2, "IMA", {{0x2000, 0, 0x4}, {0x2800, 0, 0x24F}, {0x2200, 0, 0x29}, {0x2400, 0, 0x60}, {0x2600, 0, 0xBE}}},
     {3, "PPP", {{0x8000, 0, 0x2F}, {0x8800, 0, 0x3D3}, {0x9000, 0, 0x114}, {0x9800, 0, 0x308}}},
-    {4,
-     "ATM",
-     {{0x5000, 0, 0x50},
-      {0x5200, 0, 0xE0},
-      {0x5400, 0x30, 0x41},
-      {0x5100, 0x30, 0x90},
-      {0x5300, 0x40, 0xD0}}},
+    {4, "ATM", {{0x5000, 0, 0x50}, {0x5200, 0, 0xE0}, {0x5400, 0x30, 0x41}, {0x5100, 0x30, 0x90}, {0x5300, 0x40, 0xD0}}},
     {5, "CES", {{0xA000, 0, 0x45F}, {0xA800, 0, 0x75F}, {0xB000, 0, 0x793}, {0xB800, 0, 0x157}}},
     {6, "SAM", {{0x3000, 0, 0x54F}}},
     {7, "DDR2C", {{0x6000, 0, 0xC9}}},
     {8, "MDDRC", {{0x6800, 0, 0x215}}},
     {9, "ETH", {{0x4000, 0, 0x11F}, {0x4800, 0, 0x127}}},
     {10, "TS", {{0x1000, 0, 0x2FC}}},
-    {11,
-     "E1Map",
-     {{0xFFFF, 0x2, 0x408}, {0xFFFF, 0x1001, 0x111C}, {0xFFFF, 0x6001, 0xF40A}, {0xFFFF, 0x2001, 0x4C20}}},
+    {11, "E1Map", {{0xFFFF, 0x2, 0x408}, {0xFFFF, 0x1001, 0x111C}, {0xFFFF, 0x6001, 0xF40A}, {0xFFFF, 0x2001, 0x4C20}}},
 };
+// clang-format on
 
 TEST(DumpLists, RegisterBlocks) {
     ASSERT_EQ(g_VQ6192_ChipDump_DirectReg_Cnt, 11u);
@@ -50,9 +42,9 @@ TEST(DumpLists, RegisterBlocks) {
         EXPECT_EQ(b.ucKind, 2);
         ASSERT_EQ(b.ucRangeNum, c.ranges.size());
         for (size_t r = 0; r < c.ranges.size(); ++r) {
-            EXPECT_EQ(b.astRange[r].usBase, c.ranges[r][0]);
-            EXPECT_EQ(b.astRange[r].usFirst, c.ranges[r][1]);
-            EXPECT_EQ(b.astRange[r].usLast, c.ranges[r][2]);
+            EXPECT_EQ(
+                (std::array<uint16_t, 3>{b.astRange[r].usBase, b.astRange[r].usFirst, b.astRange[r].usLast}),
+                c.ranges[r]);
         }
     }
 }

@@ -38,8 +38,19 @@ class Init : public ChipFixture {
     ClockBlock &clocks() { return model.block<ClockBlock>(); }
     DdrCtrlBlock &ddrCtrl() { return model.block<DdrCtrlBlock>(); }
 
-    static bool contains(const std::vector<std::string> &lines, const std::string &line) {
-        return std::find(lines.begin(), lines.end(), line) != lines.end();
+    static bool hasLineStarting(const Lines &lines, const std::string &prefix) {
+        return std::any_of(lines.begin(), lines.end(),
+                           [&](const std::string &s) { return s.rfind(prefix, 0) == 0; });
+    }
+    // The module initialisers in bring-up order, as the host would call them.
+    static void runInitialisers(uint32_t mode) {
+        EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, mode), 0u);
+        EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, mode), 0u);
+        EXPECT_EQ(VQ6192_PPP_InitPppModule(kChip, mode), 0u);
+        EXPECT_EQ(VQ6192_IMA_InitIma(kChip, mode), 0u);
+        EXPECT_EQ(VQ6192_CES_InitCesModule(kChip, mode), 0u);
+        EXPECT_EQ(VQ6192_Framer_FrmInit(kChip, mode, 0), 0u);
+        EXPECT_EQ(VQ6192_ETH_ETHInit(kChip, mode), 0u);
     }
     static bool wrote(const std::vector<BusAccess> &t, uint32_t addr) {
         return std::any_of(t.begin(), t.end(), [&](const BusAccess &a) {
@@ -57,25 +68,24 @@ class Init : public ChipFixture {
 TEST_F(Init, ParameterErrorsTouchNothing) {
     const uint16_t table[40] = {};
     uint8_t failed = 0;
-    expectRefused("mode 0", kBasePara, [] { return VQ6192_Base_Initialize(kChip, 0, 0, 0, 0, nullptr); });
-    expectRefused("mode 3", kBasePara, [] { return VQ6192_Base_Initialize(kChip, 3, 0, 0, 0, nullptr); });
-    expectRefused("ddr test 2", kBasePara, [] { return VQ6192_Base_Initialize(kChip, 1, 0, 2, 0, nullptr); });
-    expectRefused(
-        "chip 264", 0x08010001, [] { return VQ6192_Base_Initialize(264, 1, 0, 0, 0, nullptr); }, true);
-    expectRefused("null PLL table", kBasePara, [] { return VQ6192_Base_SetPLLCfg(kChip, nullptr); });
-    expectRefused(
-        "chip 264 PLL", 0x08010001, [&] { return VQ6192_Base_SetPLLCfg(264, table); }, true);
-    expectRefused("null DDR flag", kBasePara, [] { return VQ6192_Base_InitDDR(kChip, nullptr, nullptr); });
-    expectRefused(
-        "chip 264 DDR", 0x08010001, [&] { return VQ6192_Base_InitDDR(264, &failed, nullptr); }, true);
-    expectRefused("reset mode 3", kBasePara, [] { return VQ6192_Base_ResetChip(kChip, 3); });
-    expectRefused("soft reset 2", kBasePara, [] { return VQ6192_Base_SetSoftResetModule(kChip, 1, 2); });
-    expectRefused("clock enable 2", kBasePara, [] { return VQ6192_Base_SetModuleClkEn(kChip, 1, 2); });
-    // Reset modes 0 and 2 are accepted and do nothing.
-    expectRefused(
-        "reset mode 0", 0, [] { return VQ6192_Base_ResetChip(kChip, 0); }, true);
-    expectRefused(
-        "reset mode 2", 0, [] { return VQ6192_Base_ResetChip(kChip, 2); }, true);
+    // clang-format off
+    expectRefused({
+        {"mode 0", kBasePara, [] { return VQ6192_Base_Initialize(kChip, 0, 0, 0, 0, nullptr); }},
+        {"mode 3", kBasePara, [] { return VQ6192_Base_Initialize(kChip, 3, 0, 0, 0, nullptr); }},
+        {"ddr test 2", kBasePara, [] { return VQ6192_Base_Initialize(kChip, 1, 0, 2, 0, nullptr); }},
+        {"chip 264", 0x08010001, [] { return VQ6192_Base_Initialize(264, 1, 0, 0, 0, nullptr); }, true},
+        {"null PLL table", kBasePara, [] { return VQ6192_Base_SetPLLCfg(kChip, nullptr); }},
+        {"chip 264 PLL", 0x08010001, [&] { return VQ6192_Base_SetPLLCfg(264, table); }, true},
+        {"null DDR flag", kBasePara, [] { return VQ6192_Base_InitDDR(kChip, nullptr, nullptr); }},
+        {"chip 264 DDR", 0x08010001, [&] { return VQ6192_Base_InitDDR(264, &failed, nullptr); }, true},
+        {"reset mode 3", kBasePara, [] { return VQ6192_Base_ResetChip(kChip, 3); }},
+        {"soft reset 2", kBasePara, [] { return VQ6192_Base_SetSoftResetModule(kChip, 1, 2); }},
+        {"clock enable 2", kBasePara, [] { return VQ6192_Base_SetModuleClkEn(kChip, 1, 2); }},
+        // Reset modes 0 and 2 are accepted and do nothing.
+        {"reset mode 0", 0, [] { return VQ6192_Base_ResetChip(kChip, 0); }, true},
+        {"reset mode 2", 0, [] { return VQ6192_Base_ResetChip(kChip, 2); }, true},
+    });
+    // clang-format on
 }
 
 // ---- PLLs --------------------------------------------------------------------------------------------
@@ -86,14 +96,12 @@ TEST_F(Init, PllRegisterSetsFromTheTables) {
         uint32_t divA, divB, combined, value16, value8;
     };
     // Rows of the E1 and T1 tables: w1, w2, w4 * 16 + w3, w7, w6.
-    const Pll e1[4] = {{0x20, 1, 0x20, 0x14, 0, 0},
-                       {0x40, 1, 0x23, 0x15, 0xA782, 0x5B},
-                       {0x60, 1, 0x3C, 0x13, 0, 0},
-                       {0x80, 1, 0x40, 0x14, 0, 0}};
-    const Pll t1[4] = {{0x20, 1, 0x20, 0x14, 0, 0},
-                       {0x40, 1, 0x24, 0x14, 0xDB57, 0xD1},
-                       {0x60, 1, 0x3C, 0x13, 0, 0},
-                       {0x80, 1, 0x40, 0x14, 0x81C3, 0}};
+    // clang-format off
+    const Pll e1[4] = {{0x20, 1, 0x20, 0x14, 0, 0}, {0x40, 1, 0x23, 0x15, 0xA782, 0x5B},
+                       {0x60, 1, 0x3C, 0x13, 0, 0}, {0x80, 1, 0x40, 0x14, 0, 0}};
+    const Pll t1[4] = {{0x20, 1, 0x20, 0x14, 0, 0}, {0x40, 1, 0x24, 0x14, 0xDB57, 0xD1},
+                       {0x60, 1, 0x3C, 0x13, 0, 0}, {0x80, 1, 0x40, 0x14, 0x81C3, 0}};
+    // clang-format on
     for (bool t1World : {false, true}) {
         SCOPED_TRACE(t1World ? "T1" : "E1");
         const Pll *plls = t1World ? t1 : e1;
@@ -127,12 +135,9 @@ TEST_F(Init, PllFieldsKeepNeighbourBitsAndOtherAlarms) {
     model.poke(0x6A, 0xFFFF);
     irq().raise(0x100, 0x0400);  // an unrelated local alarm stays latched
     EXPECT_EQ(VQ6192_Base_SetPLLCfg(kChip, &g_ausVQ6192E1PLLCfg[0][0]), 0u);
-    EXPECT_EQ(model.peek(0x40), 0xFFC1);
-    EXPECT_EQ(model.peek(0x42), 0xF023);
-    EXPECT_EQ(model.peek(0x44), 0xFF5B);
-    EXPECT_EQ(model.peek(0x4A), 0xFFFE);
-    EXPECT_EQ(model.peek(0x6A), 0xFFBE);  // bit 6 from PLL2 and PLL3, bit 0 PLL2's reset
-    EXPECT_EQ(model.peek(0x100), 0x0400);
+    // 0x6A: bit 6 from PLL2 and PLL3, bit 0 PLL2's reset.
+    EXPECT_EQ(peeks({0x40, 0x42, 0x44, 0x4A, 0x6A, 0x100}),
+              (U16s{0xFFC1, 0xF023, 0xFF5B, 0xFFFE, 0xFFBE, 0x0400}));
 }
 
 TEST_F(Init, UnlockedPllFailsButTheOthersAreProgrammed) {
@@ -179,6 +184,7 @@ TEST_F(Init, SoftResetAndClockEnableBits) {
         uint32_t module, value, reg;
         uint16_t before, after;
     };
+    // clang-format off
     const Case cases[] = {
         {"reset 0 on", false, 0, 1, 0x0A, 0x8000, 0x8001},
         {"reset 15 off", false, 15, 0, 0x0A, 0xFFFF, 0x7FFF},
@@ -190,6 +196,7 @@ TEST_F(Init, SoftResetAndClockEnableBits) {
         {"clock 15 off", true, 15, 0, 0x08, 0xFFFF, 0xFFFE},
         {"clock 20 on", true, 20, 1, 0x08, 0x8000, 0x8020},
     };
+    // clang-format on
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         model.poke(c.reg, c.before);
@@ -202,12 +209,12 @@ TEST_F(Init, SoftResetAndClockEnableBits) {
 
 // ---- DDR start-up ----------------------------------------------------------------------------------------
 
-// The start-up sequence of a healthy DDR with the first setting, CAS latency 6.
+// The start-up sequence of a healthy DDR, the address map registers starting at all ones.
 std::vector<BusAccess> healthyDdrWrites(uint16_t config, uint16_t timing1, uint16_t mode0) {
     std::vector<BusAccess> w;
     const uint16_t map[10] = {0x000, 0x180, 0x1C0, 0x4F9, 0x519, 0x6B7, 0x279, 0x100, 0x2F9, 0x278};
     for (uint32_t k = 0; k < 10; ++k) {
-        w.push_back(fw(0xC12C + 8 * k, map[k], 0, 11));
+        w.push_back(wr(0xC12C + 8 * k, 0xF800u | map[k]));  // bits 11..15 seeded by the test, kept
     }
     auto pair = [&](uint32_t reg, uint32_t lo, uint32_t hi) {
         w.insert(w.end(), {wr(reg, lo), wr(reg + 2, hi)});
@@ -219,23 +226,17 @@ std::vector<BusAccess> healthyDdrWrites(uint16_t config, uint16_t timing1, uint1
             pair(reg, v, 0);
         }
     }
-    pair(0xD058, 0x5000, 0x8471);
-    pair(0xD010, 0, 0);
-    pair(0xD010, 1, 0);
-    pair(0xD004, 0, 0);
-    pair(0xD014, mode0, 4);
-    pair(0xD018, 0, 0);
-    pair(0xD01C, 0x0611, 0x8140);
-    pair(0xD020, 0x0023, 0);
-    pair(0xD050, 0x1710, 0xC577);
-    pair(0xD054, timing1, 0xFF52);
-    pair(0xD058, 0x5061, 0x8471);
-    pair(0xD05C, 0xF4F4, 0xFFDF);
-    pair(0xD0AC, 0x0103, 0x0F10);
-    pair(0xD0F4, 1, 0);
-    pair(0xD200, 0x22, 0);
-    pair(0xD008, 1, 0);
-    pair(0xD01C, 0x0611, 0x8141);
+    // Register, low and high half, in order.
+    // clang-format off
+    const uint32_t rest[17][3] = {
+        {0xD058, 0x5000, 0x8471}, {0xD010, 0, 0}, {0xD010, 1, 0}, {0xD004, 0, 0}, {0xD014, mode0, 4}, {0xD018, 0, 0},
+        {0xD01C, 0x0611, 0x8140}, {0xD020, 0x0023, 0}, {0xD050, 0x1710, 0xC577}, {0xD054, timing1, 0xFF52},
+        {0xD058, 0x5061, 0x8471}, {0xD05C, 0xF4F4, 0xFFDF}, {0xD0AC, 0x0103, 0x0F10}, {0xD0F4, 1, 0}, {0xD200, 0x22, 0},
+        {0xD008, 1, 0}, {0xD01C, 0x0611, 0x8141}};
+    // clang-format on
+    for (const auto &p : rest) {
+        pair(p[0], p[1], p[2]);
+    }
     return w;
 }
 
@@ -248,21 +249,21 @@ TEST_F(Init, DdrStartSequenceForBothSettings) {
         uint16_t config, timing1, mode0;
         std::vector<std::string> traces;
     };
+    // clang-format off
     const Case cases[] = {
         {"first setting", nullptr, 6, 0x0122, 0x5641, 0x1720, {}},
         {"second setting", &option, 6, 0x0142, 0x5669, 0x1720, {}},
-        {"CL 17 falls back to 6",
-         nullptr,
-         17,
-         0x0122,
-         0x5641,
-         0x1720,
+        {"CL 17 falls back to 6", nullptr, 17, 0x0122, 0x5641, 0x1720,
          {"Err. VQ6192_Base_InitDDR.  g_wVq6192DdrCl[0x11] Err. g_wVq6192DdrCl set to 6 \r\n"}},
         {"CL 16", nullptr, 16, 0x0122, 0x5041, 0x1741, {}},  // code 9: bit 0 and (9 * 8) & 0x70
     };
+    // clang-format on
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         g_ulVq6192DdrCl = c.cl;
+        for (uint32_t k = 0; k < 10; ++k) {
+            model.poke(0xC12C + 8 * k, 0xFFFF);
+        }
         capture.clear();
         VQ6192_Platform_ResetVirtualTime();
         uint8_t failed = 9;
@@ -287,26 +288,14 @@ TEST_F(Init, DdrStartFailures) {
         std::vector<std::string> traces;
     };
     const uint32_t never = DdrCtrlBlock::kForever;
+    // clang-format off
     const Case cases[] = {
         {"ready at the third poll", 2, 0, 15, 0, 0, 0, {}},
         {"never ready", never, 0, 15, 0, kBaseTimeout, 1, {"Err. VQ6192_Base_InitDDR.  TimeOut \r\n"}},
-        {"training short",
-         0,
-         0,
-         14,
-         0,
-         kBaseFailed,
-         1,
-         {"Err. VQ6192_Base_InitDDR.  DDR Init Dtr Err[e00]. \r\n"}},
-        {"training short, product fallback",
-         0,
-         0,
-         0,
-         1,
-         0,
-         0,
-         {"Err. VQ6192_Base_InitDDR.  DDR Init Dtr Err[0]. \r\n"}},
+        {"training short", 0, 0, 14, 0, kBaseFailed, 1, {"Err. VQ6192_Base_InitDDR.  DDR Init Dtr Err[e00]. \r\n"}},
+        {"training short, product fallback", 0, 0, 0, 1, 0, 0, {"Err. VQ6192_Base_InitDDR.  DDR Init Dtr Err[0]. \r\n"}},
     };
+    // clang-format on
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         ddrCtrl().setBusyReads(c.busyReads, c.fromStart);
@@ -379,13 +368,7 @@ TEST_F(Init, WriteLevellingCorrection) {
 TEST_F(Init, FullBringUpOrderAndWaits) {
     // The initialisers' own waits, measured alone.
     VQ6192_Platform_ResetVirtualTime();
-    ASSERT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 1), 0u);
-    ASSERT_EQ(VQ6192_ATM_InitAtm(kChip, 1), 0u);
-    ASSERT_EQ(VQ6192_PPP_InitPppModule(kChip, 1), 0u);
-    ASSERT_EQ(VQ6192_IMA_InitIma(kChip, 1), 0u);
-    ASSERT_EQ(VQ6192_CES_InitCesModule(kChip, 1), 0u);
-    ASSERT_EQ(VQ6192_Framer_FrmInit(kChip, 1, 0), 0u);
-    ASSERT_EQ(VQ6192_ETH_ETHInit(kChip, 1), 0u);
+    runInitialisers(1);
     const uint64_t initialisers = VQ6192_Platform_GetVirtualTimeUs();
 
     model.poke(0x06, 0x8020);
@@ -405,8 +388,7 @@ TEST_F(Init, FullBringUpOrderAndWaits) {
     for (size_t i = 1; i < std::size(landmarks); ++i) {
         EXPECT_LT(firstAccess(t, landmarks[i - 1]), firstAccess(t, landmarks[i])) << std::hex << landmarks[i];
     }
-    EXPECT_EQ(model.peek(0x06), 0xFFDF);
-    EXPECT_EQ(model.peek(0x08), 0xFFC0);
+    EXPECT_EQ(peeks({0x06, 0x08}), (U16s{0xFFDF, 0xFFC0}));
     EXPECT_EQ(model.peek(0x0A) & 0x3000, 0);
     EXPECT_EQ(clocks().serdesLockReads(), 1u);
 }
@@ -420,37 +402,45 @@ TEST_F(Init, MacPortsGetPreamblesThenComeUp) {
     // Stopped right after the clocks: preambles of 3 written, ports still disabled.
     model.block<vq6192::sim::ChipControlBlock>().setNonInvertingBits(0xFFFF);
     EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), kStepFailed);
-    for (uint32_t port : {1u, 2u}) {
-        SCOPED_TRACE(port);
-        EXPECT_EQ(mac.reg(port, 13), 0xFFE3E3E3u);
-        EXPECT_EQ(mac.reg(port, 105), 0xFFFFFFFEu);
-    }
+    using U32s = std::vector<uint32_t>;
+    EXPECT_EQ((U32s{mac.reg(1, 13), mac.reg(2, 13), mac.reg(1, 105), mac.reg(2, 105)}),
+              (U32s{0xFFE3E3E3u, 0xFFE3E3E3u, 0xFFFFFFFEu, 0xFFFFFFFEu}));
     control().setNonInvertingBits(0);
     EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), 0u);
-    for (uint32_t port : {1u, 2u}) {
-        SCOPED_TRACE(port);
-        EXPECT_EQ(mac.reg(port, 105), 0xFFFFFFFFu);
-    }
+    EXPECT_EQ((U32s{mac.reg(1, 105), mac.reg(2, 105)}), (U32s{0xFFFFFFFFu, 0xFFFFFFFFu}));
 }
 
+// Whole-register values of the SerDes start, from SerDes registers at 0 and at 0xFFFF: 0x200 keeps
+// bit 3 while bit 12 comes and goes, and every field write leaves the register's other bits as they were.
 TEST_F(Init, SerdesStartSequence) {
-    model.stickBits(0x0A, 0x0005, 0x0005);  // reset bits that stay set keep their place
-    const auto w = writes(traced([&] { EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 1, 0, 0, nullptr), 0u); }));
-    const auto from = std::find(w.begin(), w.end(), wr(0x200, 0x1000)) - 1;
-    ASSERT_GE(w.end() - from, 29);
-    // Whole-register values: 0x200 keeps bit 3 while bit 12 comes and goes.
-    EXPECT_EQ(std::vector<BusAccess>(from, from + 29),
-              (std::vector<BusAccess>{
-                  wr(0x0A, 0x3005),  wr(0x200, 0x1000), wr(0x200, 0x1008), wr(0x1E, 0x0001),   //
-                  wr(0x208, 0x0003), wr(0x20A, 0),      wr(0x212, 0x0003), wr(0x214, 0),       //
-                  wr(0x20C, 0),      wr(0x216, 0),      wr(0x200, 0x0008), wr(0x202, 0x0001),  //
-                  wr(0x202, 0),      wr(0x202, 0),      wr(0x206, 0),      wr(0x210, 0),       //
-                  wr(0x206, 0x0020), wr(0x210, 0x0020), wr(0x202, 0x0010), wr(0x202, 0),       //
-                  wr(0x206, 0),      wr(0x210, 0),      wr(0x20C, 0),      wr(0x216, 0),       //
-                  wr(0x20A, 0x0002), wr(0x214, 0x0002), wr(0x20A, 0),      wr(0x214, 0),       //
-                  wr(0x0A, 0x0005),
-              }));
-    model.clearStuckBits();
+    const uint32_t serdes[] = {0x1E, 0x200, 0x202, 0x206, 0x208, 0x20A, 0x20C, 0x210, 0x212, 0x214, 0x216};
+    // clang-format off
+    const std::vector<BusAccess> fromZero = {
+        wr(0x0A, 0x3005),  wr(0x200, 0x1000), wr(0x200, 0x1008), wr(0x1E, 0x0001),  wr(0x208, 0x0003), wr(0x20A, 0),
+        wr(0x212, 0x0003), wr(0x214, 0),      wr(0x20C, 0),      wr(0x216, 0),      wr(0x200, 0x0008), wr(0x202, 0x0001),
+        wr(0x202, 0),      wr(0x202, 0),      wr(0x206, 0),      wr(0x210, 0),      wr(0x206, 0x0020), wr(0x210, 0x0020),
+        wr(0x202, 0x0010), wr(0x202, 0),      wr(0x206, 0),      wr(0x210, 0),      wr(0x20C, 0),      wr(0x216, 0),
+        wr(0x20A, 0x0002), wr(0x214, 0x0002), wr(0x20A, 0),      wr(0x214, 0),      wr(0x0A, 0x0005)};
+    const std::vector<BusAccess> fromOnes = {
+        wr(0x0A, 0x3005),  wr(0x200, 0xFFFF), wr(0x200, 0xFFFF), wr(0x1E, 0xFFFF),  wr(0x208, 0xFFE3), wr(0x20A, 0xFFCF),
+        wr(0x212, 0xFFE3), wr(0x214, 0xFFCF), wr(0x20C, 0xFFFD), wr(0x216, 0xFFFD), wr(0x200, 0xEFFF), wr(0x202, 0xFFFF),
+        wr(0x202, 0xFFFE), wr(0x202, 0xFFF6), wr(0x206, 0xFFEF), wr(0x210, 0xFFEF), wr(0x206, 0xFFEF), wr(0x210, 0xFFEF),
+        wr(0x202, 0xFFF6), wr(0x202, 0xFFE6), wr(0x206, 0xFFCF), wr(0x210, 0xFFCF), wr(0x20C, 0xFFFD), wr(0x216, 0xFFFD),
+        wr(0x20A, 0xFFCF), wr(0x214, 0xFFCF), wr(0x20A, 0xFFCD), wr(0x214, 0xFFCD), wr(0x0A, 0x0005)};
+    // clang-format on
+    for (const auto &[seed, expected] : {std::pair{0x0000, fromZero}, {0xFFFF, fromOnes}}) {
+        SCOPED_TRACE(seed);
+        model.stickBits(0x0A, 0x0005, 0x0005);  // reset bits that stay set keep their place
+        for (uint32_t reg : serdes) {
+            model.poke(reg, static_cast<uint16_t>(seed));
+        }
+        const auto w =
+            writes(traced([&] { EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 1, 0, 0, nullptr), 0u); }));
+        const auto from = std::find(w.begin(), w.end(), wr(0x0A, 0x3005));
+        ASSERT_GE(w.end() - from, 29);
+        EXPECT_EQ(std::vector<BusAccess>(from, from + 29), expected);
+        model.clearStuckBits();
+    }
 }
 
 TEST_F(Init, SerdesLockIsWaitedForButNotRequired) {
@@ -488,32 +478,30 @@ TEST_F(Init, BringUpFailures) {
         std::function<void()> fault;
         uint32_t tdm, ddrTest, frmOption;
         uint32_t rc;
-        std::string trace;  // a line the failure traces, or the name of the failing call
+        std::string trace;  // a line the failure traces, or its start
     };
+    const auto stuck = vq6192::sim::TableEngine::kForever;
+    const std::string step = "Err. VQ6192_Base_Initialize.  ";
+    // clang-format off
     const Case cases[] = {
         {"PLL2 unlocked", [this] { clocks().setPllLocked(2, false); }, 0, 0, 0, kStepFailed,
          "Err. VQ6192_Base_SetPLLCfg.  SetPLL2, ChkTime[0x1], PLL Stat[0x4]\n, ErrCode[0x3010003]\r\n"},
-        {"TDM mode refused", [] {}, 2, 0, 0, kStepFailed,
-         "Err. VQ6192_Base_Initialize.  VQ6192_Framer_SetFrmTDMMode ErrCode[0x30e0001]\r\n"},
+        {"TDM mode refused", [] {}, 2, 0, 0, kStepFailed, step + "VQ6192_Framer_SetFrmTDMMode ErrCode[0x30e0001]\r\n"},
         {"register test", [this] { control().setNonInvertingBits(0xFFFF); }, 0, 0, 0, kStepFailed,
-         "Err. VQ6192_Base_Initialize.  VQ6192_Base_GetChipStatus ErrCode[0x3010007]\r\n"},
-        {"DDR never ready", [this] { ddrCtrl().setBusyReads(DdrCtrlBlock::kForever); }, 0, 0, 0,
-         kDdrStartFailed, "Err. VQ6192_Base_InitDDR.  TimeOut \r\n"},
+         step + "VQ6192_Base_GetChipStatus ErrCode[0x3010007]\r\n"},
+        {"DDR never ready", [this] { ddrCtrl().setBusyReads(DdrCtrlBlock::kForever); }, 0, 0, 0, kDdrStartFailed,
+         "Err. VQ6192_Base_InitDDR.  TimeOut \r\n"},
         {"DDR training", [this] { ddrCtrl().setTraining(7); }, 0, 0, 0, kDdrStartFailed,
          "Err. VQ6192_Base_InitDDR.  DDR Init Dtr Err[700]. \r\n"},
-        {"DDR scan error",
-         [this] {
-             ddr().failScan(0x100, 2, {0, 0, 0, 0});
-         },
-         0, 1, 0, kStepFailed,
-         "Err. VQ6192_Base_Initialize.  VQ6192_Base_DDR9StepTest ErrCode[0x3010007]\r\n"},
-        {"MAC tables stuck", [this] { model.tables().holdBusy(0x4000, vq6192::sim::TableEngine::kForever); },
-         0, 0, 0, kStepFailed, "VQ6192_ETH_SetMACAttr"},
-        {"CES tables stuck", [this] { model.tables().holdBusy(0xA000, vq6192::sim::TableEngine::kForever); },
-         0, 0, 0, kStepFailed, "VQ6192_CES_InitCesModule"},
-        {"framer option low byte 2", [] {}, 0, 0, 0x0102, kStepFailed,
-         "Err. VQ6192_Base_Initialize.  VQ6192_Framer_FrmInit ErrCode[0x30e0001]\r\n"},
+        {"DDR scan error", [this] { ddr().failScan(0x100, 2, {0, 0, 0, 0}); }, 0, 1, 0, kStepFailed,
+         step + "VQ6192_Base_DDR9StepTest ErrCode[0x3010007]\r\n"},
+        {"MAC tables stuck", [&] { model.tables().holdBusy(0x4000, stuck); }, 0, 0, 0, kStepFailed,
+         step + "VQ6192_ETH_SetMACAttr ErrCode["},
+        {"CES tables stuck", [&] { model.tables().holdBusy(0xA000, stuck); }, 0, 0, 0, kStepFailed,
+         step + "VQ6192_CES_InitCesModule ErrCode["},
+        {"framer option low byte 2", [] {}, 0, 0, 0x0102, kStepFailed, step + "VQ6192_Framer_FrmInit ErrCode[0x30e0001]\r\n"},
     };
+    // clang-format on
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         c.fault();
@@ -521,21 +509,13 @@ TEST_F(Init, BringUpFailures) {
         const auto t = traced([&] {
             EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, c.tdm, c.ddrTest, c.frmOption, nullptr), c.rc);
         });
-        if (c.trace.rfind("Err. ", 0) == 0) {
-            EXPECT_TRUE(contains(capture.traceTexts(), c.trace))
-                << ::testing::PrintToString(capture.traceTexts());
-            for (const auto &line : capture.traces) {
-                if (line.text.rfind("Err. VQ6192_Base_", 0) == 0) {  // the chip module's own lines
-                    EXPECT_EQ(line.module, 1u);
-                    EXPECT_EQ(line.level, 4u);
-                }
+        EXPECT_TRUE(hasLineStarting(capture.traceTexts(), c.trace))
+            << ::testing::PrintToString(capture.traceTexts());
+        for (const auto &line : capture.traces) {
+            if (line.text.rfind("Err. VQ6192_Base_", 0) == 0) {  // the chip module's own lines
+                EXPECT_EQ(line.module, 1u);
+                EXPECT_EQ(line.level, 4u);
             }
-        } else {
-            const std::string prefix = "Err. VQ6192_Base_Initialize.  " + c.trace + " ErrCode[";
-            const auto texts = capture.traceTexts();
-            EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [&](const std::string &s) {
-                return s.rfind(prefix, 0) == 0;
-            })) << ::testing::PrintToString(texts);
         }
         // Bring-up stops at the failing step: the SerDes are never started.
         EXPECT_FALSE(wrote(t, 0x200));
@@ -554,15 +534,7 @@ TEST_F(Init, BringUpFailures) {
 }
 
 TEST_F(Init, RestoreRunsOnlyTheModuleInitialisers) {
-    const auto direct = traced([&] {
-        EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 2), 0u);
-        EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 2), 0u);
-        EXPECT_EQ(VQ6192_PPP_InitPppModule(kChip, 2), 0u);
-        EXPECT_EQ(VQ6192_IMA_InitIma(kChip, 2), 0u);
-        EXPECT_EQ(VQ6192_CES_InitCesModule(kChip, 2), 0u);
-        EXPECT_EQ(VQ6192_Framer_FrmInit(kChip, 2, 0), 0u);
-        EXPECT_EQ(VQ6192_ETH_ETHInit(kChip, 2), 0u);
-    });
+    const auto direct = traced([&] { runInitialisers(2); });
     VQ6192_Platform_ResetVirtualTime();
     const auto restore = traced([&] { EXPECT_EQ(VQ6192_Base_Initialize(kChip, 2, 1, 1, 0, nullptr), 0u); });
     EXPECT_EQ(restore, direct);
@@ -594,10 +566,8 @@ TEST_F(Init, MacPortFailuresAreToldApart) {
         }
     }
     EXPECT_EQ(seen, (std::vector<uint32_t>{kStepFailed, kBaseFailed, 0}));
-    const auto texts = capture.traceTexts();
-    EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [](const std::string &s) {
-        return s.rfind("Err. VQ6192_Base_Initialize.  VQ6192_ETH_SetMACAttr ErrCode[", 0) == 0;
-    }));
+    EXPECT_TRUE(hasLineStarting(capture.traceTexts(),
+                                "Err. VQ6192_Base_Initialize.  VQ6192_ETH_SetMACAttr ErrCode["));
 }
 
 }  // namespace

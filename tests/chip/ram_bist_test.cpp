@@ -6,8 +6,10 @@ namespace {
 using namespace chiptest;
 using RamBist = ChipFixture;
 
-// PLL2 restart: hold, reset, release reset, release hold (read-modify-writes of 0x6A from 0).
-const std::vector<BusAccess> kPll2Restart = {wr(0x6A, 0x80), wr(0x6A, 0x81), wr(0x6A, 0x80), wr(0x6A, 0x00)};
+// PLL2 restart: hold (bit 7), reset (bit 0), release reset, release hold, as read-modify-writes of
+// 0x6A from 0xFF7E: every other bit of the register stays set.
+const std::vector<BusAccess> kPll2Restart = {wr(0x6A, 0xFFFE), wr(0x6A, 0xFFFF), wr(0x6A, 0xFFFE),
+                                             wr(0x6A, 0xFF7E)};
 
 std::vector<BusAccess> concat(std::initializer_list<std::vector<BusAccess>> parts) {
     std::vector<BusAccess> out;
@@ -21,6 +23,7 @@ std::vector<BusAccess> concat(std::initializer_list<std::vector<BusAccess>> part
 TEST_F(RamBist, HealthyBlockPassesWithTheFullSequenceAndItsWaits) {
     model.poke(0x62, 0xF123);
     model.poke(0x100, 0xA800);
+    model.poke(0x6A, 0xFF7E);
     uint8_t failed = 9;
     VQ6192_Platform_ResetVirtualTime();
     const auto t = writes(traced([&] { EXPECT_EQ(VQ6192_Base_RamBistTest(kChip, 3, &failed), 0u); }));
@@ -50,29 +53,18 @@ TEST_F(RamBist, VerdictsStatusesTextsAndWaits) {
         uint64_t us;
         std::vector<std::string> texts;
     };
+    // clang-format off
     const Case cases[] = {
         {"healthy", false, 0, false, 0, 0, kHealthyUs, {}},
         {"block fails", true, 0, false, 0, 1, kHealthyUs, {}},
         {"done at the third poll", false, 2, false, 0, 0, kHealthyUs + 2 * 40000, {}},
-        {"never done",
-         false,
-         vq6192::sim::RamBistBlock::kForever,
-         false,
-         kBaseTimeout,
-         1,
-         3 + 1 + 20000 + 1000 + 3 * 40000,
+        {"never done", false, vq6192::sim::RamBistBlock::kForever, false, kBaseTimeout, 1, 3 + 1 + 20000 + 1000 + 3 * 40000,
          {"Err. VQ6192_Base_RamBistTest.  RamBistTest can't finish. ErrCode[0x3010003]\r\n"}},
-        {"PLL2 stays out of lock",
-         false,
-         0,
-         true,
-         kBaseTimeout,
-         0,
-         kHealthyUs + 2 * 2,
+        {"PLL2 stays out of lock", false, 0, true, kBaseTimeout, 0, kHealthyUs + 2 * 2,
          {"Err. VQ6192_Base_RamBistTest.  Fst eMdl[0x5], ChkTime[0x3], PLL Stat[0x1], ErrCode[0x3010003]\r\n",
-          "Err. VQ6192_Base_RamBistTest.  Sec eMdl[0x5], ChkTime[0x3], PLL Stat[0x1] "
-          "ErrCode[0x3010003]\r\n"}},
+          "Err. VQ6192_Base_RamBistTest.  Sec eMdl[0x5], ChkTime[0x3], PLL Stat[0x1] ErrCode[0x3010003]\r\n"}},
     };
+    // clang-format on
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         bist().setFailing(5, c.fail);
@@ -89,9 +81,7 @@ TEST_F(RamBist, VerdictsStatusesTextsAndWaits) {
         EXPECT_EQ(failed, c.failed);
         EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), c.us);
         EXPECT_EQ(capture.traceTexts(), c.texts);
-        // The test mode is always switched off again.
-        EXPECT_EQ(model.peek(0xA0), 0);
-        EXPECT_EQ(model.peek(0xA2), 0);
+        EXPECT_EQ(peeks({0xA0, 0xA2}), (U16s{0, 0})) << "the test mode is always switched off again";
     }
 }
 
@@ -121,29 +111,20 @@ TEST_F(RamBist, AllBlocksReportAMaskAndATable) {
     capture.clear();
     EXPECT_EQ(VQ6192_Base_RamBist(kChip), 0x102u);
     EXPECT_EQ(capture.traceTexts(),
-              (std::vector<std::string>{
-                  "Err. VQ6192_Base_RamBistTest.  RamBistTest can't finish. ErrCode[0x3010003]\r\n",
-                  "-------------------------------------MBIST ulChipID(3):\n",
-                  "  MDL       Result(0-ok, 1-fail)\n",
-                  "  ATM          0\n",
-                  "  MPTX          1\n",
-                  "  MPRX          0\n",
-                  "  CES          0\n",
-                  "  ETH          0\n",
-                  "  SAM          0\n",
-                  "  FRM          0\n",
-                  "  OHP          0\n",
-                  "  DDR2C        1\n",
-              }));
+              // clang-format off
+              (Lines{"Err. VQ6192_Base_RamBistTest.  RamBistTest can't finish. ErrCode[0x3010003]\r\n",
+                     "-------------------------------------MBIST ulChipID(3):\n", "  MDL       Result(0-ok, 1-fail)\n",
+                     "  ATM          0\n", "  MPTX          1\n", "  MPRX          0\n", "  CES          0\n",
+                     "  ETH          0\n", "  SAM          0\n", "  FRM          0\n", "  OHP          0\n",
+                     "  DDR2C        1\n"}));
+    // clang-format on
 }
 
 TEST_F(RamBist, ParameterErrors) {
     uint8_t failed = 0;
-    expectRefused("null failed", kBasePara, [&] { return VQ6192_Base_RamBistTest(kChip, 0, nullptr); });
-    expectRefused("block 9", kBasePara, [&] { return VQ6192_Base_RamBistTest(kChip, 9, &failed); });
-    expectRefused(
-        "chip 264", 0x08010001, [&] { return VQ6192_Base_RamBistTest(264, 0, &failed); }, true);
-    capture.clear();
+    expectRefused({{"null failed", kBasePara, [&] { return VQ6192_Base_RamBistTest(kChip, 0, nullptr); }},
+                   {"block 9", kBasePara, [&] { return VQ6192_Base_RamBistTest(kChip, 9, &failed); }},
+                   {"chip 264", 0x08010001, [&] { return VQ6192_Base_RamBistTest(264, 0, &failed); }, true}});
     EXPECT_EQ(VQ6192_Base_RamBist(264), 0x1FFu);  // nothing tested: every block reported failed
 }
 

@@ -10,21 +10,13 @@ using vqtest::ChipTest;
 using vqtest::outstandingAllocations;
 using vqtest::PlatformCapture;
 
-uint32_t hookA(uint32_t) {
-    return 0;
-}
-uint32_t hookB(uint32_t) {
-    return 0;
-}
-uint32_t hookC(uint32_t) {
-    return 1;
-}
-uint32_t write16(uintptr_t, uint32_t, uint16_t) {
-    return 0;
-}
-uint32_t read16(uintptr_t, uint32_t, uint16_t *) {
-    return 0;
-}
+// clang-format off
+uint32_t hookA(uint32_t) { return 0; }
+uint32_t hookB(uint32_t) { return 0; }
+uint32_t hookC(uint32_t) { return 1; }
+uint32_t write16(uintptr_t, uint32_t, uint16_t) { return 0; }
+uint32_t read16(uintptr_t, uint32_t, uint16_t *) { return 0; }
+// clang-format on
 
 VQ6192_INSTALL_PARA fullRecord(uint32_t chip) {
     VQ6192_INSTALL_PARA p{};
@@ -93,18 +85,13 @@ TEST_F(InstallTest, CopiesTheRecordAndStartsClean) {
     EXPECT_EQ(rec.pfnIndirectRead16, read16);
     EXPECT_EQ(rec.ulIndirectHandle, p.ulIndirectHandle);
     EXPECT_EQ(rec.pfnCardPresent, hookC);
-    EXPECT_EQ(rec.ulAddrMultiple, 2u);
-    EXPECT_EQ(rec.ulRegIndirectFlag, 1u);
-    EXPECT_EQ(rec.ulDelayMode, 1u);
-    EXPECT_EQ(rec.ulSupportProductFlag, 1u);
-    for (uint32_t flag : rec.aulPrintFlag) {
-        EXPECT_EQ(flag, 14u);
-    }
-    for (uint32_t count : rec.aulRegFailInfo) {
-        EXPECT_EQ(count, 0u);
-    }
-    EXPECT_EQ(rec.aulMpChanCnt[200], 0u);
-    EXPECT_EQ(rec.ulLinkStatAccum, 0u);
+    using U32s = std::vector<uint32_t>;
+    EXPECT_EQ((U32s{rec.ulAddrMultiple, rec.ulRegIndirectFlag, rec.ulDelayMode, rec.ulSupportProductFlag}),
+              (U32s{2, 1, 1, 1}));
+    EXPECT_EQ(U32s(std::begin(rec.aulPrintFlag), std::end(rec.aulPrintFlag)),
+              U32s(std::size(rec.aulPrintFlag), 14));
+    EXPECT_EQ(U32s(std::begin(rec.aulRegFailInfo), std::end(rec.aulRegFailInfo)), U32s(4, 0));
+    EXPECT_EQ((U32s{rec.aulMpChanCnt[200], rec.ulLinkStatAccum}), (U32s{0, 0}));
     ASSERT_NE(rec.pSem, nullptr);
     ASSERT_NE(rec.pstDumpCtx, nullptr);
     EXPECT_EQ(rec.pstDumpCtx->ulRegBase, p.ulBaseAddr);

@@ -1,4 +1,5 @@
 // The chip lock around plain register accesses: order, failures, counters and log lines.
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -9,58 +10,89 @@ namespace {
 using vqtest::ChipTest;
 
 using LockTest = ChipTest;
+using Lines = std::vector<std::string>;
 
-TEST_F(LockTest, SemaphoreTakeFailureSkipsTheAccess) {
-    model.poke(0x10, 0x1234);
-    model.setTrace(true);
-    VQ6192_Platform_FailSemTakes(0, 2);
-    EXPECT_EQ(VQ6192_ReadReg(kChip, 0x10), 0u);
-    VQ6192_WriteReg(kChip, 0x10, 0x55);
-    EXPECT_TRUE(model.trace().empty());
-    EXPECT_EQ(model.peek(0x10), 0x1234);
-    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 2, 0, 0}));
-    EXPECT_EQ(model.arbitrationsTaken(), 0u);
-    EXPECT_EQ(capture.logTexts(),
-              (std::vector<std::string>{
-                  "chip 3 pwe3 write reg get sem fail,addr 0x10,val 0x0",
-                  "ReadRegdirect GetArbitrateFunc chip 3 pwe3 write reg get sem fail,addr 0x10,val 0x0",
-                  "chip 3 pwe3 write reg get sem fail,addr 0x10,val 0x55",
-                  "WriteRegIndirect chip 3 pwe3 write reg get sem fail,addr 0x10,val 0x55",
-              }));
-    for (const auto &line : capture.logs) {
-        EXPECT_EQ(line.mask, 2u);
+// Each way the lock fails, one access per row on register 0x10 (holding 0x1234) from a clean chip: the
+// result, the register afterwards, the log lines (all mask 2), the failure counters added, and
+// whether the bus was touched; afterwards the lock works again.
+TEST_F(LockTest, LockFailuresSkipOrFinishTheAccess) {
+    const std::string sem = "chip 3 pwe3 write reg get sem fail,addr 0x10,val ";
+    const auto r = [] { return VQ6192_ReadReg(kChip, 0x10); };
+    const auto w = [] {
+        VQ6192_WriteReg(kChip, 0x10, 0x55);
+        return 0u;
+    };
+    const auto d = [] { return VQ6192_WriteRegDirect(kChip, 0x10, 0x4321); };
+    const auto a = [] { return VQ6192_GetArbitrateFunc(kChip, 0x10, 0x20); };
+    struct Row {
+        const char *what;
+        bool indirect;
+        std::function<void()> arm;
+        std::function<uint32_t()> op;
+        uint32_t result;
+        uint16_t reg;
+        Lines logs;
+        std::vector<uint32_t> counters;  // arbitration, sem take, sem give, table time-out
+        bool busTouched;
+    };
+    // clang-format off
+    const Row rows[] = {
+        {"take fails", false, [] { VQ6192_Platform_FailSemTakes(0, 1); }, r, 0, 0x1234,
+         {sem + "0x0", "ReadRegdirect GetArbitrateFunc " + sem + "0x0"}, {0, 1, 0, 0}, false},
+        {"take fails", false, [] { VQ6192_Platform_FailSemTakes(0, 1); }, w, 0, 0x1234,
+         {sem + "0x55", "WriteRegIndirect " + sem + "0x55"}, {0, 1, 0, 0}, false},
+        {"indirect, take fails", true, [] { VQ6192_Platform_FailSemTakes(0, 1); }, r, 0, 0x1234,
+         {sem + "0x0", "ReadRegIndirect GetArbitrateFunc " + sem + "0x0"}, {0, 1, 0, 0}, false},
+        {"indirect, take fails", true, [] { VQ6192_Platform_FailSemTakes(0, 1); }, w, 0, 0x1234,
+         {sem + "0x55", "WriteRegIndirect " + sem + "0x55"}, {0, 1, 0, 0}, false},
+        // With a host read function the release result is ignored and the value still comes back.
+        {"give fails", false, [] { VQ6192_Platform_FailSemGives(0, 1); }, r, 0x1234, 0x1234,
+         {"chip 3 pwe3 write reg give sem fail,addr 0x10,val 0x1234"}, {0, 0, 1, 0}, true},
+        {"give fails", false, [] { VQ6192_Platform_FailSemGives(0, 1); }, d, 8, 0x4321,
+         {"chip 3 pwe3 write reg give sem fail,addr 0x10,val 0x4321"}, {0, 0, 1, 0}, true},
+        {"arbitration refused", false, [&] { model.refuseArbitration(1); }, a, 0x00010007, 0x1234,
+         {"chip 3 pwe3 write reg get attrb fail,addr 0x10,val 0x20"}, {1, 0, 0, 0}, false},
+        {"arbitration refused", false, [&] { model.refuseArbitration(1); }, r, 0, 0x1234,
+         {"chip 3 pwe3 write reg get attrb fail,addr 0x10,val 0x0", "ReadRegdirect GetArbitrateFunc " + sem + "0x0"},
+         {1, 0, 0, 0}, false},
+        // An absent card skips the access silently, releasing once.
+        {"card out", false, [&] { model.setCardPresent(false); }, r, 0, 0x1234, {}, {0, 0, 0, 0}, false},
+        {"card out", false, [&] { model.setCardPresent(false); }, w, 0, 0x1234, {}, {0, 0, 0, 0}, false},
+    };
+    // clang-format on
+    for (const Row &row : rows) {
+        SCOPED_TRACE(testing::Message() << row.what << ", row " << (&row - rows));
+        if (row.indirect != (VQ6192_GetRegIndirectFlag(kChip) != 0)) {
+            reinstall(model.installPara(kChip, row.indirect));
+        }
+        model.poke(0x10, 0x1234);
+        const std::vector<uint32_t> before = failCounters();
+        const uint64_t taken = model.arbitrationsTaken(), given = model.arbitrationsGiven();
+        capture.clear();
+        row.arm();
+        model.clearTrace();
+        model.setTrace(true);
+        const uint32_t result = row.op();
+        model.setTrace(false);
+        EXPECT_EQ(result, row.result);
+        EXPECT_EQ(model.peek(0x10), row.reg);
+        EXPECT_EQ(capture.logTexts(), row.logs);
+        for (const auto &line : capture.logs) {
+            EXPECT_EQ(line.mask, 2u);
+        }
+        std::vector<uint32_t> added = failCounters();
+        for (size_t k = 0; k < added.size(); ++k) {
+            added[k] -= before[k];
+        }
+        EXPECT_EQ(added, row.counters);
+        EXPECT_EQ(!model.trace().empty(), row.busTouched);
+        // The arbitration is given back as often as it was granted.
+        EXPECT_EQ(model.arbitrationsGiven() - given, model.arbitrationsTaken() - taken);
+        model.setCardPresent(true);
+        EXPECT_EQ(VQ6192_SemP(kChip, 0, 0), 0u) << "the semaphore was given back";
+        EXPECT_EQ(VQ6192_SemV(kChip, 0, 0), 0u);
+        EXPECT_EQ(VQ6192_ReadReg(kChip, 0x10), row.reg) << "the lock works again";
     }
-    EXPECT_EQ(VQ6192_ReadReg(kChip, 0x10), 0x1234u) << "the lock works again";
-}
-
-TEST_F(LockTest, IndirectPathLogsItsOwnTexts) {
-    reinstall(model.installPara(kChip, true));
-    VQ6192_Platform_FailSemTakes(0, 2);
-    EXPECT_EQ(VQ6192_ReadReg(kChip, 0x2), 0u);
-    VQ6192_WriteReg(kChip, 0x2, 7);
-    EXPECT_EQ(capture.logTexts(),
-              (std::vector<std::string>{
-                  "chip 3 pwe3 write reg get sem fail,addr 0x2,val 0x0",
-                  "ReadRegIndirect GetArbitrateFunc chip 3 pwe3 write reg get sem fail,addr 0x2,val 0x0",
-                  "chip 3 pwe3 write reg get sem fail,addr 0x2,val 0x7",
-                  "WriteRegIndirect chip 3 pwe3 write reg get sem fail,addr 0x2,val 0x7",
-              }));
-    EXPECT_EQ(model.peek(0x2), 0);
-}
-
-TEST_F(LockTest, SemaphoreGiveFailureIsCountedAndLogged) {
-    model.poke(0x10, 0x1234);
-    VQ6192_Platform_FailSemGives(0, 1);
-    // With a host read function the release result is ignored and the value still comes back.
-    EXPECT_EQ(VQ6192_ReadReg(kChip, 0x10), 0x1234u);
-    VQ6192_Platform_FailSemGives(0, 1);
-    EXPECT_EQ(VQ6192_WriteRegDirect(kChip, 0x10, 0x4321), 8u);
-    EXPECT_EQ(model.peek(0x10), 0x4321);
-    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 2, 0}));
-    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{
-                                      "chip 3 pwe3 write reg give sem fail,addr 0x10,val 0x1234",
-                                      "chip 3 pwe3 write reg give sem fail,addr 0x10,val 0x4321",
-                                  }));
 }
 
 TEST_F(LockTest, GiveFailureAfterAMappedReadYieldsZero) {
@@ -82,37 +114,11 @@ TEST_F(LockTest, GiveFailureAfterAMappedReadYieldsZero) {
     EXPECT_EQ(VQ6192_ReadReg(kChip, 0x20), 0xCAFEu);
 }
 
-TEST_F(LockTest, RefusedArbitrationGivesTheSemaphoreBack) {
-    model.poke(0x10, 0x1234);
-    model.setTrace(true);
-    model.refuseArbitration(1);
-    EXPECT_EQ(VQ6192_GetArbitrateFunc(kChip, 0x10, 0x20), 0x00010007u);
-    model.refuseArbitration(1);
-    EXPECT_EQ(VQ6192_ReadReg(kChip, 0x10), 0u);
-    EXPECT_TRUE(model.trace().empty());
-    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{2, 0, 0, 0}));
-    EXPECT_EQ(capture.logTexts()[0], "chip 3 pwe3 write reg get attrb fail,addr 0x10,val 0x20");
-    EXPECT_EQ(capture.logTexts()[1], "chip 3 pwe3 write reg get attrb fail,addr 0x10,val 0x0");
-    // The semaphore was given back each time: a table-style zero time-out take succeeds at once.
-    EXPECT_EQ(VQ6192_SemP(kChip, 0, 0), 0u);
-    EXPECT_EQ(VQ6192_SemV(kChip, 0, 0), 0u);
-}
-
-TEST_F(LockTest, AbsentCardSkipsTheAccessAndReleasesOnce) {
-    model.poke(0x10, 0x1234);
-    model.setTrace(true);
+TEST_F(LockTest, AbsentCardLockStepAnswersSuccessAndReleases) {
     model.setCardPresent(false);
-    EXPECT_EQ(VQ6192_ReadReg(kChip, 0x10), 0u);
-    VQ6192_WriteReg(kChip, 0x10, 1);
-    EXPECT_TRUE(model.trace().empty());
-    EXPECT_EQ(model.arbitrationsTaken(), 2u);
-    EXPECT_EQ(model.arbitrationsGiven(), 2u);
-    // The lock step itself answers success and has already released.
     EXPECT_EQ(VQ6192_GetArbitrateFunc(kChip, 0, 0), 0u);
-    EXPECT_EQ(model.arbitrationsGiven(), 3u);
-    model.setCardPresent(true);
-    EXPECT_EQ(VQ6192_ReadReg(kChip, 0x10), 0x1234u);
-    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 0, 0}));
+    EXPECT_EQ(model.arbitrationsTaken(), 1u);
+    EXPECT_EQ(model.arbitrationsGiven(), 1u);
     EXPECT_TRUE(capture.logs.empty());
 }
 

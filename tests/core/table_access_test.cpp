@@ -1,5 +1,6 @@
 // Table access on the chip model: every table round-trips through its block, the exact register
 // sequences, busy time-outs, lock failures and an absent card.
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@ using vq6192::sim::BusAccess;
 using vq6192::sim::BusOp;
 using vq6192::sim::TableEngine;
 using vqtest::ChipTest;
+using Lines = std::vector<std::string>;
 
 constexpr uint32_t kPri = 1;  // Atmpwe3pritab: block 0x5000, select 38, depth 32, 10 data registers
 
@@ -107,9 +109,6 @@ TEST_F(TableTest, WriteSequenceAndCost) {
     expected.push_back({BusOp::FieldRead, 0xA006, 0, 0, 1});   // done
     expected.push_back({BusOp::FieldWrite, 0xA004, 0, 0, 2});  // back to idle
     EXPECT_EQ(model.trace(), expected);
-    EXPECT_EQ(model.counters().fieldWrites, 10u + 5u) << "data16 + 5 field writes";
-    EXPECT_EQ(model.counters().fieldReads, 2u) << "two busy polls";
-    EXPECT_EQ(model.counters().reads + model.counters().writes, 0u);
     EXPECT_EQ(model.tables().writesExecuted(0x5000), 1u);
     EXPECT_EQ(model.arbitrationsTaken(), 1u);
     EXPECT_TRUE(lockFree());
@@ -137,8 +136,6 @@ TEST_F(TableTest, ReadSequenceAndCost) {
     }
     expected.push_back({BusOp::FieldWrite, 0xA004, 0, 0, 2});
     EXPECT_EQ(model.trace(), expected);
-    EXPECT_EQ(model.counters().fieldWrites, 5u);
-    EXPECT_EQ(model.counters().fieldReads, 10u + 2u) << "data16 reads + two busy polls";
 }
 
 TEST_F(TableTest, IndexChecksAndNullBuffers) {
@@ -178,130 +175,115 @@ TEST_F(TableTest, SingleRegisterTablesFillOnlyTheLowHalf) {
     EXPECT_EQ(entry[0], 0x1234BEEFu);
 }
 
-TEST_F(TableTest, BusyTimeOutAfterExactly500Polls) {
-    const uint32_t busy = 0x5003 * 2;
-    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
-    model.setTrace(true);
-
+// Every way a table access fails, one call per row from a clean chip, on Atmpwe3pritab entry 5: the
+// status, the log lines (mask 2), the trace lines, the failure counters it adds, the bus accesses it
+// makes, and whether the entry moved; the lock is always given back.
+TEST_F(TableTest, FailuresStatusesLogsAndCounters) {
+    const uint32_t forever = TableEngine::kForever;
+    const std::string pre = "chip 3 pwe3 ";
+    const std::string wTrace = "Err. VQ6192_Write_Table(3,1,5)       ",
+                      rTrace = "Err. VQ6192_Read_Table(3,1,5)       ";
+    struct Row {
+        const char *what;
+        char op;  // W write, R read, Q quiet read
+        std::function<void()> arm;
+        uint32_t status;
+        Lines logs;
+        std::optional<Lines> traces;
+        std::vector<uint32_t> counters;  // arbitration, sem take, sem give, time-out failures added
+        int busAccesses;                 // -1: not checked
+        int moved;                       // the entry reached the RAM or the buffer; -1: not checked
+    };
+    // clang-format off
+    const Row rows[] = {
+        {"busy before the command", 'W', [&] { model.tables().holdBusy(0x5000, forever); }, 0x030C0003,
+         {pre + "write table timeout,table 0x1,index 0x5"}, Lines{wTrace + "ErrCode[TimeOut]\r\n"}, {0, 0, 0, 1}, 500, 0},
+        {"busy before the command", 'R', [&] { model.tables().holdBusy(0x5000, forever); }, 0x030C0003,
+         {pre + "read table timeout,table 0x1,index 0x5"}, Lines{rTrace + "ErrCode[TimeOut]\r\n"}, {0, 0, 0, 1}, 500, 0},
+        {"busy after the command", 'W', [&] { model.tables().setCommandBusy(0x5000, forever); }, 0x030C0003,
+         {pre + "write table timeout1,table 0x1,index 0x5"}, Lines{"Err. VQ6192_Write_Table(3,1,5)      Step7 ErrCode[TimeOut]\r\n"},
+         {0, 0, 0, 1}, -1, 1},  // a write that timed out may have reached the RAM
+        {"busy after the command", 'R', [&] { model.tables().setCommandBusy(0x5000, forever); }, 0x030C0003,
+         {pre + "read table timeout1,table 0x1,index 0x5"}, Lines{rTrace + "ErrCode[TimeOut]\r\n"}, {0, 0, 0, 1}, -1, -1},
+        // A failing release after a time-out is a lock failure, not counted as a time-out.
+        {"time-out, release fails", 'W', [&] { model.tables().holdBusy(0x5000, forever); VQ6192_Platform_FailSemGives(0, 1); },
+         0x030C0008, {pre + "write table give sem1 fail,table 0x1,index 0x5"}, {}, {0, 0, 1, 0}, -1, 0},
+        {"time-out, release fails", 'R', [&] { model.tables().setCommandBusy(0x5000, forever); VQ6192_Platform_FailSemGives(0, 1); },
+         0x030C0008, {pre + "read table give sem2 fail,table 0x1,index 0x5"}, {}, {0, 0, 1, 0}, -1, -1},
+        {"semaphore refused", 'W', [] { VQ6192_Platform_FailSemTakes(0, 1); }, 0x030C0008,
+         {pre + "write table get sem fail,table 0x1,index 0x5"}, {}, {0, 1, 0, 0}, 0, 0},
+        {"semaphore refused", 'R', [] { VQ6192_Platform_FailSemTakes(0, 1); }, 0x030C0008,
+         {pre + "read table get sem fail,table 0x1,index 0x5"}, {}, {0, 1, 0, 0}, 0, 0},
+        {"arbitration refused", 'W', [&] { model.refuseArbitration(1); }, 0x030C0008,
+         {pre + "write table get attrb fail,table 0x1,index 0x5"}, {}, {1, 0, 0, 0}, 0, 0},
+        {"arbitration refused, release fails", 'R', [&] { model.refuseArbitration(1); VQ6192_Platform_FailSemGives(0, 1); },
+         0x030C0008, {pre + "read table get attrb fail,table 0x1,index 0x5", pre + "read table give sem fail,table 0x1,index 0x5"},
+         {}, {1, 0, 1, 0}, 0, 0},
+        // A failing final release still moves the data.
+        {"final release fails", 'W', [] { VQ6192_Platform_FailSemGives(0, 1); }, 0x030C0008,
+         {pre + "write table give sem3 fail,table 0x1,index 0x5"}, {}, {0, 0, 1, 0}, -1, 1},
+        {"final release fails", 'R', [] { VQ6192_Platform_FailSemGives(0, 1); }, 0x030C0008,
+         {pre + "read table give sem3 fail,table 0x1,index 0x5"}, {}, {0, 0, 1, 0}, -1, 1},
+        // An absent card ends the access quietly with success; the read's completion wait leaves silently.
+        {"card out before the command", 'W', [&] { model.setCardPresent(false); model.tables().holdBusy(0x5000, 1); }, 0,
+         {pre + "card out"}, {}, {0, 0, 0, 0}, 1, 0},
+        {"card out before the command", 'R', [&] { model.setCardPresent(false); model.tables().holdBusy(0x5000, 1); }, 0,
+         {pre + "card out"}, {}, {0, 0, 0, 0}, 1, 0},
+        {"card out after the command", 'W', [&] { model.tables().setCommandBusy(0x5000, 1); model.setCardPresent(false); }, 0,
+         {pre + "card out"}, {}, {0, 0, 0, 0}, -1, -1},
+        {"card out after the command", 'R', [&] { model.tables().setCommandBusy(0x5000, 1); model.setCardPresent(false); }, 0,
+         {}, {}, {0, 0, 0, 0}, -1, 0},
+        // The quiet read counts its failures but never logs or traces them.
+        {"quiet: busy before", 'Q', [&] { model.tables().holdBusy(0x5000, forever); }, 0x030C0003, {}, Lines{}, {0, 0, 0, 1}, -1, -1},
+        {"quiet: busy after", 'Q', [&] { model.tables().setCommandBusy(0x5000, forever); }, 0x030C0003, {}, Lines{}, {0, 0, 0, 1}, -1, -1},
+        {"quiet: semaphore", 'Q', [] { VQ6192_Platform_FailSemTakes(0, 1); }, 0x030C0008, {}, Lines{}, {0, 1, 0, 0}, 0, 0},
+        {"quiet: arbitration", 'Q', [&] { model.refuseArbitration(1); }, 0x030C0008, {}, Lines{}, {1, 0, 0, 0}, 0, 0},
+        {"quiet: card out", 'Q', [&] { model.setCardPresent(false); }, 0, {}, Lines{}, {0, 0, 0, 0}, -1, -1},
+    };
+    // clang-format on
+    for (const Row &r : rows) {
+        SCOPED_TRACE(testing::Message() << r.op << " " << r.what);
+        model.tables().setEntry(0x5000, 38, 5, TableEngine::Entry{0x4321});
+        uint32_t entry[VQ6192_TBL_MAX_WORDS] = {r.op == 'W' ? 0x1234u : 0x7777u};
+        const std::vector<uint32_t> before = failCounters();
+        capture.clear();
+        r.arm();
+        model.clearTrace();
+        model.setTrace(true);
+        const uint32_t rc = r.op == 'W'   ? VQ6192_Write_Table(kChip, kPri, 5, entry)
+                            : r.op == 'R' ? VQ6192_Read_Table(kChip, kPri, 5, entry)
+                                          : VQ6192_Read_Table_Pro(kChip, kPri, 5, entry);
+        model.setTrace(false);
+        EXPECT_EQ(rc, r.status);
+        EXPECT_EQ(capture.logTexts(), r.logs);
+        for (const auto &line : capture.logs) {
+            EXPECT_EQ(line.mask, 2u);
+        }
+        if (r.traces) {
+            EXPECT_EQ(capture.traceTexts(), *r.traces);
+        }
+        std::vector<uint32_t> added = failCounters();
+        for (size_t k = 0; k < added.size(); ++k) {
+            added[k] -= before[k];
+        }
+        EXPECT_EQ(added, r.counters);
+        if (r.busAccesses >= 0) {
+            EXPECT_EQ(model.trace().size(), static_cast<size_t>(r.busAccesses));
+        }
+        if (r.moved >= 0) {
+            const uint32_t now = r.op == 'W' ? model.tables().entry(0x5000, 38, 5)[0] : entry[0];
+            const uint32_t moved = r.op == 'W' ? 0x1234 : 0x4321, kept = r.op == 'W' ? 0x4321 : 0x7777;
+            EXPECT_EQ(now, r.moved != 0 ? moved : kept);
+        }
+        model.tables().holdBusy(0x5000, 0);
+        model.tables().setCommandBusy(0x5000, 0);
+        model.setCardPresent(true);
+        EXPECT_TRUE(lockFree());
+    }
     // 499 busy polls: the 500th finds the block idle.
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
     model.tables().holdBusy(0x5000, 499);
     EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0u);
-
-    model.clearTrace();
-    model.tables().holdBusy(0x5000, TableEngine::kForever);
-    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0x030C0003u);
-    EXPECT_EQ(busyPolls(busy), 500u);
-    EXPECT_EQ(model.trace().size(), 500u) << "nothing but polls";
-    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 5, entry), 0x030C0003u);
-    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 0, 2}));
-    EXPECT_TRUE(lockFree());
-    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{
-                                      "chip 3 pwe3 write table timeout,table 0x1,index 0x5",
-                                      "chip 3 pwe3 read table timeout,table 0x1,index 0x5",
-                                  }));
-    EXPECT_EQ(capture.traceTexts(), (std::vector<std::string>{
-                                        "Err. VQ6192_Write_Table(3,1,5)       ErrCode[TimeOut]\r\n",
-                                        "Err. VQ6192_Read_Table(3,1,5)       ErrCode[TimeOut]\r\n",
-                                    }));
-}
-
-TEST_F(TableTest, BusyTimeOutAfterTheCommand) {
-    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
-    model.tables().setCommandBusy(0x5000, TableEngine::kForever);
-    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 6, entry), 0x030C0003u);
-    model.tables().holdBusy(0x5000, 0);
-    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 6, entry), 0x030C0003u);
-    EXPECT_EQ(model.tables().writesExecuted(0x5000), 1u) << "a write that timed out may have reached the RAM";
-    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 0, 2}));
-    EXPECT_TRUE(lockFree());
-    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{
-                                      "chip 3 pwe3 write table timeout1,table 0x1,index 0x6",
-                                      "chip 3 pwe3 read table timeout1,table 0x1,index 0x6",
-                                  }));
-    EXPECT_EQ(capture.traceTexts()[0], "Err. VQ6192_Write_Table(3,1,6)      Step7 ErrCode[TimeOut]\r\n");
-    EXPECT_EQ(capture.traceTexts()[1], "Err. VQ6192_Read_Table(3,1,6)       ErrCode[TimeOut]\r\n");
-}
-
-TEST_F(TableTest, FailingReleaseAfterATimeOutIsALockFailure) {
-    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
-    model.tables().holdBusy(0x5000, TableEngine::kForever);
-    VQ6192_Platform_FailSemGives(0, 1);
-    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0x030C0008u);
-    model.tables().holdBusy(0x5000, 0);
-    model.tables().setCommandBusy(0x5000, TableEngine::kForever);
-    VQ6192_Platform_FailSemGives(0, 1);
-    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 5, entry), 0x030C0008u);
-    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 2, 0})) << "not counted as time-outs";
-    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{
-                                      "chip 3 pwe3 write table give sem1 fail,table 0x1,index 0x5",
-                                      "chip 3 pwe3 read table give sem2 fail,table 0x1,index 0x5",
-                                  }));
-}
-
-TEST_F(TableTest, LockFailures) {
-    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
-    model.setTrace(true);
-    VQ6192_Platform_FailSemTakes(0, 2);
-    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0x030C0008u);
-    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 5, entry), 0x030C0008u);
-    model.refuseArbitration(2);
-    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0x030C0008u);
-    VQ6192_Platform_FailSemGives(0, 1);
-    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 5, entry), 0x030C0008u);
-    EXPECT_TRUE(model.trace().empty());
-    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{2, 2, 1, 0}));
-    EXPECT_TRUE(lockFree());
-    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{
-                                      "chip 3 pwe3 write table get sem fail,table 0x1,index 0x5",
-                                      "chip 3 pwe3 read table get sem fail,table 0x1,index 0x5",
-                                      "chip 3 pwe3 write table get attrb fail,table 0x1,index 0x5",
-                                      "chip 3 pwe3 read table get attrb fail,table 0x1,index 0x5",
-                                      "chip 3 pwe3 read table give sem fail,table 0x1,index 0x5",
-                                  }));
-}
-
-TEST_F(TableTest, FailingFinalReleaseStillMovesTheData) {
-    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {0x1234};
-    VQ6192_Platform_FailSemGives(0, 1);
-    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 9, entry), 0x030C0008u);
-    EXPECT_EQ(model.tables().entry(0x5000, 38, 9)[0], 0x1234);
-    uint32_t back[VQ6192_TBL_MAX_WORDS] = {};
-    VQ6192_Platform_FailSemGives(0, 1);
-    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 9, back), 0x030C0008u);
-    EXPECT_EQ(back[0], 0x1234u) << "the buffer is filled all the same";
-    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{
-                                      "chip 3 pwe3 write table give sem3 fail,table 0x1,index 0x9",
-                                      "chip 3 pwe3 read table give sem3 fail,table 0x1,index 0x9",
-                                  }));
-    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 2, 0}));
-}
-
-TEST_F(TableTest, AbsentCardBeforeTheCommand) {
-    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {0xAAAA};
-    model.setCardPresent(false);
-    model.setTrace(true);
-    model.tables().holdBusy(0x5000, 1);
-    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0u);
-    model.tables().holdBusy(0x5000, 1);
-    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 5, entry), 0u);
-    EXPECT_EQ(entry[0], 0xAAAAu);
-    EXPECT_EQ(model.trace().size(), 2u) << "one busy poll each, then nothing";
-    EXPECT_EQ(model.tables().writesExecuted(0x5000), 0u);
-    EXPECT_TRUE(lockFree());
-    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{"chip 3 pwe3 card out", "chip 3 pwe3 card out"}));
-}
-
-TEST_F(TableTest, AbsentCardAfterTheCommand) {
-    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {0x5555};
-    model.tables().setCommandBusy(0x5000, 1);
-    model.setCardPresent(false);
-    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0u);
-    uint32_t back[VQ6192_TBL_MAX_WORDS] = {0x7777};
-    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 5, back), 0u);
-    EXPECT_EQ(back[0], 0x7777u) << "the caller's buffer stays as it was";
-    EXPECT_TRUE(lockFree());
-    EXPECT_EQ(capture.logTexts(), (std::vector<std::string>{"chip 3 pwe3 card out"}))
-        << "the read's completion wait leaves silently";
 }
 
 // Semaphore hooks that record the time-outs the table operations ask for.
@@ -322,24 +304,6 @@ TEST_F(TableTest, QuietReadWaitsBrieflyAndNeverLogs) {
     EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 1, entry), 0u);
     EXPECT_EQ(g_timeouts, (std::vector<uint32_t>{600, 10, 600}));
     VQ6192_Platform_SetHooks(nullptr);
-
-    // Failures of the quiet read: counted, never logged or traced, lock always released.
-    vqtest::PlatformCapture quiet;
-    model.tables().holdBusy(0x5000, TableEngine::kForever);
-    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, kPri, 1, entry), 0x030C0003u);
-    model.tables().holdBusy(0x5000, 0);
-    model.tables().setCommandBusy(0x5000, TableEngine::kForever);
-    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, kPri, 1, entry), 0x030C0003u);
-    VQ6192_Platform_FailSemTakes(0, 1);
-    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, kPri, 1, entry), 0x030C0008u);
-    model.refuseArbitration(1);
-    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, kPri, 1, entry), 0x030C0008u);
-    model.setCardPresent(false);
-    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, kPri, 1, entry), 0u);
-    EXPECT_TRUE(quiet.logs.empty());
-    EXPECT_TRUE(quiet.traces.empty());
-    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{1, 1, 0, 2}));
-    EXPECT_TRUE(lockFree());
 }
 
 TEST_F(TableTest, TestWriteSetsThePriorities) {
