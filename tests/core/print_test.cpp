@@ -74,7 +74,11 @@ TEST_F(PrintTest, TracePointIsGatedByTheModuleFlag) {
     VQ6192_Printf(kChip, VQ6192_MODULE_ATM, VQ6192_PRINT_EXCEPTION1_INFO, "silenced\r\n");
     VQ6192_Printf(kChip, 23, VQ6192_PRINT_PARA_WRONG, "no such module\r\n");
     VQ6192_Printf(100000, 1, VQ6192_PRINT_PARA_WRONG, "no such chip\r\n");
-    ASSERT_EQ(capture.traces.size(), 1u);
+    // A line is cut at 511 characters.
+    VQ6192_Printf(kChip, VQ6192_MODULE_SDH, VQ6192_PRINT_EXCEPTION1_INFO, "%s",
+                  std::string(600, 'x').c_str());
+    ASSERT_EQ(capture.traces.size(), 2u);
+    EXPECT_EQ(capture.traces[1].text, std::string(511, 'x'));
     EXPECT_EQ(capture.traces[0].text, "Err. step 2\r\n");
     EXPECT_EQ(capture.traces[0].chip, kChip);
     EXPECT_EQ(capture.traces[0].module, uint32_t{VQ6192_MODULE_ATM});
