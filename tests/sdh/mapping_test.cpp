@@ -2,17 +2,14 @@
 #include <map>
 #include <set>
 
-#include "support/test_support.h"
-#include "vq6192/sdh.h"
+#include "sdh/sdh_test.h"
 #include "vq6192/sim/framers.h"
 
+namespace sdhtest {
 namespace {
 
 using vq6192::sim::BusOp;
 using vq6192::sim::Framers;
-using vqtest::ChipTest;
-
-constexpr uint32_t kParaErr = 0x03080001;
 constexpr uint16_t x = 0xFFFF;
 
 // The mapper register field behind each column of the map configuration, from the chip's register
@@ -95,7 +92,7 @@ const int kReadBack[2][2][2][14] = {
       {-1, -1, -1, -1, -1, 5, -1, -1, -1, -1, -1, -1, 12, 13}}},
 };
 
-class SdhMapTest : public ChipTest {
+class SdhMapTest : public SdhTest {
   protected:
     void setModes(uint32_t line, uint32_t tdm) {
         model.reset();
@@ -225,21 +222,18 @@ TEST_F(SdhMapTest, LineModeAndRefusals) {
     ASSERT_EQ(VQ6192_SDH_GetSDHSonetMode(kChip, &mode), 0u);
     EXPECT_EQ(mode, 1);
 
-    model.setTrace(true);
     uint8_t out = 0;
-    EXPECT_EQ(VQ6192_SDH_SetSDHSonetMode(kChip, 2), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_GetSDHSonetMode(kChip, nullptr), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 4, 0, 6), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 0, 3, 6), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 0, 0, 14), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 1, 0, CKD_FE_SDHSONET_MAP_HTB_E1), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 3, 2, CKD_FE_SDHSONET_MAP_HTB_T1), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_GetSDHMap(kChip, 4, 0, &out), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_GetSDHMap(kChip, 0, 3, &out), kParaErr);
-    for (const auto &a : model.trace()) {
-        EXPECT_NE(a.op, BusOp::Write) << "no register changes on a parameter error";
-    }
-    EXPECT_EQ(capture.traceTexts(), std::vector<std::string>(9, "ParaErr.\r\n"));
+    expectRefused({
+        {"line mode 2", [] { return VQ6192_SDH_SetSDHSonetMode(3, 2); }},
+        {"line mode null", [] { return VQ6192_SDH_GetSDHSonetMode(3, nullptr); }},
+        {"vc4 4", [] { return VQ6192_SDH_SetSDHMap(3, 4, 0, 6); }},
+        {"au3 3", [] { return VQ6192_SDH_SetSDHMap(3, 0, 3, 6); }},
+        {"type 14", [] { return VQ6192_SDH_SetSDHMap(3, 0, 0, 14); }},
+        {"htb e1", [] { return VQ6192_SDH_SetSDHMap(3, 1, 0, CKD_FE_SDHSONET_MAP_HTB_E1); }},
+        {"htb t1", [] { return VQ6192_SDH_SetSDHMap(3, 3, 2, CKD_FE_SDHSONET_MAP_HTB_T1); }},
+        {"get vc4 4", [&] { return VQ6192_SDH_GetSDHMap(3, 4, 0, &out); }},
+        {"get au3 3", [&] { return VQ6192_SDH_GetSDHMap(3, 0, 3, &out); }},
+    });
 }
 
 TEST_F(SdhMapTest, LoopPoints) {
@@ -292,9 +286,7 @@ TEST_F(SdhMapTest, MapLoopConfigurationAndDs3FifoReset) {
     EXPECT_EQ(model.peek(0x2DCBC), 0x2FFF);
     uint8_t a = 0, b = 9, c = 0;
     ASSERT_EQ(VQ6192_SDH_GetMapLoopCfg(kChip, &a, &b, &c), 0u);
-    EXPECT_EQ(a, 1);
-    EXPECT_EQ(b, 0);
-    EXPECT_EQ(c, 1);
+    EXPECT_EQ(ints(a, b, c), ints(1, 0, 1));
     EXPECT_EQ(VQ6192_SDH_SetMapLoopCfg(kChip, 0, 2, 0), kParaErr);
     EXPECT_EQ(VQ6192_SDH_GetMapLoopCfg(kChip, &a, nullptr, &c), kParaErr);
 
@@ -306,3 +298,4 @@ TEST_F(SdhMapTest, MapLoopConfigurationAndDs3FifoReset) {
 }
 
 }  // namespace
+}  // namespace sdhtest
