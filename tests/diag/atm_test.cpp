@@ -153,10 +153,9 @@ TEST_F(AtmDiagTest, OamReports) {
               "VCX=    8191            CCLOC=       1\n");
 }
 
-TEST_F(AtmDiagTest, EveryCommandRefusesANullBufferAndHasHelp) {
+TEST_F(AtmDiagTest, EveryCommandRefusesANullBuffer) {
     for (const vq::diag::Command &c : vq::diag::atmCommands()) {
         SCOPED_TRACE(c.name);
-        EXPECT_NE(std::string(c.help), "");
         std::vector<vq::diag::ArgValue> args(c.argc);
         args[0].u32 = kChip;
         model.clearTrace();
