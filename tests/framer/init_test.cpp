@@ -3,13 +3,16 @@
 #include <chrono>
 #include <set>
 
-#include "support/test_support.h"
+#include "framer/framer_test.h"
 #include "vq6192/framer.h"
 #include "vq6192/ppp.h"
 #include "vq6192/sdh.h"
 #include "vq6192/sim/framers.h"
 
 namespace {
+
+using framertest::ints;
+using framertest::kParaErr;
 
 using vq6192::sim::BusOp;
 using vq6192::sim::Framers;
@@ -68,12 +71,9 @@ TEST_F(FramerInit, WholeRegisterEffectForEachModeAndLineType) {
                 accounted.insert(oh);
             }
         }
-        EXPECT_EQ(model.peek(0x2034), 0x00F0);
-        EXPECT_EQ(model.peek(0x20800), c.delay0);
-        EXPECT_EQ(model.peek(0x20802), c.delay1);
-        EXPECT_EQ(model.peek(0x22002), 0x00F0);
-        EXPECT_EQ(model.peek(0x2A000), 0x1000);
-        EXPECT_EQ(model.peek(0x20006), c.line);
+        EXPECT_EQ(ints(model.peek(0x2034), model.peek(0x20800), model.peek(0x20802), model.peek(0x22002),
+                       model.peek(0x2A000), model.peek(0x20006)),
+                  ints(0x00F0, c.delay0, c.delay1, 0x00F0, 0x1000, c.line));
         accounted.insert({0x2034, 0x20800, 0x20802, 0x22002, 0x2A000, 0x20006});
         for (uint32_t slot = 0; slot < 12; ++slot) {
             uint8_t type = 0;

@@ -1,16 +1,17 @@
 // TDM mode, frame modes with the multiframe search, reframe and channel resets.
-#include "support/test_support.h"
+#include "framer/framer_test.h"
 #include "vq6192/framer.h"
 #include "vq6192/sim/framers.h"
 
 namespace {
 
+using framertest::ints;
+using framertest::kParaErr;
+
 using vq6192::sim::BusAccess;
 using vq6192::sim::BusOp;
 using vq6192::sim::Framers;
 using vqtest::ChipTest;
-
-constexpr uint32_t kParaErr = 0x030E0001;
 
 class FramerTest : public ChipTest {
   protected:
@@ -86,9 +87,8 @@ TEST_F(FramerTest, MultiframeSearchSetsEgressFromWhatTheReceiverFound) {
             framers().setMultiframeFound(e1, found);
             const uint32_t before = framers().reframes(e1);
             ASSERT_EQ(VQ6192_Framer_SetFrmMode(kChip, e1, dir, 2), 0u);
-            EXPECT_EQ(ingress(e1) & 3, 2);
-            EXPECT_EQ(framers().reframes(e1), before + 1);
-            EXPECT_EQ(egress(e1) & 3, found ? 0 : 1);
+            EXPECT_EQ(ints(ingress(e1) & 3, framers().reframes(e1), egress(e1) & 3),
+                      ints(2, before + 1, found ? 0 : 1));
         }
     }
     // Egress alone cannot search; T1 has no multiframe mode (refused without chip bits).

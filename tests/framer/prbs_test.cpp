@@ -1,15 +1,16 @@
 // The PRBS engines: register effects of the generators and checkers, their refusals and read-back,
 // error insertion, alarms and counters, and the CES PRBS marking.
-#include "support/test_support.h"
+#include "framer/framer_test.h"
 #include "vq6192/framer.h"
 
 namespace {
 
+using framertest::ints;
+using framertest::kParaErr;
+
 using vq6192::sim::BusOp;
 using vq6192::sim::TableEngine;
 using vqtest::ChipTest;
-
-constexpr uint32_t kParaErr = 0x030E0001;
 
 class PrbsTest : public ChipTest {
   protected:
@@ -38,19 +39,14 @@ TEST_F(PrbsTest, MapperGeneratorRegisters) {
         SCOPED_TRACE(testing::Message() << "path type " << c.pathType);
         model.reset();
         ASSERT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, c.pathType, &c.gen, c.enable), 0u);
-        EXPECT_EQ(model.peek(0x20402), c.genReg);
-        EXPECT_EQ(model.peek(0x20406), c.pathReg);
-        EXPECT_EQ(model.peek(0x20408), c.chkReg);
-        EXPECT_EQ(g_uiPrbsFlag[kChip], c.enable);
+        EXPECT_EQ(ints(model.peek(0x20402), model.peek(0x20406), model.peek(0x20408), g_uiPrbsFlag[kChip]),
+                  ints(c.genReg, c.pathReg, c.chkReg, c.enable));
         VQ6192_FRM_PRBS_INS_ATTR_S back{};
         uint8_t enable = 9;
         ASSERT_EQ(VQ6192_Framer_GetPRBSInsAttr(kChip, c.pathType, &back, &enable), 0u);
-        EXPECT_EQ(enable, c.enable);
-        EXPECT_EQ(back.ulMode, c.gen.ulMode);
-        EXPECT_EQ(back.ulFlag, c.gen.ulFlag);
-        EXPECT_EQ(back.ulPattern, c.gen.ulPattern);
-        EXPECT_EQ(back.ucEnFlag, c.gen.ucEnFlag);
-        EXPECT_EQ(back.ulSel, c.pathType >= 2 ? c.gen.ulSel : 0u);
+        EXPECT_EQ(ints(enable, back.ulMode, back.ulFlag, back.ulPattern, back.ucEnFlag, back.ulSel),
+                  ints(c.enable, c.gen.ulMode, c.gen.ulFlag, c.gen.ulPattern, c.gen.ucEnFlag,
+                       c.pathType >= 2 ? c.gen.ulSel : 0u));
         EXPECT_EQ(back.usPath, c.pathType == 0 ? 33 : c.gen.usPath) << "stored path, not converted back";
     }
     EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttrNew(kChip, 1, &cases[1].gen, 1), 0u);
@@ -192,17 +188,13 @@ TEST_F(PrbsTest, TimeslotGenerator) {
         SCOPED_TRACE(testing::Message() << "path type " << c.pathType << " mode " << c.gen.ulMode);
         model.reset();
         ASSERT_EQ(VQ6192_Framer_SetTsPRBSInsAttr(kChip, c.pathType, &c.gen, c.enable), 0u);
-        EXPECT_EQ(model.peek(0x257C), c.genReg);
-        EXPECT_EQ(model.peek(0x257E), c.pathReg);
-        EXPECT_EQ(g_uiPrbsFlag[kChip], c.flag);
+        EXPECT_EQ(ints(model.peek(0x257C), model.peek(0x257E), g_uiPrbsFlag[kChip]),
+                  ints(c.genReg, c.pathReg, c.flag));
         VQ6192_FRM_PRBS_INS_ATTR_S back{};
         uint8_t en = 9;
         ASSERT_EQ(VQ6192_Framer_GetTsPRBSInsAttr(kChip, c.pathType, &back, &en), 0u);
-        EXPECT_EQ(back.ulMode, c.gen.ulMode);
-        EXPECT_EQ(back.ulPattern, c.gen.ulPattern);
-        EXPECT_EQ(back.ulFlag, c.gen.ulFlag);
-        EXPECT_EQ(back.usPath, c.gen.usPath);
-        EXPECT_EQ(en, c.flag);
+        EXPECT_EQ(ints(back.ulMode, back.ulPattern, back.ulFlag, back.usPath, en),
+                  ints(c.gen.ulMode, c.gen.ulPattern, c.gen.ulFlag, c.gen.usPath, c.flag));
     }
     // E3/T3 and VC-4 paths cannot insert towards the line.
     const VQ6192_FRM_PRBS_INS_ATTR_S egress{0, 2, 0, 0, 1, 1};
@@ -268,9 +260,7 @@ TEST_F(PrbsTest, CesTimeslotMarking) {
 
     ASSERT_EQ(VQ6192_Framer_SetTsCesPrbsCfg(kChip, 0, 2, 20, 0x5, 9), 0u);
     auto egress = [&](uint32_t ts) { return model.tables().entry(0x10ab, 1, (20 << 5) | ts)[0]; };
-    EXPECT_EQ(egress(0), 0x9A09);
-    EXPECT_EQ(egress(1), 0x9809);
-    EXPECT_EQ(egress(2), 0x9A09);
+    EXPECT_EQ(ints(egress(0), egress(1), egress(2)), ints(0x9A09, 0x9809, 0x9A09));
     EXPECT_EQ(egress(5), 0x980A) << "another channel";
     EXPECT_EQ(egress(6), 0x9A09) << "already marked: left alone";
 

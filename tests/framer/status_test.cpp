@@ -2,17 +2,18 @@
 // pointer bytes.
 #include <cstring>
 
-#include "support/test_support.h"
+#include "framer/framer_test.h"
 #include "vq6192/framer.h"
 #include "vq6192/sim/framers.h"
 
 namespace {
 
+using framertest::ints;
+using framertest::kParaErr;
+
 using vq6192::sim::BusOp;
 using vq6192::sim::Framers;
 using vqtest::ChipTest;
-
-constexpr uint32_t kParaErr = 0x030E0001;
 
 using FramerStatus = ChipTest;
 

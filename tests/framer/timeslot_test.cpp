@@ -2,17 +2,19 @@
 // readers' decoding, failures inside multi-timeslot writes, and the switch-side controls.
 #include <chrono>
 
-#include "support/test_support.h"
+#include "framer/framer_test.h"
 #include "vq6192/framer.h"
 #include "vq6192/ppp.h"
 
 namespace {
 
+using framertest::ints;
+using framertest::kParaErr;
+
 using vq6192::sim::BusOp;
 using vq6192::sim::TableEngine;
 using vqtest::ChipTest;
 
-constexpr uint32_t kParaErr = 0x030E0001;
 constexpr uint32_t kTsBlock = 0x10ab;
 constexpr uint32_t kIngressSelect = 0;
 constexpr uint32_t kEgressSelect = 1;
@@ -152,9 +154,7 @@ TEST_F(TimeslotTest, CesEntriesCarryThePrbsMark) {
     uint32_t speed = 0;
     ASSERT_EQ(VQ6192_Framer_GetTsCfg(kChip, 2, 7, 1, &chnl, &type, &speed, &en), 0u);
     EXPECT_EQ(chnl, 20) << "the reader drops the PRBS mark";
-    EXPECT_EQ(type, 3);
-    EXPECT_EQ(speed, 3u);
-    EXPECT_EQ(en, 1);
+    EXPECT_EQ(ints(type, speed, en), ints(3, 3u, 1));
 }
 
 TEST_F(TimeslotTest, ReadersDecodeEveryKindOfEntry) {
@@ -180,10 +180,7 @@ TEST_F(TimeslotTest, ReadersDecodeEveryKindOfEntry) {
         uint8_t type = 0, en = 9;
         uint32_t speed = 9;
         ASSERT_EQ(VQ6192_Framer_GetTsCfg(kChip, 0, 99, 17, &chnl, &type, &speed, &en), 0u);
-        EXPECT_EQ(chnl, c.chnl);
-        EXPECT_EQ(type, c.type);
-        EXPECT_EQ(speed, c.speed);
-        EXPECT_EQ(en, c.en);
+        EXPECT_EQ(ints(chnl, type, speed, en), ints(c.chnl, c.type, c.speed, c.en));
     }
     // The record form.
     VQ6192_FRM_TS_CFG_S cfg{kChip, 0, 99, 17, 0, 0, 0, 0};
@@ -332,10 +329,8 @@ TEST_F(TimeslotTest, SwitchSideControls) {
     ASSERT_EQ(VQ6192_Framer_ResetRfp(kChip, 1), 0u);
     ASSERT_EQ(VQ6192_Framer_SetRfpEnableOnOff(kChip, 1, 0, 1, 0), 0u);
     ASSERT_EQ(VQ6192_Framer_SetRfpDelay(kChip, 0x7FFF), 0u);
-    EXPECT_EQ(model.peek(0x20004), 2);
-    EXPECT_EQ(model.peek(0x20006), 4);
-    EXPECT_EQ(model.peek(0x20010), 2);
-    EXPECT_EQ(model.peek(0x20008), 0x7FFF);
+    EXPECT_EQ(ints(model.peek(0x20004), model.peek(0x20006), model.peek(0x20010), model.peek(0x20008)),
+              ints(2, 4, 2, 0x7FFF));
     model.poke(0x20012, 0x0012);  // bits 1 and 4
     uint8_t a = 0, b = 0, c = 0, d = 0;
     ASSERT_EQ(VQ6192_Framer_GetRfpAlm(kChip, &a, &b, &c, &d), 0u);

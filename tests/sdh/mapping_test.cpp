@@ -181,9 +181,9 @@ TEST_F(SdhMapTest, WaitsAfterVc4SlotThreeAndPulsesThePayloadType) {
     ASSERT_EQ(VQ6192_SDH_SetSDHMap(kChip, 3, 1, CKD_FE_SDHSONET_MAP_E1_VC12TU12TUG3_AU4), 0u);
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 510u + 1u);
     ASSERT_EQ(payloadWrites.size(), 2u);
-    EXPECT_EQ(payloadWrites[0].first, 3);
-    EXPECT_EQ(payloadWrites[1].first, 0);
-    EXPECT_EQ(payloadWrites[1].second - payloadWrites[0].second, 1u);
+    EXPECT_EQ(ints(payloadWrites[0].first, payloadWrites[1].first,
+                   payloadWrites[1].second - payloadWrites[0].second),
+              ints(3, 0, 1u));
 
     VQ6192_Platform_ResetVirtualTime();
     ASSERT_EQ(VQ6192_SDH_SetSDHMap(kChip, 2, 1, CKD_FE_SDHSONET_MAP_E1_VC12TU12TUG3_AU4), 0u);

@@ -1,8 +1,10 @@
 // Tributary numbering: every conversion against its formula over the accepted range and past it.
-#include "support/test_support.h"
+#include "sdh/sdh_test.h"
 #include "vq6192/sdh.h"
 
 namespace {
+
+using sdhtest::ints;
 
 constexpr uint32_t kChip = 2;
 constexpr uint32_t kParaErr = 0x02080001;
@@ -46,11 +48,7 @@ TEST(SdhNumbering, AllSchemesAgreeOverTheWholeRange) {
                               inRange ? 0u : kParaErr);
                     EXPECT_EQ(VQ6192_SDH_InterE1Chno2HWChno(kChip, e1, &hv, &h), inRange ? 0u : kParaErr);
                     if (inRange) {
-                        EXPECT_EQ(rv, v);
-                        EXPECT_EQ(rk, k);
-                        EXPECT_EQ(r, regOf(s));
-                        EXPECT_EQ(hv, v);
-                        EXPECT_EQ(h, hwOf(s));
+                        EXPECT_EQ(ints(rv, rk, r, hv, h), ints(v, k, regOf(s), v, hwOf(s)));
                     } else {
                         EXPECT_EQ(r, 99u) << "outputs untouched on refusal";
                         EXPECT_EQ(h, 99u);

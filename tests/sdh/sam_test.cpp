@@ -2,11 +2,13 @@
 // channel switches, counters and status.
 #include <functional>
 
-#include "support/test_support.h"
+#include "sdh/sdh_test.h"
 #include "vq6192/sdh.h"
 #include "vq6192/sim/sam.h"
 
 namespace {
+
+using sdhtest::ints;
 
 using vq6192::sim::BusAccess;
 using vq6192::sim::BusOp;
@@ -77,16 +79,12 @@ TEST_F(SamTest, SaBitInsertion) {
     model.poke(chanReg(5), 0xFFFE);
     ASSERT_EQ(VQ6192_SAM_SetSaBitInsert(kChip, 5, 2, 0x3F, 1), 0u);
     auto after = tables.entry(kSamBlock, kInsSelect, 5);
-    EXPECT_EQ(after[0], 0xFFFF);
-    EXPECT_EQ(after[1], 0x000F);
-    EXPECT_EQ(model.peek(chanReg(5)), 0xFFFF);
+    EXPECT_EQ(ints(after[0], after[1], model.peek(chanReg(5))), ints(0xFFFF, 0x000F, 0xFFFF));
 
     // Sabit3 is bits 19..15, across the two halves.
     ASSERT_EQ(VQ6192_SAM_SetSaBitInsert(kChip, 5, 3, 0x0A, 0), 0u);
     after = tables.entry(kSamBlock, kInsSelect, 5);
-    EXPECT_EQ(after[0], 0x7FFF);
-    EXPECT_EQ(after[1], 0x0005);
-    EXPECT_EQ(model.peek(chanReg(5)), 0xFFFE);
+    EXPECT_EQ(ints(after[0], after[1], model.peek(chanReg(5))), ints(0x7FFF, 0x0005, 0xFFFE));
 
     // A bit position above 3: the code without a trace line, nothing written.
     model.setTrace(true);
