@@ -10,7 +10,26 @@ namespace {
 
 using vq6192::sim::BusOp;
 using vq6192::sim::Framers;
-constexpr uint16_t x = 0xFFFF;
+// The map configuration of VC-4 0, typed from the chip documentation: rows are map types, columns the
+// targets below, '-' a register left alone. VC-4s 1 to 3 leave columns 2 and 3 alone in rows 6, 7, 8, 11
+// and 12.
+const char *const kMapCfg[14] = {
+    "- - - - - 1 - 0 - - - 2 - - - - - - - -", "- - - - - 0 1 0 - - - 2 - - - - - - - -",
+    "0 0 1 1 - 0 0 - - - - 0 0 1 1 0 - 0 - -", "1 1 1 1 - 0 0 - - - - 0 7 0 0 - - 1 - -",
+    "- - - - 0 0 0 - - - - 1 - - - - 0 - 1 1", "- - - - 0 0 0 - - - - 1 - - - - 1 - 0 0",
+    "0 0 0 0 - 0 0 0 0 1 0 0 - 1 1 0 - 0 - -", "1 1 0 0 - 0 0 0 2 1 0 0 - 1 0 - - 1 - -",
+    "1 1 0 0 - 0 0 0 1 1 0 0 - 1 1 2 - 1 - -", "- - - - 1 0 0 0 - 3 0 1 - - - - 0 - 1 1",
+    "- - - - 1 0 0 0 - 2 0 1 - - - - 1 - 0 0", "0 0 0 0 - 0 0 1 0 1 1 0 - 1 1 0 - 0 - -",
+    "1 1 0 0 - 0 0 1 0 0 1 0 - 0 0 - - 1 - -", "- - - - 1 0 0 1 - 2 1 1 - - - - 1 - 0 0",
+};
+
+// Column `col` of row `type` for VC-4 `vc4`; -1 for a dash.
+int mapCfg(uint32_t vc4, uint32_t type, uint32_t col) {
+    const char cell = kMapCfg[type][2 * col];
+    const bool leftAlone = vc4 != 0 && (col == 2 || col == 3) &&
+                           (type == 6 || type == 7 || type == 8 || type == 11 || type == 12);
+    return cell == '-' || leftAlone ? -1 : cell - '0';
+}
 
 // The mapper register field behind each column of the map configuration, from the chip's register
 // map: register, lowest bit, width, and how the slot moves it.
@@ -41,11 +60,11 @@ std::map<uint32_t, uint16_t> expectedRegisters(uint32_t line, uint32_t tdm, uint
     std::map<uint32_t, uint16_t> regs;
     regs[0x20006] = static_cast<uint16_t>(line);
     regs[0x000E] = static_cast<uint16_t>(tdm * 6);
-    const auto &row = vc4 == 0 ? g_aausVQ6192SDHMapCfg0[type] : g_aausVQ6192SDHMapCfg123[type];
     const uint32_t slot = 3 * vc4 + au3;
     for (uint32_t col = 0; col < 20; ++col) {
         const Target &t = kTargets[col];
-        if (row[col] == x || t.how == Target::Check) {
+        const int value = mapCfg(vc4, type, col);
+        if (value < 0 || t.how == Target::Check) {
             continue;
         }
         std::vector<uint32_t> addrs{t.reg};
@@ -73,7 +92,7 @@ std::map<uint32_t, uint16_t> expectedRegisters(uint32_t line, uint32_t tdm, uint
                 break;
         }
         for (uint32_t addr : addrs) {
-            regs[addr] = static_cast<uint16_t>(regs[addr] | (row[col] << bit));
+            regs[addr] = static_cast<uint16_t>(regs[addr] | (value << bit));
         }
     }
     return regs;
