@@ -3,18 +3,15 @@
 #include <string>
 #include <vector>
 
-#include "support/test_support.h"
+#include "diag/diag_test.h"
 #include "vq6192/ppp.h"
 #include "vq6192/sim/ppp.h"
 
+namespace diagtest {
 namespace {
 
-constexpr char kSep[] = "\n-------------------------------------------------\n";
-
-class PppDiagTest : public vqtest::ChipTest {
+class PppDiagTest : public DiagTest {
   protected:
-    std::vector<char> buf = std::vector<char>(VQ6192_DIAG_BUF_SIZE, 'x');
-    std::string text() const { return std::string(buf.data()); }
     vq6192::sim::PppBlock &ppp() { return model.block<vq6192::sim::PppBlock>(); }
     void TearDown() override {
         g_st6192CapPpp[kChip] = {};
@@ -35,17 +32,18 @@ TEST_F(PppDiagTest, SingleValueReports) {
     };
     const Case cases[] = {
         {"getpppmru", [](uint32_t c, char *b) { return getpppmru(c, 12, b); },
-         std::string(kSep) + "        GetPppMRU()\n" + kSep + " rdwMRU    :    0x5dc(1500)\n" + kSep},
+         framed("GetPppMRU()", " rdwMRU    :    0x5dc(1500)\n", kLSep)},
         {"getmpsnformat", [](uint32_t c, char *b) { return getmpsnformat(c, 3, b); },
-         std::string(kSep) + "        GetMpSnFormat()\n" + kSep + " renSnFormatUp    :    0x1(1)\n" +
-             " renSnFormatDown    :    0x0(0)\n" + kSep},
+         framed("GetMpSnFormat()",
+                " renSnFormatUp    :    0x1(1)\n"
+                " renSnFormatDown    :    0x0(0)\n",
+                kLSep)},
         {"getmpctrltimeout", [](uint32_t c, char *b) { return getmpctrltimeout(c, 3, b); },
-         std::string(kSep) + "        GetMpCtrlTimeOut()\n" + kSep + " rwTimeOut    :    0x0(0)\n" + kSep},
+         framed("GetMpCtrlTimeOut()", " rwTimeOut    :    0x0(0)\n", kLSep)},
         {"getmpmcmap", [](uint32_t c, char *b) { return getmpmcmap(c, 3, b); },
-         std::string(kSep) + "        GetMpMcMap()\n" + kSep + " rdwMcQueNo    :    0x0(0)\n" + kSep},
+         framed("GetMpMcMap()", " rdwMcQueNo    :    0x0(0)\n", kLSep)},
         {"calcmptimeoutvalue", [](uint32_t c, char *b) { return calcmptimeoutvalue(c, 3, 3, b); },
-         std::string(kSep) + "        CalcMpTimeOutValue()\n" + kSep + " rdwTimeOutVal    :    0x34(52)\n" +
-             kSep},
+         framed("CalcMpTimeOutValue()", " rdwTimeOutVal    :    0x34(52)\n", kLSep)},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
@@ -197,3 +195,4 @@ TEST_F(PppDiagTest, AllCountersAndStatus) {
 }
 
 }  // namespace
+}  // namespace diagtest
