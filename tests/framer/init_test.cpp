@@ -4,21 +4,13 @@
 #include <set>
 
 #include "framer/framer_test.h"
-#include "vq6192/framer.h"
 #include "vq6192/ppp.h"
 #include "vq6192/sdh.h"
-#include "vq6192/sim/framers.h"
 
+namespace framertest {
 namespace {
 
-using framertest::ints;
-using framertest::kParaErr;
-
-using vq6192::sim::BusOp;
-using vq6192::sim::Framers;
-using vqtest::ChipTest;
-
-using FramerInit = ChipTest;
+using FramerInit = FramerTest;
 
 TEST_F(FramerInit, WholeRegisterEffectForEachModeAndLineType) {
     struct Case {
@@ -117,7 +109,7 @@ TEST_F(FramerInit, AMapTheModesRefuseStopsTheInitialisation) {
               "Err. VQ6192_Framer_FrmInit.VQ6192_SDH_SetSDHMap(3,0,0,6)       ErrCode[0x3080001]\r\n");
 }
 
-using ServiceLookup = ChipTest;
+using ServiceLookup = FramerTest;
 
 TEST_F(ServiceLookup, FindsTheFirstChannelCarryingTheService) {
     // Egress E1/T1 table, channel 200 timeslot 7: PPP channel 1 (a VC-4 PPP channel: inner 0x200),
@@ -145,3 +137,4 @@ TEST_F(ServiceLookup, FindsTheFirstChannelCarryingTheService) {
 }
 
 }  // namespace
+}  // namespace framertest

@@ -1,30 +1,8 @@
 // TDM mode, frame modes with the multiframe search, reframe and channel resets.
 #include "framer/framer_test.h"
-#include "vq6192/framer.h"
-#include "vq6192/sim/framers.h"
 
+namespace framertest {
 namespace {
-
-using framertest::ints;
-using framertest::kParaErr;
-
-using vq6192::sim::BusAccess;
-using vq6192::sim::BusOp;
-using vq6192::sim::Framers;
-using vqtest::ChipTest;
-
-class FramerTest : public ChipTest {
-  protected:
-    Framers &framers() { return model.block<Framers>(); }
-    uint16_t ingress(uint32_t e1, uint32_t word = Framers::kIngMode) {
-        return model.peek(Framers::ingressAddr(e1, word));
-    }
-    uint16_t egress(uint32_t e1, uint32_t word = Framers::kEgMode) {
-        return model.peek(Framers::egressAddr(e1, word));
-    }
-    void tdm(uint32_t mode) { ASSERT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, mode), 0u); }
-    bool anyWrite() { return !vqtest::writes(model.trace()).empty(); }
-};
 
 TEST_F(FramerTest, TdmModeSetsBothBitsAndReadsBit1) {
     model.poke(0x000E, 0xFFF9);
@@ -98,7 +76,7 @@ TEST_F(FramerTest, MultiframeSearchSetsEgressFromWhatTheReceiverFound) {
     model.clearTrace();
     EXPECT_EQ(VQ6192_Framer_SetFrmMode(kChip, 77, 0, 2), 0xE0001u);
     EXPECT_EQ(VQ6192_Framer_SetFrmMode(kChip, 77, 1, 2), 0xE0001u);
-    EXPECT_FALSE(anyWrite());
+    EXPECT_FALSE(wrote());
     EXPECT_EQ(capture.traceTexts().back(),
               "Err. VQ6192_Framer_SetFrmMode.enTDMMode(1) eFramerMode(2)       ErrCode[0xe0001]\r\n");
 }
@@ -129,7 +107,7 @@ TEST_F(FramerTest, ChannelResets) {
     EXPECT_EQ(egress(335), 0x0);
     model.setTrace(true);
     EXPECT_EQ(VQ6192_Framer_ReSetFrmChnl(kChip, 335, 3, 0), 0u) << "direction 3: nothing, success";
-    EXPECT_FALSE(anyWrite());
+    EXPECT_FALSE(wrote());
     EXPECT_EQ(VQ6192_Framer_ReSetFrmChnl(kChip, 336, 0, 1), kParaErr);
     EXPECT_EQ(VQ6192_Framer_ReSetFrmChnl(kChip, 0, 0, 2), kParaErr);
 
@@ -167,3 +145,4 @@ TEST_F(FramerTest, OutOfRangeArgumentsWriteNothing) {
 }
 
 }  // namespace
+}  // namespace framertest

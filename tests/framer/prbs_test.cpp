@@ -1,25 +1,11 @@
 // The PRBS engines: register effects of the generators and checkers, their refusals and read-back,
 // error insertion, alarms and counters, and the CES PRBS marking.
 #include "framer/framer_test.h"
-#include "vq6192/framer.h"
 
+namespace framertest {
 namespace {
 
-using framertest::ints;
-using framertest::kParaErr;
-
-using vq6192::sim::BusOp;
-using vq6192::sim::TableEngine;
-using vqtest::ChipTest;
-
-class PrbsTest : public ChipTest {
-  protected:
-    void TearDown() override {
-        g_uiPrbsFlag[kChip] = 0;
-        ChipTest::TearDown();
-    }
-    bool wrote() { return !vqtest::writes(model.trace()).empty(); }
-};
+using PrbsTest = FramerTest;
 
 TEST_F(PrbsTest, MapperGeneratorRegisters) {
     struct Case {
@@ -290,3 +276,4 @@ TEST_F(PrbsTest, CesTimeslotMarking) {
 }
 
 }  // namespace
+}  // namespace framertest

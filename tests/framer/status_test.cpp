@@ -3,19 +3,11 @@
 #include <cstring>
 
 #include "framer/framer_test.h"
-#include "vq6192/framer.h"
-#include "vq6192/sim/framers.h"
 
+namespace framertest {
 namespace {
 
-using framertest::ints;
-using framertest::kParaErr;
-
-using vq6192::sim::BusOp;
-using vq6192::sim::Framers;
-using vqtest::ChipTest;
-
-using FramerStatus = ChipTest;
+using FramerStatus = FramerTest;
 
 TEST_F(FramerStatus, OverheadInsertionModes) {
     struct Case {
@@ -222,3 +214,4 @@ TEST_F(FramerStatus, ClockSelectorsGatesBypassAndAuPointer) {
 }
 
 }  // namespace
+}  // namespace framertest

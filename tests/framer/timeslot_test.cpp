@@ -3,37 +3,12 @@
 #include <chrono>
 
 #include "framer/framer_test.h"
-#include "vq6192/framer.h"
 #include "vq6192/ppp.h"
 
+namespace framertest {
 namespace {
 
-using framertest::ints;
-using framertest::kParaErr;
-
-using vq6192::sim::BusOp;
-using vq6192::sim::TableEngine;
-using vqtest::ChipTest;
-
-constexpr uint32_t kTsBlock = 0x10ab;
-constexpr uint32_t kIngressSelect = 0;
-constexpr uint32_t kEgressSelect = 1;
-
-class TimeslotTest : public ChipTest {
-  protected:
-    uint16_t entry(uint32_t select, uint32_t source, uint32_t ts) {
-        return model.tables().entry(kTsBlock, select, (source << 5) | ts)[0];
-    }
-    void setEntry(uint32_t select, uint32_t source, uint32_t ts, uint16_t value) {
-        TableEngine::Entry e{};
-        e[0] = value;
-        model.tables().setEntry(kTsBlock, select, (source << 5) | ts, e);
-    }
-    void TearDown() override {
-        g_uiPrbsFlag[kChip] = 0;
-        ChipTest::TearDown();
-    }
-};
+using TimeslotTest = FramerTest;
 
 TEST_F(TimeslotTest, E1EntriesForEveryServiceTypeSpeedAndDirection) {
     model.poke(0x10048, 0x2);  // VC-4 PPP channel 1 enabled: PPP channel 1 is inner 0x200
@@ -380,3 +355,4 @@ TEST_F(TimeslotTest, TimeslotAndTelecomBusLoops) {
 }
 
 }  // namespace
+}  // namespace framertest
