@@ -41,45 +41,38 @@ TEST_F(PrbsTest, MapperGeneratorRegisters) {
 TEST_F(PrbsTest, MapperGeneratorRefusals) {
     const VQ6192_FRM_PRBS_INS_ATTR_S good{0, 1, 0, 0, 10, 0};
     model.setTrace(true);
-    auto with = [&](auto change) {
-        VQ6192_FRM_PRBS_INS_ATTR_S g = good;
-        change(g);
-        return g;
-    };
     using A = VQ6192_FRM_PRBS_INS_ATTR_S;
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 4, &good, 1), kParaErr);
+    // Field checks come before anything changes; the path checks come after the PRBS flag, so a refused
+    // path still updates it, writes nothing, and stopping with one still clears the run bit.
+    const struct {
+        uint32_t pathType;
+        A attr;  // select, mode, flag, pattern, path, enable flag
+        uint32_t enable, flag;
+    } cases[] = {
+        {4, good, 1, 0},
+        {0, {2, 1, 0, 0, 10, 0}, 1, 0},
+        {0, {0, 4, 0, 0, 10, 0}, 1, 0},
+        {0, {0, 1, 2, 0, 10, 0}, 1, 0},
+        {0, {0, 1, 0, 7, 10, 0}, 1, 0},
+        {0, {0, 1, 0, 0, 10, 2}, 1, 0},
+        {0, good, 2, 0},
+        {0, {0, 1, 0, 0, 252, 0}, 1, 1},
+        {1, {0, 1, 0, 0, 336, 0}, 1, 1},
+        {1, {0, 2, 0, 0, 10, 0}, 1, 1},
+        {2, {0, 1, 0, 0, 10, 0}, 1, 1},
+        {3, {0, 2, 0, 0, 12, 0}, 1, 1},
+    };
     EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, nullptr, 1), kParaErr);
-    for (const A &bad :
-         {with([](A &g) { g.ulSel = 2; }), with([](A &g) { g.ulMode = 4; }), with([](A &g) { g.ulFlag = 2; }),
-          with([](A &g) { g.ulPattern = 7; }), with([](A &g) { g.ucEnFlag = 2; })}) {
-        EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, &bad, 1), kParaErr);
+    for (const auto &c : cases) {
+        model.clearTrace();
+        EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, c.pathType, &c.attr, c.enable), kParaErr);
+        EXPECT_EQ(g_uiPrbsFlag[kChip], c.flag) << c.pathType << " " << c.attr.usPath;
+        EXPECT_FALSE(wrote()) << c.pathType << " " << c.attr.usPath;
     }
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, &good, 2), kParaErr);
-    EXPECT_FALSE(wrote()) << "refused before anything changed";
-    EXPECT_EQ(g_uiPrbsFlag[kChip], 0u);
-
-    // The path checks come after the flag: a refused path still updated it.
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, &(const A &)with([](A &g) { g.usPath = 252; }), 1),
-              kParaErr);
-    EXPECT_EQ(g_uiPrbsFlag[kChip], 1u);
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 1, &(const A &)with([](A &g) { g.usPath = 336; }), 1),
-              kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 1, &(const A &)with([](A &g) { g.ulMode = 2; }), 1),
-              kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 2, &(const A &)with([](A &g) { g.ulMode = 1; }), 1),
-              kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 3, &(const A &)with([](A &g) {
-                                               g.ulMode = 2;
-                                               g.usPath = 12;
-                                           }),
-                                           1),
-              kParaErr);
-    // Stopping the generator with a refused path: run bit cleared, flag 0.
     model.poke(0x20402, 0x0001);
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, &(const A &)with([](A &g) { g.usPath = 252; }), 0),
-              kParaErr);
-    EXPECT_EQ(model.peek(0x20402), 0);
-    EXPECT_EQ(g_uiPrbsFlag[kChip], 0u);
+    const A badPath{0, 1, 0, 0, 252, 0};
+    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, &badPath, 0), kParaErr);
+    EXPECT_EQ(ints(model.peek(0x20402), g_uiPrbsFlag[kChip]), ints(0, 0));
 }
 
 TEST_F(PrbsTest, MapperChecker) {
