@@ -8,14 +8,13 @@ namespace {
 using SdhOverheadTest = SdhTest;
 
 TEST_F(SdhOverheadTest, HighOrderBytesAndTheirInsertionEnables) {
-    struct Case {
-        uint32_t type;
-        uint32_t reg;   // paged byte register
-        int enableBit;  // TH(n)+4 bit, -1 none
-    };
-    const Case cases[] = {{0, 0x2DCA2, 4},  {1, 0x2DCA6, 8},  {2, 0x2DCAA, 6}, {3, 0x2DCA8, 10},
-                          {4, 0x2DCAC, 12}, {5, 0x2DCAE, 14}, {6, 0x2DCA4, -1}};
-    for (const Case &c : cases) {
+    // Byte type, its paged register, and its insertion enable in TH(n)+4 (-1: none).
+    const struct {
+        uint32_t type, reg;
+        int enableBit;
+    } cases[] = {{0, 0x2DCA2, 4},  {1, 0x2DCA6, 8},  {2, 0x2DCAA, 6}, {3, 0x2DCA8, 10},
+                 {4, 0x2DCAC, 12}, {5, 0x2DCAE, 14}, {6, 0x2DCA4, -1}};
+    for (const auto &c : cases) {
         for (uint32_t mode : {1u, 0u}) {
             for (uint32_t n = 0; n < 12; ++n) {
                 model.poke(th(n) + 4, static_cast<uint16_t>(mode == 1 ? 0x0003 : 0xFFF3));
@@ -33,8 +32,7 @@ TEST_F(SdhOverheadTest, HighOrderBytesAndTheirInsertionEnables) {
             }
             uint8_t v = 0, m = 9;
             ASSERT_EQ(VQ6192_SDH_GetTxHpByte(kChip, 3, c.type, &v, &m), 0u);
-            EXPECT_EQ(v, value);
-            EXPECT_EQ(m, mode) << c.type;
+            EXPECT_EQ(ints(v, m), ints(value, mode)) << c.type;
         }
     }
 }
@@ -123,33 +121,29 @@ TEST_F(SdhOverheadTest, ReceivedBytesOfEachPathKind) {
 }
 
 TEST_F(SdhOverheadTest, LowOrderTransmitBytesThroughTheirPage) {
-    struct Case {
+    // VC-3 byte `type` of (v, k), software mode `mode`.
+    const auto vc3 = [](uint32_t v, uint32_t k, uint32_t type, uint32_t mode) {
+        return [=](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, v, k, type, mode, x); };
+    };
+    const struct {
         const char *name;
         std::function<uint32_t(uint32_t value)> set;
-        uint32_t key;
-        uint32_t reg;
-    };
-    const Case cases[] = {
-        {"vc3 type 0", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 0, 1, x); }, 128 + 64,
-         0x2DE44},
-        {"vc3 type 1", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 1, 0, x); }, 128 + 64,
-         0x2DE48},
-        {"vc3 type 2", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 2, 0, x); }, 128 + 64,
-         0x2DE4C},
-        {"vc3 type 3", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 3, 0, x); }, 128 + 64,
-         0x2DE4A},
-        {"vc3 type 4", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 4, 0, x); }, 128 + 64,
-         0x2DE4E},
-        {"vc3 type 5", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 5, 0, x); }, 128 + 64,
-         0x2DE50},
-        {"vc3 G1", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 0, 1, 6, 0, x); }, 32, 0x2DE46},
-        {"vc3 B3", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 0, 1, 7, 0, x); }, 32, 0x2DE42},
+        uint32_t key, reg;
+    } cases[] = {
+        {"vc3 type 0", vc3(1, 2, 0, 1), 128 + 64, 0x2DE44},
+        {"vc3 type 1", vc3(1, 2, 1, 0), 128 + 64, 0x2DE48},
+        {"vc3 type 2", vc3(1, 2, 2, 0), 128 + 64, 0x2DE4C},
+        {"vc3 type 3", vc3(1, 2, 3, 0), 128 + 64, 0x2DE4A},
+        {"vc3 type 4", vc3(1, 2, 4, 0), 128 + 64, 0x2DE4E},
+        {"vc3 type 5", vc3(1, 2, 5, 0), 128 + 64, 0x2DE50},
+        {"vc3 G1", vc3(0, 1, 6, 0), 32, 0x2DE46},
+        {"vc3 B3", vc3(0, 1, 7, 0), 32, 0x2DE42},
         {"vc12 V5", [](uint32_t x) { return VQ6192_SDH_SetTxLpV5(3, 2, 0, 13, 0, x); }, 256 + 13, 0x2DE44},
         {"vc12 K4", [](uint32_t x) { return VQ6192_SDH_SetTxLpK4(3, 2, 1, 27, 0, x); }, 256 + 59, 0x2DE4E},
         {"vc12 N2", [](uint32_t x) { return VQ6192_SDH_SetTxLpN2(3, 3, 2, 0, x); }, 384 + 64, 0x2DE50},
     };
     uint32_t value = 0x21;
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         ASSERT_EQ(c.set(value), 0u) << c.name;
         EXPECT_EQ(paths().paged(Page::TxLo, c.key, c.reg) & 0xFF, value) << c.name;
         ++value;
