@@ -10,6 +10,23 @@ namespace {
 
 using vq6192::sim::BusOp;
 using vq6192::sim::Framers;
+
+// The mapper register field behind each column of the map configuration, from the chip's register
+// map: register and lowest bit, how each moves with the VC-4 and with the slot (3 x VC-4 + AU-3), and
+// the number of receive high-order blocks (0x100 apart) written; 0 for a check column.
+struct Target {
+    uint32_t reg, regPerVc4, regPerSlot, bit, bitPerVc4, bitPerSlot, copies;
+};
+const Target kTargets[20] = {
+    {0x24000, 0, 0, 8, 0, 0, 1},    {0x24000, 0, 0, 0, 1, 0, 1},    {0x24002, 0, 0, 13, 0, 0, 1},
+    {0x24006, 0, 0, 14, 0, 0, 1},   {0x2080E, 0, 0, 0, 0, 1, 1},    {0x2C002, 0, 0, 4, 1, 0, 1},
+    {0x2C002, 0, 0, 0, 1, 0, 1},    {0x20006, 0, 0, 0, 0, 0, 0},    {0x2C380, 0, 0, 0, 2, 0, 1},
+    {0x2C040, 0x40, 0, 0, 0, 0, 3}, {0x2C000, 0, 0, 1, 0, 0, 1},    {0x202C, 2, 0, 0, 0, 0, 1},
+    {0x2A020, 0, 0, 5, 0, 0, 1},    {0x202A, 0, 0, 0, 0, 0, 1},     {0x2400C, 0, 0, 0, 0, 0, 1},
+    {0x2400C, 0, 0, 2, 0, 0, 1},    {0x000E, 0, 0, 2, 0, 0, 0},     {0x000E, 0, 0, 1, 0, 0, 0},
+    {0x29282, 0, 0, 0, 0, 1, 1},    {0x2B602, 0, 0x20, 0, 0, 0, 1},
+};
+
 // The map configuration of VC-4 0, typed from the chip documentation: rows are map types, columns the
 // targets below, '-' a register left alone. VC-4s 1 to 3 leave columns 2 and 3 alone in rows 6, 7, 8, 11
 // and 12.
@@ -31,68 +48,17 @@ int mapCfg(uint32_t vc4, uint32_t type, uint32_t col) {
     return cell == '-' || leftAlone ? -1 : cell - '0';
 }
 
-// The mapper register field behind each column of the map configuration, from the chip's register
-// map: register, lowest bit, width, and how the slot moves it.
-struct Target {
-    uint32_t reg;
-    uint32_t bit;
-    uint32_t width;
-    enum { Chip, Vc4Bit, Au3Bit, Vc4Pair, Vc4Reg, Au3Reg, Check } how;
-    uint32_t step = 0;
-};
-
-const Target kTargets[20] = {
-    {0x24000, 8, 1, Target::Chip},    {0x24000, 0, 1, Target::Vc4Bit},
-    {0x24002, 13, 1, Target::Chip},   {0x24006, 14, 1, Target::Chip},
-    {0x2080E, 0, 1, Target::Au3Bit},  {0x2C002, 4, 1, Target::Vc4Bit},
-    {0x2C002, 0, 1, Target::Vc4Bit},  {0x20006, 0, 1, Target::Check},
-    {0x2C380, 0, 2, Target::Vc4Pair}, {0x2C040, 0, 2, Target::Vc4Reg, 0x40},
-    {0x2C000, 1, 1, Target::Chip},    {0x202C, 0, 2, Target::Vc4Reg, 2},
-    {0x2A020, 5, 3, Target::Chip},    {0x202A, 0, 1, Target::Chip},
-    {0x2400C, 0, 2, Target::Chip},    {0x2400C, 2, 2, Target::Chip},
-    {0x000E, 2, 1, Target::Check},    {0x000E, 1, 1, Target::Check},
-    {0x29282, 0, 1, Target::Au3Bit},  {0x2B602, 0, 1, Target::Au3Reg, 0x20},
-};
-
 // Registers after writing one table row on a chip whose registers were all 0 but for the modes.
 std::map<uint32_t, uint16_t> expectedRegisters(uint32_t line, uint32_t tdm, uint32_t vc4, uint32_t au3,
                                                uint32_t type) {
-    std::map<uint32_t, uint16_t> regs;
-    regs[0x20006] = static_cast<uint16_t>(line);
-    regs[0x000E] = static_cast<uint16_t>(tdm * 6);
+    std::map<uint32_t, uint16_t> regs{{0x20006, line}, {0x000E, tdm * 6}};
     const uint32_t slot = 3 * vc4 + au3;
     for (uint32_t col = 0; col < 20; ++col) {
         const Target &t = kTargets[col];
         const int value = mapCfg(vc4, type, col);
-        if (value < 0 || t.how == Target::Check) {
-            continue;
-        }
-        std::vector<uint32_t> addrs{t.reg};
-        uint32_t bit = t.bit;
-        switch (t.how) {
-            case Target::Vc4Bit:
-                bit += vc4;
-                break;
-            case Target::Au3Bit:
-                bit += slot;
-                break;
-            case Target::Vc4Pair:
-                bit = 2 * vc4;
-                break;
-            case Target::Vc4Reg:
-                addrs = {t.reg + t.step * vc4};
-                if (col == 9) {  // the three receive high-order blocks
-                    addrs = {0x2C040 + 0x40 * vc4, 0x2C140 + 0x40 * vc4, 0x2C240 + 0x40 * vc4};
-                }
-                break;
-            case Target::Au3Reg:
-                addrs = {t.reg + t.step * slot};
-                break;
-            default:
-                break;
-        }
-        for (uint32_t addr : addrs) {
-            regs[addr] = static_cast<uint16_t>(regs[addr] | (value << bit));
+        for (uint32_t k = 0; value >= 0 && k < t.copies; ++k) {
+            uint16_t &reg = regs[t.reg + t.regPerVc4 * vc4 + t.regPerSlot * slot + 0x100 * k];
+            reg = static_cast<uint16_t>(reg | (value << (t.bit + t.bitPerVc4 * vc4 + t.bitPerSlot * slot)));
         }
     }
     return regs;
