@@ -131,6 +131,23 @@ TEST_F(SdhMapTest, EveryTypeOnEverySlotUnderEveryMode) {
     }
 }
 
+// The E3/DS3 bit (2) and the E1/T1 bit (1) of the TDM mode register are checked each on its own: with
+// only one of them set, the rows needing the other value are refused.
+TEST_F(SdhMapTest, ModeChecksReadTheirOwnBit) {
+    const struct {
+        uint16_t tdmReg;
+        uint32_t type, status;
+    } cases[] = {
+        {0x0004, 4, kParaErr}, {0x0004, 5, 0},        {0x0004, 2, 0},        {0x0004, 3, kParaErr},
+        {0x0002, 4, 0},        {0x0002, 5, kParaErr}, {0x0002, 2, kParaErr}, {0x0002, 3, 0},
+    };
+    for (const auto &c : cases) {
+        setModes(0, 0);
+        model.poke(0x000E, c.tdmReg);
+        EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 0, 0, c.type), c.status) << c.tdmReg << " type " << c.type;
+    }
+}
+
 TEST_F(SdhMapTest, ReadBackPrefersTheHigherTypeAndReportsNoMatch) {
     setModes(0, 1);
     ASSERT_EQ(VQ6192_SDH_SetSDHMap(kChip, 1, 2, 8), 0u);
