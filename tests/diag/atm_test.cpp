@@ -28,23 +28,10 @@ class AtmDiagTest : public DiagTest {
     }
 };
 
+// An egress connection, in the order of the connection row: Vcx, Tag, cType, source port/VPI/VCI,
+// destination port/VPI/VCI, Stype, UpcNpc, PolicingId, Qid, Clpt, Fd, Pfd, Red, idx.
 ATM_SRV_CONN egress() {
-    ATM_SRV_CONN c{};
-    c.Vcx = 11;
-    c.Tag = 1;
-    c.cType = 1;
-    c.SrcPort = 2000;
-    c.SrcVpi = 1;
-    c.SrcVci = 100;
-    c.DstPort = 12;
-    c.DstVpi = 2;
-    c.DstVci = 200;
-    c.Stype = 3;
-    c.PolicingId = 40;
-    c.Qid = 8;
-    c.Fd = 1;
-    c.idx = 5;
-    return c;
+    return ATM_SRV_CONN{11, 1, 1, 2000, 1, 100, 12, 2, 200, 3, 0, 40, 8, 0, 1, 0, 0, 5};
 }
 
 TEST_F(AtmDiagTest, FramedValues) {
