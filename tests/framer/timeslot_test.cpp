@@ -123,8 +123,7 @@ TEST_F(TimeslotTest, AFailingTimeslotWriteDoesNotStopTheOthers) {
 TEST_F(TimeslotTest, ReadersDecodeEveryKindOfEntry) {
     model.poke(0x10048, 0x4);  // VC-4 PPP channel 2 enabled
     struct Case {
-        uint16_t raw;
-        uint16_t chnl;
+        uint16_t raw, chnl;
         uint8_t type;
         uint32_t speed;
         uint8_t en;

@@ -84,8 +84,7 @@ TEST_F(SdhOverheadTest, ReceivedBytesOfEachPathKind) {
     VQ6192_Platform_ResetVirtualTime();
     // Received high-order byte types 0..6 and VC-3 byte types 0..6 share one layout.
     struct Loc {
-        uint32_t offset;
-        uint32_t shift;
+        uint32_t offset, shift;
     };
     const Loc layout[7] = {{0x0, 0}, {0x2, 8}, {0x4, 0}, {0x4, 8}, {0x6, 0}, {0x6, 8}, {0x2, 0}};
     for (uint32_t type = 0; type < 7; ++type) {
@@ -192,8 +191,7 @@ TEST_F(SdhOverheadTest, SoftwareInsertionBits) {
 TEST_F(SdhOverheadTest, ErrorInsertion) {
     // High-order B3: value (mode 0), 0x200 + value, 0x300 + value into TH(n)+8 of the three blocks.
     struct Case {
-        uint32_t mode;
-        uint32_t value;
+        uint32_t mode, value;
         uint16_t field;
     };
     for (Case c : {Case{0, 5, 5}, Case{1, 5, 0x205}, Case{2, 0x7F, 0x37F}}) {
@@ -260,8 +258,7 @@ TEST_F(SdhOverheadTest, ErrorInsertion) {
 TEST_F(SdhOverheadTest, ReiErdiModesAndConsequentActions) {
     struct Dir {
         uint32_t dir;
-        bool ing;
-        bool eg;
+        bool ing, eg;
     };
     const uint32_t c = 32 * 1 + 6;
     for (Dir d : {Dir{0, true, false}, Dir{1, false, true}, Dir{2, true, true}}) {
