@@ -2,6 +2,9 @@
 // channel, and the parameter error of chip 3.
 #pragma once
 
+#include <functional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "support/test_support.h"
@@ -50,6 +53,22 @@ class FramerTest : public vqtest::ChipTest {
     }
     void tdm(uint32_t mode) { ASSERT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, mode), 0u); }
     bool wrote() { return !vqtest::writes(model.trace()).empty(); }
+
+    // Each call returns the parameter error, makes no bus access and prints the one parameter error line
+    // under the framer's print module.
+    void expectRefused(const std::vector<std::pair<const char *, std::function<uint32_t()>>> &calls) {
+        model.setTrace(true);
+        for (const auto &[name, call] : calls) {
+            capture.clear();
+            model.clearTrace();
+            EXPECT_EQ(call(), kParaErr) << name;
+            EXPECT_TRUE(model.trace().empty()) << name;
+            ASSERT_EQ(capture.traces.size(), 1u) << name;
+            EXPECT_EQ(capture.traces[0].module, uint32_t{VQ6192_MODULE_FRM}) << name;
+            EXPECT_EQ(capture.traces[0].text, "ParaErr.\r\n") << name;
+        }
+        model.setTrace(false);
+    }
 };
 
 }  // namespace framertest

@@ -80,25 +80,25 @@ TEST_F(TimeslotTest, AllTimeslotsAndDeletionBackToTheClearedEntry) {
         EXPECT_EQ(ints(entry(kIngressSelect, 335, ts), entry(kEgressSelect, 335, ts)),
                   ints(0x9864, ts < 16 ? 0x7800 : 0x9864));
     }
-    EXPECT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 4, 335, 1), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 0, 336, 1), kParaErr);
 }
 
-TEST_F(TimeslotTest, SelectionRefusalsWriteNothing) {
-    model.setTrace(true);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 2, 0x3, 2), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 2, 0x3, 5), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 336, 7, 2, 0x3, 3), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 512, 2, 0x3, 3), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 0, 0x3, 3), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 5, 0x3, 3), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 2, 12, 7, 2), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 2, 0, 7, 4), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 4, 0, 2), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 0, 4, 2), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 0, 0x300, 2), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SetTSTab(kChip, 0, 0, 0, nullptr), kParaErr);
-    EXPECT_TRUE(model.trace().empty());
+TEST_F(TimeslotTest, SelectionRefusalsTouchNothing) {
+    expectRefused({
+        {"speed 2", [] { return VQ6192_Framer_SelectSrcE1(3, 2, 5, 7, 2, 0x3, 2); }},
+        {"speed 5", [] { return VQ6192_Framer_SelectSrcE1(3, 2, 5, 7, 2, 0x3, 5); }},
+        {"e1 336", [] { return VQ6192_Framer_SelectSrcE1(3, 2, 336, 7, 2, 0x3, 3); }},
+        {"channel 512", [] { return VQ6192_Framer_SelectSrcE1(3, 2, 5, 512, 2, 0x3, 3); }},
+        {"type 0", [] { return VQ6192_Framer_SelectSrcE1(3, 2, 5, 7, 0, 0x3, 3); }},
+        {"type 5", [] { return VQ6192_Framer_SelectSrcE1(3, 2, 5, 7, 5, 0x3, 3); }},
+        {"e3 12", [] { return VQ6192_Framer_SelectSrcE3(3, 2, 12, 7, 2); }},
+        {"e3 type 4", [] { return VQ6192_Framer_SelectSrcE3(3, 2, 0, 7, 4); }},
+        {"vc4 4", [] { return VQ6192_Framer_SelectSrcVC4(3, 2, 4, 0, 2); }},
+        {"vc4 type 4", [] { return VQ6192_Framer_SelectSrcVC4(3, 2, 0, 4, 2); }},
+        {"vc4 channel 0x300", [] { return VQ6192_Framer_SelectSrcVC4(3, 2, 0, 0x300, 2); }},
+        {"table null", [] { return VQ6192_Framer_SetTSTab(3, 0, 0, 0, nullptr); }},
+        {"delete direction 4", [] { return VQ6192_Framer_DeleteSrcE1(3, 4, 335, 1); }},
+        {"delete e1 336", [] { return VQ6192_Framer_DeleteSrcE1(3, 0, 336, 1); }},
+    });
 }
 
 TEST_F(TimeslotTest, AFailingTimeslotWriteDoesNotStopTheOthers) {
