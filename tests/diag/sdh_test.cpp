@@ -1,6 +1,7 @@
 // Diagnostic commands of the SDH and telecom bus family: reports byte for byte, statuses, help blocks
 // and the registry rows.
 #include <cstring>
+#include <map>
 #include <set>
 #include <sstream>
 #include <string>
@@ -143,17 +144,12 @@ const char kNames[] =
 const std::set<std::string> kNoHelp = {"getsdhmap",         "getsdhmaps",    "getvc4tuaisinsen",
                                        "getsonetb3chkmode", "getmaploopcfg", "getodlpsscfg"};
 
+// The help companion of a command: its name and "_h", but for three.
 std::string helpOf(const std::string &name) {
-    if (name == "getlpalms") {
-        return "getlpalmhis_h";
-    }
-    if (name == "getb2c1j1speerrhis") {
-        return "gettelerxc1j1allerrhis_h";
-    }
-    if (name == "getb2c1j1speerr") {
-        return "gettelerxc1j1allerr_h";
-    }
-    return name + "_h";
+    const std::map<std::string, std::string> other = {{"getlpalms", "getlpalmhis_h"},
+                                                      {"getb2c1j1speerrhis", "gettelerxc1j1allerrhis_h"},
+                                                      {"getb2c1j1speerr", "gettelerxc1j1allerr_h"}};
+    return other.count(name) != 0 ? other.at(name) : name + "_h";
 }
 
 TEST_F(SdhDiagTest, EveryCommandAndHelpIsRegistered) {
