@@ -20,6 +20,12 @@ inline std::string framed(const std::string &title, const std::string &lines,
     return sep + "        " + title + "\n" + sep + lines + sep;
 }
 
+// Several outputs in one comparison: EXPECT_EQ(ints(mode, value), ints(1, 0x5A)).
+template <typename... T>
+std::vector<int> ints(T... v) {
+    return {static_cast<int>(v)...};
+}
+
 // A command called without a buffer: the status it returns, and whether it still queries the chip.
 struct Unbuffered {
     const char *what;

@@ -93,13 +93,10 @@ TEST_F(PppDiagTest, SetterLayouts) {
     EXPECT_EQ(text(), "     startcobccap() is OK\n");
     EXPECT_EQ(startcobccap(kChip, 4096, buf.data()), 0x03040001u);
     EXPECT_EQ(text(), "     startcobccap() is FAIL\n");
-    // The packed word: bRxafi bit 0, bMpv bits 1..8, bChnEn bit 9.
-    uint32_t afid = 0;
+    // The packed word 0x203: bRxafi bit 0, bMpv bits 1..8, bChnEn bit 9.
     VQ6192_PPP_PPU_CFG_S cfg{};
     ASSERT_EQ(VQ6192_PPP_GetPppPpuCfg(kChip, 4, &cfg), 0u);
-    afid = cfg.bRxafi | cfg.bMpv << 1 | cfg.bChnEn << 9;
-    EXPECT_EQ(afid, 0x3u | 1u << 9);
-    EXPECT_EQ(cfg.dwRxMtu, 1500u);
+    EXPECT_EQ(ints(cfg.bRxafi, cfg.bMpv, cfg.bChnEn, cfg.dwRxMtu), ints(1, 1, 1, 1500));
 }
 
 TEST_F(PppDiagTest, DdrCaptureCommands) {
