@@ -7,8 +7,9 @@
 namespace sdhtest {
 namespace {
 
-// CRC-7 by polynomial long division: the message bits (MSB first) times x^7 modulo x^7 + x^3 + 1.
-uint8_t referenceCrc7(std::vector<uint8_t> msg) {
+// CRC-7 by polynomial long division: the message bits (MSB first) followed by seven 0 bits, each
+// shifted into the remainder, which sheds x^7 + x^3 + 1 (0x89) whenever its bit 7 comes up.
+uint8_t referenceCrc7(const std::vector<uint8_t> &msg) {
     std::vector<int> bits;
     for (uint8_t b : msg) {
         for (int i = 7; i >= 0; --i) {
@@ -16,19 +17,12 @@ uint8_t referenceCrc7(std::vector<uint8_t> msg) {
         }
     }
     bits.insert(bits.end(), 7, 0);
-    const int poly[8] = {1, 0, 0, 0, 1, 0, 0, 1};
-    for (size_t i = 0; i + 7 < bits.size(); ++i) {
-        if (bits[i] != 0) {
-            for (int j = 0; j < 8; ++j) {
-                bits[i + j] ^= poly[j];
-            }
-        }
+    uint32_t rem = 0;
+    for (int bit : bits) {
+        rem = (rem << 1) | static_cast<uint32_t>(bit);
+        rem ^= (rem & 0x80) != 0 ? 0x89 : 0;
     }
-    uint8_t crc = 0;
-    for (size_t i = bits.size() - 7; i < bits.size(); ++i) {
-        crc = static_cast<uint8_t>((crc << 1) | bits[i]);
-    }
-    return crc;
+    return static_cast<uint8_t>(rem);
 }
 
 // The first byte of a 16-byte trace: 1, then the CRC-7 of the trace with that byte taken as 0x80.
