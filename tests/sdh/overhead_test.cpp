@@ -282,24 +282,18 @@ TEST_F(SdhOverheadTest, ReiErdiModesAndConsequentActions) {
     for (uint32_t v = 0; v < 4; ++v) {
         EXPECT_EQ(model.peek(lt(v, 32)), v == 2 ? 0xFFFF : 0xFFFD) << v;
     }
-    // Consequent actions: 0..4 enables in LR+0xE bits 3, 5, 4, 1, 0; 5..9 disables in LT+2 bits 2, 4, 3,
-    // 0, 1.
-    const uint32_t rxBits[5] = {3, 5, 4, 1, 0};
-    const uint32_t txBits[5] = {2, 4, 3, 0, 1};
+    // Consequent actions 0..4 are enables in LR+0xE (bits 3, 5, 4, 1, 0), 5..9 disables in LT+2 (bits 2,
+    // 4, 3, 0, 1) of a register of ones.
+    const uint16_t rx[10] = {0x0008, 0x0020, 0x0010, 0x0002, 0x0001, 0, 0, 0, 0, 0};
+    const uint16_t tx[10] = {0xFFFF, 0xFFFF, 0xFFFF, 0xFFFF, 0xFFFF, 0xFFFB, 0xFFEF, 0xFFF7, 0xFFFE, 0xFFFD};
     for (uint32_t type = 0; type < 10; ++type) {
         model.poke(lr(0, 5) + 0xE, 0);
         model.poke(lt(0, 5) + 2, 0xFFFF);
-        ASSERT_EQ(VQ6192_SDH_SetSdhLpTranInsert(kChip, 0, 0, 5, type, 1), 0u);
-        if (type < 5) {
-            EXPECT_EQ(model.peek(lr(0, 5) + 0xE), 1u << rxBits[type]) << type;
-            EXPECT_EQ(model.peek(lt(0, 5) + 2), 0xFFFF) << type;
-        } else {
-            EXPECT_EQ(model.peek(lt(0, 5) + 2), 0xFFFF ^ (1u << txBits[type - 5])) << type;
-            EXPECT_EQ(model.peek(lr(0, 5) + 0xE), 0) << type;
-        }
         uint8_t en = 9;
+        ASSERT_EQ(VQ6192_SDH_SetSdhLpTranInsert(kChip, 0, 0, 5, type, 1), 0u);
         ASSERT_EQ(VQ6192_SDH_GetSdhLpTranInsert(kChip, 0, 0, 5, type, &en), 0u);
-        EXPECT_EQ(en, 1) << type;
+        EXPECT_EQ(ints(model.peek(lr(0, 5) + 0xE), model.peek(lt(0, 5) + 2), en), ints(rx[type], tx[type], 1))
+            << type;
     }
     EXPECT_EQ(VQ6192_SDH_SetSdhLpTranInsert(kChip, 0, 0, 5, 10, 1), kParaErr);
 }
