@@ -4,22 +4,19 @@
 #include <string>
 #include <vector>
 
-#include "support/test_support.h"
+#include "diag/diag_test.h"
 #include "vq6192/ces.h"
 #include "vq6192/eth.h"
 
+namespace diagtest {
 namespace {
 
-using CesCommands = vqtest::ChipTest;
-
-constexpr char kSep[] = "n-------------------------------------------------\n";
+using CesCommands = DiagTest;
 
 TEST_F(CesCommands, ReportsByteForByte) {
-    std::vector<char> buf(VQ6192_DIAG_BUF_SIZE, '#');
     model.poke(0x15000 + 2 * 9, 0x0001);
     ASSERT_EQ(getceschanenable(kChip, 9, buf.data()), 0u);
-    EXPECT_EQ(std::string(buf.data()), std::string(kSep) + "        GetCesChanEnable()\n" + kSep +
-                                           " rdwEnable    :    0x1(1)\n" + kSep);
+    EXPECT_EQ(text(), framed("GetCesChanEnable()", " rdwEnable    :    0x1(1)\n"));
 
     model.poke(0x15800 + 2 * 9, 0x1C7);  // clock select 7, 7 frames
     model.poke(0x15C00 + 2 * 9, 300);
@@ -28,7 +25,7 @@ TEST_F(CesCommands, ReportsByteForByte) {
     ASSERT_EQ(VQ6192_CES_SetCesTSCompress(kChip, 9, 0xF0, 2), 0u);
     ASSERT_EQ(VQ6192_CES_SetCesIdleCode(kChip, 9, 0x7E), 0u);
     ASSERT_EQ(getceschanpara(kChip, 9, buf.data()), 0u);
-    EXPECT_EQ(std::string(buf.data()),
+    EXPECT_EQ(text(),
               "        GetCesChanPara()\n"
               "    | dwTsCompressBitmap   : 0xf0      (240       ) \n"
               "    | byIdleCode           : 0x7e      (126       ) \n"
@@ -43,7 +40,7 @@ TEST_F(CesCommands, ReportsByteForByte) {
     ASSERT_EQ(getcescrmode(kChip, buf.data()), 0u);
     const std::string crmode(buf.data());
     EXPECT_EQ(crmode.substr(0, crmode.find(" 0   ")),
-              std::string(kSep) + "        GetCesCRMode()\n" + kSep +
+              kNSep + "        GetCesCRMode()\n" + kNSep +
                   "  wClkRateMode(0:E1/T1, 1: E3/T3, 2: VC4)\n  wTrPLCEn    (0:DISABLE, 1: ENABLE)\n"
                   "  eTrMode(0:CR_DIFF, 2: CR_STAMP, 4: CR_NONE)\n"
                   " Index    wCesChanNo    wClkRateMode    wTrPLCEn    eTrMode\n");
@@ -52,7 +49,7 @@ TEST_F(CesCommands, ReportsByteForByte) {
 
     ASSERT_EQ(DbgGetCesPara(kChip, 9, 10, buf.data()), 0u);
     EXPECT_EQ(
-        std::string(buf.data()),
+        text(),
         "n--------------------------------------------CES PARA---------------------------------------------\n"
         "CH BITMAP       IDLE FRAM  JB_DELAY  JTR_DEPTH    RTP_EN  CW_RTP  PT   TX_SSRC     RX_SSRC     TR\n"
         " 9 0xf0         0x7e  07     150        300         0       0    0x00  0x0         0x0         5 \n"
@@ -71,7 +68,6 @@ TEST_F(CesCommands, NullBufferAndRanges) {
     EXPECT_TRUE(model.trace().empty());
     model.setTrace(false);
 
-    std::vector<char> buf(VQ6192_DIAG_BUF_SIZE);
     ASSERT_EQ(DbgGetCesPara(kChip, 0, 0, buf.data()), 0u);
     const std::string text(buf.data());
     EXPECT_NE(text.find("\n 1e 0x"), std::string::npos) << "channel 30 listed";
@@ -86,9 +82,8 @@ TEST_F(CesCommands, ConfigurationOverview) {
     ASSERT_EQ(VQ6192_CES_CreateCesChan(kChip, &d), 0u);
     ASSERT_EQ(VQ6192_CES_SetCesChanEnable(kChip, 3, 1), 0u);
     ASSERT_EQ(VQ6192_ETH_SetAtmCesPMUEncpLbl(kChip, 3, 3, 1, 0x777, 0x500), 0u);
-    std::vector<char> buf(VQ6192_DIAG_BUF_SIZE);
     ASSERT_EQ(DbgGetCesConfig(kChip, 3, 4, buf.data()), 0u);
-    EXPECT_EQ(std::string(buf.data()),
+    EXPECT_EQ(text(),
               "n-------------------------------CES CHAN----------------------------\n"
               "CH     ENABLE   E1  TIMESLOT    LABEL_EN  TYPE  LABEL_IN    LABEL_E\n"
               " 3       1    0x2   0xe             1      0    0x500       0x777   \n"
@@ -96,3 +91,4 @@ TEST_F(CesCommands, ConfigurationOverview) {
 }
 
 }  // namespace
+}  // namespace diagtest

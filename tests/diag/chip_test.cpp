@@ -2,35 +2,24 @@
 // without a buffer, and the status they return.
 #include <algorithm>
 #include <cstdio>
-#include <functional>
-#include <string>
-#include <vector>
 
-#include "support/test_support.h"
+#include "diag/diag_test.h"
 #include "vq6192/chip.h"
 #include "vq6192/sim/chip_control.h"
 
+namespace diagtest {
 namespace {
 
 using vq6192::sim::BusAccess;
 using vq6192::sim::ChipControlBlock;
 
-// ((chip << 24) & 0x0F000000) + (module BASE << 16) + error, for chip 3 and the out-of-range chip 264.
+// The out-of-range chip 264 and its parameter error.
 constexpr uint32_t kBadChip = 264;
 constexpr uint32_t kBadChipPara = 0x08010001;
-const std::string kSep = "n-------------------------------------------------\n";
 
-class ChipDiag : public vqtest::ChipTest {
+class ChipDiag : public DiagTest {
   protected:
     ChipControlBlock &control() { return model.block<ChipControlBlock>(); }
-    std::string run(const std::function<uint32_t(char *)> &cmd, uint32_t *status = nullptr) {
-        std::vector<char> buf(VQ6192_DIAG_BUF_SIZE, '#');
-        const uint32_t rc = cmd(buf.data());
-        if (status != nullptr) {
-            *status = rc;
-        }
-        return buf.data();
-    }
 };
 
 TEST_F(ChipDiag, ReportsByteForByte) {
@@ -49,21 +38,21 @@ TEST_F(ChipDiag, ReportsByteForByte) {
     };
     const Case cases[] = {
         {[](char *b) { return getversion(kChip, b); },
-         kSep + "        GetVersion()\n" + kSep + "n Ver:   VQ6192V0a1b DRV REL 2.5.600  \n  " + kSep, 0},
+         framed("GetVersion()", "n Ver:   VQ6192V0a1b DRV REL 2.5.600  \n  "), 0},
         {[](char *b) { return getchipstatus(kChip, b); },
-         kSep + "        GetChipStatus()\n" + kSep + " byChipStatus    :    0x1(1)\n" + kSep, 0x03010007},
+         framed("GetChipStatus()", " byChipStatus    :    0x1(1)\n"), 0x03010007},
         {[](char *b) { return gete3outclksel(kChip, b); },
-         kSep + "        GetE3OutClkSel()\n" + kSep + " reOutClkSel    :    0x0(0)\n" + kSep, 0},
+         framed("GetE3OutClkSel()", " reOutClkSel    :    0x0(0)\n"), 0},
         {[](char *b) { return getmacclksel(kChip, b); },
-         kSep +
+         kNSep +
              "        GetMacClkSel()\n    0: CDK_FE_VQ6192_MAC_CLK_SERDES, 1: CDK_FE_VQ6192_MAC_CLK_PLL\n" +
-             kSep + " reMacClkSel    :    0x0(0)\n" + kSep,
+             kNSep + " reMacClkSel    :    0x0(0)\n" + kNSep,
          0},
         {[](char *b) { return getclkdetectsel(kBadChip, b); },
-         kSep +
+         kNSep +
              "        GetClkDetectSel()\n    0: CDK_FE_VQ6192_CLK_DETECT_SERDES, 1: "
              "CDK_FE_VQ6192_CLK_DETECT_HW\n" +
-             kSep + " reClkDetectSel    :    0x0(0)\n" + kSep,
+             kNSep + " reClkDetectSel    :    0x0(0)\n" + kNSep,
          kBadChipPara},
         {[](char *b) { return getpllpowerdown(kChip, 2, b); },
          "        GetPLLPowerDown()\n"
@@ -168,12 +157,7 @@ TEST_F(ChipDiag, WithoutABuffer) {
     // Framed values and the service reports query the chip anyway and return its status; the register
     // test and the field tables leave the chip alone and return 0.
     control().setNonInvertingBits(0xFFFF);
-    const struct {
-        const char *what;
-        std::function<uint32_t()> cmd;
-        bool queries;
-        uint32_t status;
-    } cases[] = {
+    expectUnbuffered({
         {"getversion", [] { return getversion(kChip, nullptr); }, true, 0},
         {"getversion, bad chip", [] { return getversion(kBadChip, nullptr); }, false, kBadChipPara},
         {"getchipstatus", [] { return getchipstatus(kChip, nullptr); }, false, 0},
@@ -183,15 +167,7 @@ TEST_F(ChipDiag, WithoutABuffer) {
         {"getclkdetectsel, bad chip", [] { return getclkdetectsel(kBadChip, nullptr); }, false, kBadChipPara},
         {"getsrvpowerdownen", [] { return getsrvpowerdownen(kChip, nullptr); }, true, 0},
         {"getsrvpdstat", [] { return getsrvpdstat(kChip, nullptr); }, true, 0},
-    };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.what);
-        model.clearTrace();
-        model.setTrace(true);
-        EXPECT_EQ(c.cmd(), c.status);
-        model.setTrace(false);
-        EXPECT_EQ(!model.trace().empty(), c.queries) << model.trace().size() << " bus accesses";
-    }
+    });
     // The version comes from its two registers, nothing else.
     model.clearTrace();
     model.setTrace(true);
@@ -204,3 +180,4 @@ TEST_F(ChipDiag, WithoutABuffer) {
 }
 
 }  // namespace
+}  // namespace diagtest

@@ -4,29 +4,19 @@
 #include <string>
 #include <vector>
 
+#include "diag/diag_test.h"
 #include "diag/registry.h"
-#include "support/test_support.h"
 #include "vq6192/eth.h"
 #include "vq6192/sim/eth.h"
 #include "vq6192/sim/mac.h"
 
+namespace diagtest {
 namespace {
 
-const std::string kSep = "\n-------------------------------------------------\n";
-const std::string kNSep = "n-------------------------------------------------\n";
-
-class EthDiag : public vqtest::ChipTest {
+class EthDiag : public DiagTest {
   protected:
     vq6192::sim::MacBlock &mac() { return model.block<vq6192::sim::MacBlock>(); }
     vq6192::sim::EthBlock &eth() { return model.block<vq6192::sim::EthBlock>(); }
-    std::string run(const std::function<uint32_t(char *)> &cmd, uint32_t *status = nullptr) {
-        std::vector<char> buf(VQ6192_DIAG_BUF_SIZE, '#');
-        const uint32_t rc = cmd(buf.data());
-        if (status != nullptr) {
-            *status = rc;
-        }
-        return buf.data();
-    }
 };
 
 TEST_F(EthDiag, ReportsByteForByte) {
@@ -47,11 +37,11 @@ TEST_F(EthDiag, ReportsByteForByte) {
     };
     const Case cases[] = {
         {"getegmplsbase", [](char *b) { return getegmplsbase(kChip, 0, b); },
-         kSep + "        GetEgMplsBase()\n" + kSep + " rdwBase    :    0x10002(65538)\n" + kSep, 0},
+         framed("GetEgMplsBase()", " rdwBase    :    0x10002(65538)\n", kLSep), 0},
         {"getmaclinkstat", [](char *b) { return getmaclinkstat(kChip, 2, b); },
-         kNSep + "        GetMACLinkStat()\n" + kNSep + " rdwLinkStat    :    0x1(1)\n" + kNSep, 0},
+         framed("GetMACLinkStat()", " rdwLinkStat    :    0x1(1)\n"), 0},
         {"getingvlanid refused", [](char *b) { return getingvlanid(kChip, 4, 0, b); },
-         kNSep + "        GetIngVlanID()\n" + kNSep + " rdwVlanId    :    0x0(0)\n" + kNSep, 0x03050001},
+         framed("GetIngVlanID()", " rdwVlanId    :    0x0(0)\n"), 0x03050001},
         {"getpmugreglbattr", [](char *b) { return getpmugreglbattr(kChip, b); },
          "        GetPMUGreGlbAttr()\n"
          "    | byVer                    : 0x5       (5         ) \n"
@@ -77,11 +67,11 @@ TEST_F(EthDiag, ReportsByteForByte) {
          "   CaptureData: \r\n\n",
          0x03050003},
         {"cdk_getportworkmode", [](char *b) { return cdk_getportworkmode(kChip, 1, b); },
-         kSep + "        GetPortWorkMode()\n" + kSep + " reWorkMode    :    0x1(1)\n" + kSep, 0},
+         framed("GetPortWorkMode()", " reWorkMode    :    0x1(1)\n", kLSep), 0},
         {"cdk_getportpausemode", [](char *b) { return cdk_getportpausemode(kChip, 2, b); },
-         kSep + "        GetPortPauseMode()\n" + kSep + " reFcMode    :    0x3(3)\n" + kSep, 0},
+         framed("GetPortPauseMode()", " reFcMode    :    0x3(3)\n", kLSep), 0},
         {"cdk_getportlinkstatus", [](char *b) { return cdk_getportlinkstatus(kChip, 2, 99, b); },
-         kSep + "        GetPortLinkStatus()\n" + kSep + " reLinkStatus    :    0x1(1)\n" + kSep, 0},
+         framed("GetPortLinkStatus()", " reLinkStatus    :    0x1(1)\n", kLSep), 0},
         {"cdk_setporttxen port 3", [](char *b) { return cdk_setporttxen(kChip, 3, 1, b); },
          "        cdk_setporttxen() is FAIL\n", 0x03060001},
         {"cdk_setportmaxpktlencfg", [](char *b) { return cdk_setportmaxpktlencfg(kChip, 0, 9000, b); },
@@ -221,3 +211,4 @@ TEST_F(EthDiag, EveryCommandHasARegistryRow) {
 }
 
 }  // namespace
+}  // namespace diagtest

@@ -4,20 +4,17 @@
 #include <string>
 #include <vector>
 
-#include "support/test_support.h"
+#include "diag/diag_test.h"
 #include "vq6192/ima.h"
 #include "vq6192/sim/ima_processor.h"
 
+namespace diagtest {
 namespace {
 
 using Proc = vq6192::sim::ImaProcessor;
 
-constexpr char kSep[] = "\n-------------------------------------------------\n";
-
-class ImaDiagTest : public vqtest::ChipTest {
+class ImaDiagTest : public DiagTest {
   protected:
-    std::vector<char> buf = std::vector<char>(VQ6192_DIAG_BUF_SIZE);
-    std::string text() const { return std::string(buf.data()); }
     Proc &proc() { return model.block<Proc>(); }
     std::vector<std::string> lines() const {
         std::vector<std::string> out;
@@ -33,8 +30,9 @@ class ImaDiagTest : public vqtest::ChipTest {
 TEST_F(ImaDiagTest, FramedCommands) {
     model.poke(0x4C10, 0x00AE);
     ASSERT_EQ(getimalinkparam(kChip, buf.data()), 0u);
-    EXPECT_EQ(text(), std::string(kSep) + "        GetImaLinkParam()\n" + kSep +
-                          " wAlpha    :    0x2(2)\n wBeta    :    0x3(3)\n wGamma    :    0x5(5)\n" + kSep);
+    EXPECT_EQ(text(),
+              framed("GetImaLinkParam()",
+                     " wAlpha    :    0x2(2)\n wBeta    :    0x3(3)\n wGamma    :    0x5(5)\n", kLSep));
     model.poke(0x4418, 250);
     ASSERT_EQ(getimatimetick(kChip, buf.data()), 0u);
     EXPECT_NE(text().find(" wTimeTick    :    0xfa(250)\n"), std::string::npos);
@@ -204,3 +202,4 @@ TEST_F(ImaDiagTest, HardwareSnapshotLayouts) {
 }
 
 }  // namespace
+}  // namespace diagtest

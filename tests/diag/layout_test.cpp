@@ -1,4 +1,6 @@
-// The recurring report layouts, byte for byte, and their bound at the end of the buffer.
+// The recurring report layouts where no command pins them: a signed value in a framed report, the cut
+// at the end of a short buffer, an empty report, and no buffer at all. (The chip, SDH, Ethernet and framer
+// command tests pin each layout byte for byte as the commands print it.)
 #include <gtest/gtest.h>
 
 #include <string>
@@ -9,63 +11,29 @@
 namespace {
 
 using vq::TextBuilder;
-using vq::diag::Field;
 
-TEST(DiagLayout, ReportsByteForByte) {
+TEST(DiagLayout, SignedValueCutEmptyAndNoBuffer) {
     std::vector<char> buf(VQ6192_DIAG_BUF_SIZE);
-    struct Case {
-        const char *what;
-        void (*write)(TextBuilder &);
-        const char *expected;
-    };
-    const Case cases[] = {
-        {"framed value, chip separator",
-         [](TextBuilder &t) {
-             vq::diag::framed(t, vq::diag::kSep, "GetSdsTxclkSel()", {{"reClkSel", 17}});
-         },
-         "n-------------------------------------------------\n"
-         "        GetSdsTxclkSel()\n"
-         "n-------------------------------------------------\n"
-         " reClkSel    :    0x11(17)\n"
-         "n-------------------------------------------------\n"},
-        {"framed value, MAC separator, two lines",
-         [](TextBuilder &t) {
-             vq::diag::framed(t, vq::diag::kMacSep, "GetPortWorkMode()", {{"a", 1}, {"b", 0xFFFFFFFF}},
-                              " %s    :    0x%x(%d)\n");
-         },
-         "\n-------------------------------------------------\n"
-         "        GetPortWorkMode()\n"
-         "\n-------------------------------------------------\n"
-         " a    :    0x1(1)\n"
-         " b    :    0xffffffff(-1)\n"
-         "\n-------------------------------------------------\n"},
-        {"field table",
-         [](TextBuilder &t) {
-             vq::diag::fieldTable(t, "GetDDRCntStats()", {{"wDDR2CIMACRCERRCNT", 5}},
-                                  "    | %-26s: 0x%-8x(%-10d)  \n");
-         },
-         "        GetDDRCntStats()\n"
-         "    | wDDR2CIMACRCERRCNT        : 0x5       (5         )  \n"
-         "     PRINT_END\n"},
-        {"set result OK", [](TextBuilder &t) { vq::diag::setResult(t, "cdk_setporttxen", 0); },
-         "        cdk_setporttxen() is OK\n"},
-        {"set result FAIL", [](TextBuilder &t) { vq::diag::setResult(t, "cdk_setporttxen", 0x00090001); },
-         "        cdk_setporttxen() is FAIL\n"},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
-        TextBuilder text(buf.data());
-        c.write(text);
-        EXPECT_EQ(std::string(buf.data()), c.expected);
-    }
-}
+    TextBuilder full(buf.data());
+    vq::diag::framed(full, vq::diag::kMacSep, "GetPortWorkMode()", {{"a", 1}, {"b", 0xFFFFFFFF}},
+                     " %s    :    0x%x(%d)\n");
+    EXPECT_EQ(std::string(buf.data()),
+              "\n-------------------------------------------------\n"
+              "        GetPortWorkMode()\n"
+              "\n-------------------------------------------------\n"
+              " a    :    0x1(1)\n"
+              " b    :    0xffffffff(-1)\n"
+              "\n-------------------------------------------------\n");
 
-TEST(DiagLayout, CutAtTheBufferAndSilentWithoutOne) {
-    std::vector<char> buf(64, '#');
-    TextBuilder text(buf.data(), 40);
+    std::vector<char> small(64, '#');
+    TextBuilder text(small.data(), 40);
     vq::diag::framed(text, vq::diag::kSep, "GetVersion()", {{"x", 1}});
-    EXPECT_EQ(std::string(buf.data()), std::string(vq::diag::kSep).substr(0, 39));
-    EXPECT_EQ(buf[40], '#') << "nothing past the buffer";
+    EXPECT_EQ(std::string(small.data()), std::string(vq::diag::kSep).substr(0, 39));
+    EXPECT_EQ(small[40], '#') << "nothing past the buffer";
+
+    std::vector<char> empty(8, '#');
+    TextBuilder nothing(empty.data(), empty.size());
+    EXPECT_EQ(std::string(empty.data(), 1), std::string(1, '\0')) << "terminated before anything is added";
 
     TextBuilder none(nullptr);
     vq::diag::setResult(none, "x", 0);

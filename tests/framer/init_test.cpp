@@ -3,19 +3,14 @@
 #include <chrono>
 #include <set>
 
-#include "support/test_support.h"
-#include "vq6192/framer.h"
+#include "framer/framer_test.h"
 #include "vq6192/ppp.h"
 #include "vq6192/sdh.h"
-#include "vq6192/sim/framers.h"
 
+namespace framertest {
 namespace {
 
-using vq6192::sim::BusOp;
-using vq6192::sim::Framers;
-using vqtest::ChipTest;
-
-using FramerInit = ChipTest;
+using FramerInit = FramerTest;
 
 TEST_F(FramerInit, WholeRegisterEffectForEachModeAndLineType) {
     struct Case {
@@ -68,12 +63,9 @@ TEST_F(FramerInit, WholeRegisterEffectForEachModeAndLineType) {
                 accounted.insert(oh);
             }
         }
-        EXPECT_EQ(model.peek(0x2034), 0x00F0);
-        EXPECT_EQ(model.peek(0x20800), c.delay0);
-        EXPECT_EQ(model.peek(0x20802), c.delay1);
-        EXPECT_EQ(model.peek(0x22002), 0x00F0);
-        EXPECT_EQ(model.peek(0x2A000), 0x1000);
-        EXPECT_EQ(model.peek(0x20006), c.line);
+        EXPECT_EQ(ints(model.peek(0x2034), model.peek(0x20800), model.peek(0x20802), model.peek(0x22002),
+                       model.peek(0x2A000), model.peek(0x20006)),
+                  ints(0x00F0, c.delay0, c.delay1, 0x00F0, 0x1000, c.line));
         accounted.insert({0x2034, 0x20800, 0x20802, 0x22002, 0x2A000, 0x20006});
         for (uint32_t slot = 0; slot < 12; ++slot) {
             uint8_t type = 0;
@@ -117,7 +109,7 @@ TEST_F(FramerInit, AMapTheModesRefuseStopsTheInitialisation) {
               "Err. VQ6192_Framer_FrmInit.VQ6192_SDH_SetSDHMap(3,0,0,6)       ErrCode[0x3080001]\r\n");
 }
 
-using ServiceLookup = ChipTest;
+using ServiceLookup = FramerTest;
 
 TEST_F(ServiceLookup, FindsTheFirstChannelCarryingTheService) {
     // Egress E1/T1 table, channel 200 timeslot 7: PPP channel 1 (a VC-4 PPP channel: inner 0x200),
@@ -145,3 +137,4 @@ TEST_F(ServiceLookup, FindsTheFirstChannelCarryingTheService) {
 }
 
 }  // namespace
+}  // namespace framertest

@@ -1,24 +1,11 @@
 // The PRBS engines: register effects of the generators and checkers, their refusals and read-back,
 // error insertion, alarms and counters, and the CES PRBS marking.
-#include "support/test_support.h"
-#include "vq6192/framer.h"
+#include "framer/framer_test.h"
 
+namespace framertest {
 namespace {
 
-using vq6192::sim::BusOp;
-using vq6192::sim::TableEngine;
-using vqtest::ChipTest;
-
-constexpr uint32_t kParaErr = 0x030E0001;
-
-class PrbsTest : public ChipTest {
-  protected:
-    void TearDown() override {
-        g_uiPrbsFlag[kChip] = 0;
-        ChipTest::TearDown();
-    }
-    bool wrote() { return !vqtest::writes(model.trace()).empty(); }
-};
+using PrbsTest = FramerTest;
 
 TEST_F(PrbsTest, MapperGeneratorRegisters) {
     struct Case {
@@ -38,19 +25,14 @@ TEST_F(PrbsTest, MapperGeneratorRegisters) {
         SCOPED_TRACE(testing::Message() << "path type " << c.pathType);
         model.reset();
         ASSERT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, c.pathType, &c.gen, c.enable), 0u);
-        EXPECT_EQ(model.peek(0x20402), c.genReg);
-        EXPECT_EQ(model.peek(0x20406), c.pathReg);
-        EXPECT_EQ(model.peek(0x20408), c.chkReg);
-        EXPECT_EQ(g_uiPrbsFlag[kChip], c.enable);
+        EXPECT_EQ(ints(model.peek(0x20402), model.peek(0x20406), model.peek(0x20408), g_uiPrbsFlag[kChip]),
+                  ints(c.genReg, c.pathReg, c.chkReg, c.enable));
         VQ6192_FRM_PRBS_INS_ATTR_S back{};
         uint8_t enable = 9;
         ASSERT_EQ(VQ6192_Framer_GetPRBSInsAttr(kChip, c.pathType, &back, &enable), 0u);
-        EXPECT_EQ(enable, c.enable);
-        EXPECT_EQ(back.ulMode, c.gen.ulMode);
-        EXPECT_EQ(back.ulFlag, c.gen.ulFlag);
-        EXPECT_EQ(back.ulPattern, c.gen.ulPattern);
-        EXPECT_EQ(back.ucEnFlag, c.gen.ucEnFlag);
-        EXPECT_EQ(back.ulSel, c.pathType >= 2 ? c.gen.ulSel : 0u);
+        EXPECT_EQ(ints(enable, back.ulMode, back.ulFlag, back.ulPattern, back.ucEnFlag, back.ulSel),
+                  ints(c.enable, c.gen.ulMode, c.gen.ulFlag, c.gen.ulPattern, c.gen.ucEnFlag,
+                       c.pathType >= 2 ? c.gen.ulSel : 0u));
         EXPECT_EQ(back.usPath, c.pathType == 0 ? 33 : c.gen.usPath) << "stored path, not converted back";
     }
     EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttrNew(kChip, 1, &cases[1].gen, 1), 0u);
@@ -59,45 +41,38 @@ TEST_F(PrbsTest, MapperGeneratorRegisters) {
 TEST_F(PrbsTest, MapperGeneratorRefusals) {
     const VQ6192_FRM_PRBS_INS_ATTR_S good{0, 1, 0, 0, 10, 0};
     model.setTrace(true);
-    auto with = [&](auto change) {
-        VQ6192_FRM_PRBS_INS_ATTR_S g = good;
-        change(g);
-        return g;
-    };
     using A = VQ6192_FRM_PRBS_INS_ATTR_S;
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 4, &good, 1), kParaErr);
+    // Field checks come before anything changes; the path checks come after the PRBS flag, so a refused
+    // path still updates it, writes nothing, and stopping with one still clears the run bit.
+    const struct {
+        uint32_t pathType;
+        A attr;  // select, mode, flag, pattern, path, enable flag
+        uint32_t enable, flag;
+    } cases[] = {
+        {4, good, 1, 0},
+        {0, {2, 1, 0, 0, 10, 0}, 1, 0},
+        {0, {0, 4, 0, 0, 10, 0}, 1, 0},
+        {0, {0, 1, 2, 0, 10, 0}, 1, 0},
+        {0, {0, 1, 0, 7, 10, 0}, 1, 0},
+        {0, {0, 1, 0, 0, 10, 2}, 1, 0},
+        {0, good, 2, 0},
+        {0, {0, 1, 0, 0, 252, 0}, 1, 1},
+        {1, {0, 1, 0, 0, 336, 0}, 1, 1},
+        {1, {0, 2, 0, 0, 10, 0}, 1, 1},
+        {2, {0, 1, 0, 0, 10, 0}, 1, 1},
+        {3, {0, 2, 0, 0, 12, 0}, 1, 1},
+    };
     EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, nullptr, 1), kParaErr);
-    for (const A &bad :
-         {with([](A &g) { g.ulSel = 2; }), with([](A &g) { g.ulMode = 4; }), with([](A &g) { g.ulFlag = 2; }),
-          with([](A &g) { g.ulPattern = 7; }), with([](A &g) { g.ucEnFlag = 2; })}) {
-        EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, &bad, 1), kParaErr);
+    for (const auto &c : cases) {
+        model.clearTrace();
+        EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, c.pathType, &c.attr, c.enable), kParaErr);
+        EXPECT_EQ(g_uiPrbsFlag[kChip], c.flag) << c.pathType << " " << c.attr.usPath;
+        EXPECT_FALSE(wrote()) << c.pathType << " " << c.attr.usPath;
     }
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, &good, 2), kParaErr);
-    EXPECT_FALSE(wrote()) << "refused before anything changed";
-    EXPECT_EQ(g_uiPrbsFlag[kChip], 0u);
-
-    // The path checks come after the flag: a refused path still updated it.
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, &(const A &)with([](A &g) { g.usPath = 252; }), 1),
-              kParaErr);
-    EXPECT_EQ(g_uiPrbsFlag[kChip], 1u);
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 1, &(const A &)with([](A &g) { g.usPath = 336; }), 1),
-              kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 1, &(const A &)with([](A &g) { g.ulMode = 2; }), 1),
-              kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 2, &(const A &)with([](A &g) { g.ulMode = 1; }), 1),
-              kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 3, &(const A &)with([](A &g) {
-                                               g.ulMode = 2;
-                                               g.usPath = 12;
-                                           }),
-                                           1),
-              kParaErr);
-    // Stopping the generator with a refused path: run bit cleared, flag 0.
     model.poke(0x20402, 0x0001);
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, &(const A &)with([](A &g) { g.usPath = 252; }), 0),
-              kParaErr);
-    EXPECT_EQ(model.peek(0x20402), 0);
-    EXPECT_EQ(g_uiPrbsFlag[kChip], 0u);
+    const A badPath{0, 1, 0, 0, 252, 0};
+    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, &badPath, 0), kParaErr);
+    EXPECT_EQ(ints(model.peek(0x20402), g_uiPrbsFlag[kChip]), ints(0, 0));
 }
 
 TEST_F(PrbsTest, MapperChecker) {
@@ -192,17 +167,13 @@ TEST_F(PrbsTest, TimeslotGenerator) {
         SCOPED_TRACE(testing::Message() << "path type " << c.pathType << " mode " << c.gen.ulMode);
         model.reset();
         ASSERT_EQ(VQ6192_Framer_SetTsPRBSInsAttr(kChip, c.pathType, &c.gen, c.enable), 0u);
-        EXPECT_EQ(model.peek(0x257C), c.genReg);
-        EXPECT_EQ(model.peek(0x257E), c.pathReg);
-        EXPECT_EQ(g_uiPrbsFlag[kChip], c.flag);
+        EXPECT_EQ(ints(model.peek(0x257C), model.peek(0x257E), g_uiPrbsFlag[kChip]),
+                  ints(c.genReg, c.pathReg, c.flag));
         VQ6192_FRM_PRBS_INS_ATTR_S back{};
         uint8_t en = 9;
         ASSERT_EQ(VQ6192_Framer_GetTsPRBSInsAttr(kChip, c.pathType, &back, &en), 0u);
-        EXPECT_EQ(back.ulMode, c.gen.ulMode);
-        EXPECT_EQ(back.ulPattern, c.gen.ulPattern);
-        EXPECT_EQ(back.ulFlag, c.gen.ulFlag);
-        EXPECT_EQ(back.usPath, c.gen.usPath);
-        EXPECT_EQ(en, c.flag);
+        EXPECT_EQ(ints(back.ulMode, back.ulPattern, back.ulFlag, back.usPath, en),
+                  ints(c.gen.ulMode, c.gen.ulPattern, c.gen.ulFlag, c.gen.usPath, c.flag));
     }
     // E3/T3 and VC-4 paths cannot insert towards the line.
     const VQ6192_FRM_PRBS_INS_ATTR_S egress{0, 2, 0, 0, 1, 1};
@@ -268,9 +239,7 @@ TEST_F(PrbsTest, CesTimeslotMarking) {
 
     ASSERT_EQ(VQ6192_Framer_SetTsCesPrbsCfg(kChip, 0, 2, 20, 0x5, 9), 0u);
     auto egress = [&](uint32_t ts) { return model.tables().entry(0x10ab, 1, (20 << 5) | ts)[0]; };
-    EXPECT_EQ(egress(0), 0x9A09);
-    EXPECT_EQ(egress(1), 0x9809);
-    EXPECT_EQ(egress(2), 0x9A09);
+    EXPECT_EQ(ints(egress(0), egress(1), egress(2)), ints(0x9A09, 0x9809, 0x9A09));
     EXPECT_EQ(egress(5), 0x980A) << "another channel";
     EXPECT_EQ(egress(6), 0x9A09) << "already marked: left alone";
 
@@ -300,3 +269,4 @@ TEST_F(PrbsTest, CesTimeslotMarking) {
 }
 
 }  // namespace
+}  // namespace framertest

@@ -1,74 +1,55 @@
 // The timeslot tables: entries written for every service type, speed and direction, deletion, the
 // readers' decoding, failures inside multi-timeslot writes, and the switch-side controls.
 #include <chrono>
+#include <functional>
 
-#include "support/test_support.h"
-#include "vq6192/framer.h"
+#include "framer/framer_test.h"
 #include "vq6192/ppp.h"
 
+namespace framertest {
 namespace {
 
-using vq6192::sim::BusOp;
-using vq6192::sim::TableEngine;
-using vqtest::ChipTest;
-
-constexpr uint32_t kParaErr = 0x030E0001;
-constexpr uint32_t kTsBlock = 0x10ab;
-constexpr uint32_t kIngressSelect = 0;
-constexpr uint32_t kEgressSelect = 1;
-
-class TimeslotTest : public ChipTest {
-  protected:
-    uint16_t entry(uint32_t select, uint32_t source, uint32_t ts) {
-        return model.tables().entry(kTsBlock, select, (source << 5) | ts)[0];
-    }
-    void setEntry(uint32_t select, uint32_t source, uint32_t ts, uint16_t value) {
-        TableEngine::Entry e{};
-        e[0] = value;
-        model.tables().setEntry(kTsBlock, select, (source << 5) | ts, e);
-    }
-    void TearDown() override {
-        g_uiPrbsFlag[kChip] = 0;
-        ChipTest::TearDown();
-    }
-};
+using TimeslotTest = FramerTest;
 
 TEST_F(TimeslotTest, E1EntriesForEveryServiceTypeSpeedAndDirection) {
     model.poke(0x10048, 0x2);  // VC-4 PPP channel 1 enabled: PPP channel 1 is inner 0x200
-    struct Case {
-        uint32_t svcType, svcChnl, speed;
-        uint16_t ingress, egress;  // the entries of each direction
+    // The entry each direction gets; a CES channel under PRBS test (the PRBS flag set) carries bit 9.
+    const struct {
+        uint32_t svcType, svcChnl, speed, prbs;
+        uint16_t entry;
+    } cases[] = {
+        {2, 7, 3, 0, 0xB807},    // ATM, 64k
+        {2, 7, 4, 0, 0xA007},    // ATM, 8k
+        {2, 511, 0, 0, 0xA9FF},  // ATM, 16k
+        {2, 300, 1, 0, 0xB12C},  // ATM, 32k
+        {3, 351, 3, 0, 0x995F},  // CES
+        {3, 20, 3, 1, 0x9A14},   // CES under PRBS test
+        {2, 20, 3, 1, 0xB814},   // ATM: no mark
+        {4, 7, 3, 0, 0x7807},    // none: no En
+        {1, 1, 3, 0, 0xDA00},    // PPP through the enabled VC-4 channel
+        {1, 37, 1, 0, 0xD025},   // ordinary PPP channel
     };
-    const Case cases[] = {
-        {2, 7, 3, 0xB807, 0xB807},    // ATM, 64k
-        {2, 7, 4, 0xA007, 0xA007},    // ATM, 8k
-        {2, 511, 0, 0xA9FF, 0xA9FF},  // ATM, 16k
-        {2, 300, 1, 0xB12C, 0xB12C},  // ATM, 32k
-        {3, 351, 3, 0x995F, 0x995F},  // CES
-        {4, 7, 3, 0x7807, 0x7807},    // none: no En
-        {1, 1, 3, 0xDA00, 0xDA00},    // PPP through the enabled VC-4 channel
-        {1, 37, 1, 0xD025, 0xD025},   // ordinary PPP channel
-    };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         for (uint32_t dir : {0u, 1u, 2u}) {
             SCOPED_TRACE(testing::Message() << "type " << c.svcType << " chnl " << c.svcChnl << " speed "
                                             << c.speed << " dir " << dir);
             model.tables().clear();
+            g_uiPrbsFlag[kChip] = c.prbs;
             const uint32_t bitmap = 0x80000005u;  // timeslots 0, 2 and 31
             ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, dir, 123, c.svcChnl, c.svcType, bitmap, c.speed), 0u);
             for (uint32_t ts = 0; ts < 32; ++ts) {
                 const bool selected = (bitmap >> ts & 1u) != 0;
-                EXPECT_EQ(entry(kIngressSelect, 123, ts), selected && dir != 1 ? c.ingress : 0)
+                EXPECT_EQ(ints(entry(kIngressSelect, 123, ts), entry(kEgressSelect, 123, ts)),
+                          ints(selected && dir != 1 ? c.entry : 0, selected && dir != 0 ? c.entry : 0))
                     << "ts " << ts;
-                EXPECT_EQ(entry(kEgressSelect, 123, ts), selected && dir != 0 ? c.egress : 0) << "ts " << ts;
             }
         }
     }
     // The documented example: entries 160 and 161 of both tables.
     model.tables().clear();
     ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 2, 0x3, 3), 0u);
-    EXPECT_EQ(model.tables().entry(kTsBlock, 0, 160)[0], 0xB807);
-    EXPECT_EQ(model.tables().entry(kTsBlock, 1, 161)[0], 0xB807);
+    EXPECT_EQ(ints(model.tables().entry(kTsBlock, 0, 160)[0], model.tables().entry(kTsBlock, 1, 161)[0]),
+              ints(0xB807, 0xB807));
 }
 
 TEST_F(TimeslotTest, RoutesEveryTimeslotOfEveryTributaryInUnderASecond) {
@@ -91,34 +72,33 @@ TEST_F(TimeslotTest, RoutesEveryTimeslotOfEveryTributaryInUnderASecond) {
 TEST_F(TimeslotTest, AllTimeslotsAndDeletionBackToTheClearedEntry) {
     ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 335, 100, 3, 0xFFFFFFFFu, 3), 0u);
     for (uint32_t ts = 0; ts < 32; ++ts) {
-        EXPECT_EQ(entry(kIngressSelect, 335, ts), 0x9864);
-        EXPECT_EQ(entry(kEgressSelect, 335, ts), 0x9864);
+        EXPECT_EQ(ints(entry(kIngressSelect, 335, ts), entry(kEgressSelect, 335, ts)), ints(0x9864, 0x9864));
     }
     ASSERT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 1, 335, 0x0000FFFFu), 0u);
     ASSERT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 3, 335, 0xFFFFFFFFu), 0u) << "direction 3 clears nothing";
     for (uint32_t ts = 0; ts < 32; ++ts) {
-        EXPECT_EQ(entry(kIngressSelect, 335, ts), 0x9864);
-        EXPECT_EQ(entry(kEgressSelect, 335, ts), ts < 16 ? 0x7800 : 0x9864);
+        EXPECT_EQ(ints(entry(kIngressSelect, 335, ts), entry(kEgressSelect, 335, ts)),
+                  ints(0x9864, ts < 16 ? 0x7800 : 0x9864));
     }
-    EXPECT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 4, 335, 1), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 0, 336, 1), kParaErr);
 }
 
-TEST_F(TimeslotTest, SelectionRefusalsWriteNothing) {
-    model.setTrace(true);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 2, 0x3, 2), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 2, 0x3, 5), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 336, 7, 2, 0x3, 3), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 512, 2, 0x3, 3), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 0, 0x3, 3), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 5, 7, 5, 0x3, 3), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 2, 12, 7, 2), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 2, 0, 7, 4), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 4, 0, 2), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 0, 4, 2), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 0, 0x300, 2), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SetTSTab(kChip, 0, 0, 0, nullptr), kParaErr);
-    EXPECT_TRUE(model.trace().empty());
+TEST_F(TimeslotTest, SelectionRefusalsTouchNothing) {
+    expectRefused({
+        {"speed 2", [] { return VQ6192_Framer_SelectSrcE1(3, 2, 5, 7, 2, 0x3, 2); }},
+        {"speed 5", [] { return VQ6192_Framer_SelectSrcE1(3, 2, 5, 7, 2, 0x3, 5); }},
+        {"e1 336", [] { return VQ6192_Framer_SelectSrcE1(3, 2, 336, 7, 2, 0x3, 3); }},
+        {"channel 512", [] { return VQ6192_Framer_SelectSrcE1(3, 2, 5, 512, 2, 0x3, 3); }},
+        {"type 0", [] { return VQ6192_Framer_SelectSrcE1(3, 2, 5, 7, 0, 0x3, 3); }},
+        {"type 5", [] { return VQ6192_Framer_SelectSrcE1(3, 2, 5, 7, 5, 0x3, 3); }},
+        {"e3 12", [] { return VQ6192_Framer_SelectSrcE3(3, 2, 12, 7, 2); }},
+        {"e3 type 4", [] { return VQ6192_Framer_SelectSrcE3(3, 2, 0, 7, 4); }},
+        {"vc4 4", [] { return VQ6192_Framer_SelectSrcVC4(3, 2, 4, 0, 2); }},
+        {"vc4 type 4", [] { return VQ6192_Framer_SelectSrcVC4(3, 2, 0, 4, 2); }},
+        {"vc4 channel 0x300", [] { return VQ6192_Framer_SelectSrcVC4(3, 2, 0, 0x300, 2); }},
+        {"table null", [] { return VQ6192_Framer_SetTSTab(3, 0, 0, 0, nullptr); }},
+        {"delete direction 4", [] { return VQ6192_Framer_DeleteSrcE1(3, 4, 335, 1); }},
+        {"delete e1 336", [] { return VQ6192_Framer_DeleteSrcE1(3, 0, 336, 1); }},
+    });
 }
 
 TEST_F(TimeslotTest, AFailingTimeslotWriteDoesNotStopTheOthers) {
@@ -134,34 +114,16 @@ TEST_F(TimeslotTest, AFailingTimeslotWriteDoesNotStopTheOthers) {
     model.tables().clear();
     VQ6192_Platform_FailSemTakes(2, 1);
     EXPECT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 2, 40, 0x3), 0x030E0004u);
-    EXPECT_EQ(entry(kIngressSelect, 40, 0), 0x7800);
-    EXPECT_EQ(entry(kEgressSelect, 40, 0), 0x7800);
-    EXPECT_EQ(entry(kIngressSelect, 40, 1), 0);
-    EXPECT_EQ(entry(kEgressSelect, 40, 1), 0) << "a direction-2 write stops at its failing half";
-}
-
-TEST_F(TimeslotTest, CesEntriesCarryThePrbsMark) {
-    g_uiPrbsFlag[kChip] = 1;
-    ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 7, 20, 3, 0x2, 3), 0u);
-    EXPECT_EQ(entry(kIngressSelect, 7, 1), 0x9A14);
-    g_uiPrbsFlag[kChip] = 0;
-    ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 7, 20, 3, 0x4, 3), 0u);
-    EXPECT_EQ(entry(kIngressSelect, 7, 2), 0x9814);
-    uint16_t chnl = 0;
-    uint8_t type = 0, en = 0;
-    uint32_t speed = 0;
-    ASSERT_EQ(VQ6192_Framer_GetTsCfg(kChip, 2, 7, 1, &chnl, &type, &speed, &en), 0u);
-    EXPECT_EQ(chnl, 20) << "the reader drops the PRBS mark";
-    EXPECT_EQ(type, 3);
-    EXPECT_EQ(speed, 3u);
-    EXPECT_EQ(en, 1);
+    EXPECT_EQ(ints(entry(kIngressSelect, 40, 0), entry(kEgressSelect, 40, 0), entry(kIngressSelect, 40, 1),
+                   entry(kEgressSelect, 40, 1)),
+              ints(0x7800, 0x7800, 0, 0))
+        << "a direction-2 write stops at its failing half";
 }
 
 TEST_F(TimeslotTest, ReadersDecodeEveryKindOfEntry) {
     model.poke(0x10048, 0x4);  // VC-4 PPP channel 2 enabled
     struct Case {
-        uint16_t raw;
-        uint16_t chnl;
+        uint16_t raw, chnl;
         uint8_t type;
         uint32_t speed;
         uint8_t en;
@@ -180,10 +142,7 @@ TEST_F(TimeslotTest, ReadersDecodeEveryKindOfEntry) {
         uint8_t type = 0, en = 9;
         uint32_t speed = 9;
         ASSERT_EQ(VQ6192_Framer_GetTsCfg(kChip, 0, 99, 17, &chnl, &type, &speed, &en), 0u);
-        EXPECT_EQ(chnl, c.chnl);
-        EXPECT_EQ(type, c.type);
-        EXPECT_EQ(speed, c.speed);
-        EXPECT_EQ(en, c.en);
+        EXPECT_EQ(ints(chnl, type, speed, en), ints(c.chnl, c.type, c.speed, c.en));
     }
     // The record form.
     VQ6192_FRM_TS_CFG_S cfg{kChip, 0, 99, 17, 0, 0, 0, 0};
@@ -213,12 +172,25 @@ TEST_F(TimeslotTest, ReadersDecodeEveryKindOfEntry) {
 
 TEST_F(TimeslotTest, E3AndVc4Entries) {
     model.poke(0x10048, 0x2);
-    ASSERT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 2, 4, 9, 2), 0u);
-    EXPECT_EQ(entry(kIngressSelect, 340, 0), 0xB809);
-    ASSERT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 0, 5, 9, 1), 0u);
-    EXPECT_EQ(entry(kIngressSelect, 341, 0), 0xD809);
-    ASSERT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 1, 6, 6, 3), 0u);
-    EXPECT_EQ(entry(kEgressSelect, 342, 0), 0x9800 | 342);
+    // E3/T3 n and VC-4 n use source 336 + n; direction 2 writes both tables; the enabled VC-4 PPP
+    // channel 1 is inner 0x200.
+    const struct {
+        std::function<uint32_t()> select;
+        uint32_t table, source;
+        uint16_t entry;
+    } selections[] = {
+        {[] { return VQ6192_Framer_SelectSrcE3(3, 2, 4, 9, 2); }, kIngressSelect, 340, 0xB809},
+        {[] { return VQ6192_Framer_SelectSrcE3(3, 0, 5, 9, 1); }, kIngressSelect, 341, 0xD809},
+        {[] { return VQ6192_Framer_SelectSrcE3(3, 1, 6, 6, 3); }, kEgressSelect, 342, 0x9800 | 342},
+        {[] { return VQ6192_Framer_SelectSrcVC4(3, 2, 1, 2, 2); }, kIngressSelect, 349, 0xB8A8},
+        {[] { return VQ6192_Framer_SelectSrcVC4(3, 2, 1, 2, 2); }, kEgressSelect, 349, 0xB8A8},
+        {[] { return VQ6192_Framer_SelectSrcVC4(3, 2, 2, 1, 1); }, kIngressSelect, 350, 0xDA00},
+        {[] { return VQ6192_Framer_SelectSrcVC4(3, 0, 3, 3, 3); }, kIngressSelect, 351, 0x9800 | 351},
+    };
+    for (const auto &c : selections) {
+        ASSERT_EQ(c.select(), 0u);
+        EXPECT_EQ(entry(c.table, c.source, 0), c.entry) << c.source;
+    }
     ASSERT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 7, 7, 9, 2), 0u) << "direction not tested, nothing written";
     VQ6192_Platform_FailSemTakes(0, 1);
     EXPECT_EQ(VQ6192_Framer_SelectSrcE3(kChip, 1, 8, 9, 2), 0x030E0004u);
@@ -229,14 +201,6 @@ TEST_F(TimeslotTest, E3AndVc4Entries) {
     EXPECT_EQ(capture.traceTexts().back(),
               "Err. VQ6192_Framer_DeleteSrcVC4.SetVC4TSTab(3,2,0)       ErrCode[0x30e0004]\r\n");
     EXPECT_EQ(entry(kIngressSelect, 343, 0), 0);
-
-    ASSERT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 1, 2, 2), 0u);
-    EXPECT_EQ(model.tables().entry(kTsBlock, 0, 349 << 5)[0], 0xB8A8);
-    EXPECT_EQ(model.tables().entry(kTsBlock, 1, 349 << 5)[0], 0xB8A8);
-    ASSERT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 2, 2, 1, 1), 0u);
-    EXPECT_EQ(entry(kIngressSelect, 350, 0), 0xDA00) << "VC-4 PPP channel 1 is inner 0x200";
-    ASSERT_EQ(VQ6192_Framer_SelectSrcVC4(kChip, 0, 3, 3, 3), 0u);
-    EXPECT_EQ(entry(kIngressSelect, 351, 0), 0x9800 | 351);
 
     uint16_t chnl = 0;
     uint8_t type = 0, en = 0;
@@ -332,10 +296,8 @@ TEST_F(TimeslotTest, SwitchSideControls) {
     ASSERT_EQ(VQ6192_Framer_ResetRfp(kChip, 1), 0u);
     ASSERT_EQ(VQ6192_Framer_SetRfpEnableOnOff(kChip, 1, 0, 1, 0), 0u);
     ASSERT_EQ(VQ6192_Framer_SetRfpDelay(kChip, 0x7FFF), 0u);
-    EXPECT_EQ(model.peek(0x20004), 2);
-    EXPECT_EQ(model.peek(0x20006), 4);
-    EXPECT_EQ(model.peek(0x20010), 2);
-    EXPECT_EQ(model.peek(0x20008), 0x7FFF);
+    EXPECT_EQ(ints(model.peek(0x20004), model.peek(0x20006), model.peek(0x20010), model.peek(0x20008)),
+              ints(2, 4, 2, 0x7FFF));
     model.poke(0x20012, 0x0012);  // bits 1 and 4
     uint8_t a = 0, b = 0, c = 0, d = 0;
     ASSERT_EQ(VQ6192_Framer_GetRfpAlm(kChip, &a, &b, &c, &d), 0u);
@@ -385,3 +347,4 @@ TEST_F(TimeslotTest, TimeslotAndTelecomBusLoops) {
 }
 
 }  // namespace
+}  // namespace framertest

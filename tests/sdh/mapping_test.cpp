@@ -2,81 +2,63 @@
 #include <map>
 #include <set>
 
-#include "support/test_support.h"
-#include "vq6192/sdh.h"
+#include "sdh/sdh_test.h"
 #include "vq6192/sim/framers.h"
 
+namespace sdhtest {
 namespace {
 
 using vq6192::sim::BusOp;
 using vq6192::sim::Framers;
-using vqtest::ChipTest;
-
-constexpr uint32_t kParaErr = 0x03080001;
-constexpr uint16_t x = 0xFFFF;
 
 // The mapper register field behind each column of the map configuration, from the chip's register
-// map: register, lowest bit, width, and how the slot moves it.
+// map: register and lowest bit, how each moves with the VC-4 and with the slot (3 x VC-4 + AU-3), and
+// the number of receive high-order blocks (0x100 apart) written; 0 for a check column.
 struct Target {
-    uint32_t reg;
-    uint32_t bit;
-    uint32_t width;
-    enum { Chip, Vc4Bit, Au3Bit, Vc4Pair, Vc4Reg, Au3Reg, Check } how;
-    uint32_t step = 0;
+    uint32_t reg, regPerVc4, regPerSlot, bit, bitPerVc4, bitPerSlot, copies;
+};
+const Target kTargets[20] = {
+    {0x24000, 0, 0, 8, 0, 0, 1},    {0x24000, 0, 0, 0, 1, 0, 1},    {0x24002, 0, 0, 13, 0, 0, 1},
+    {0x24006, 0, 0, 14, 0, 0, 1},   {0x2080E, 0, 0, 0, 0, 1, 1},    {0x2C002, 0, 0, 4, 1, 0, 1},
+    {0x2C002, 0, 0, 0, 1, 0, 1},    {0x20006, 0, 0, 0, 0, 0, 0},    {0x2C380, 0, 0, 0, 2, 0, 1},
+    {0x2C040, 0x40, 0, 0, 0, 0, 3}, {0x2C000, 0, 0, 1, 0, 0, 1},    {0x202C, 2, 0, 0, 0, 0, 1},
+    {0x2A020, 0, 0, 5, 0, 0, 1},    {0x202A, 0, 0, 0, 0, 0, 1},     {0x2400C, 0, 0, 0, 0, 0, 1},
+    {0x2400C, 0, 0, 2, 0, 0, 1},    {0x000E, 0, 0, 2, 0, 0, 0},     {0x000E, 0, 0, 1, 0, 0, 0},
+    {0x29282, 0, 0, 0, 0, 1, 1},    {0x2B602, 0, 0x20, 0, 0, 0, 1},
 };
 
-const Target kTargets[20] = {
-    {0x24000, 8, 1, Target::Chip},    {0x24000, 0, 1, Target::Vc4Bit},
-    {0x24002, 13, 1, Target::Chip},   {0x24006, 14, 1, Target::Chip},
-    {0x2080E, 0, 1, Target::Au3Bit},  {0x2C002, 4, 1, Target::Vc4Bit},
-    {0x2C002, 0, 1, Target::Vc4Bit},  {0x20006, 0, 1, Target::Check},
-    {0x2C380, 0, 2, Target::Vc4Pair}, {0x2C040, 0, 2, Target::Vc4Reg, 0x40},
-    {0x2C000, 1, 1, Target::Chip},    {0x202C, 0, 2, Target::Vc4Reg, 2},
-    {0x2A020, 5, 3, Target::Chip},    {0x202A, 0, 1, Target::Chip},
-    {0x2400C, 0, 2, Target::Chip},    {0x2400C, 2, 2, Target::Chip},
-    {0x000E, 2, 1, Target::Check},    {0x000E, 1, 1, Target::Check},
-    {0x29282, 0, 1, Target::Au3Bit},  {0x2B602, 0, 1, Target::Au3Reg, 0x20},
+// The map configuration of VC-4 0, typed from the chip documentation: rows are map types, columns the
+// targets below, '-' a register left alone. VC-4s 1 to 3 leave columns 2 and 3 alone in rows 6, 7, 8, 11
+// and 12.
+const char *const kMapCfg[14] = {
+    "- - - - - 1 - 0 - - - 2 - - - - - - - -", "- - - - - 0 1 0 - - - 2 - - - - - - - -",
+    "0 0 1 1 - 0 0 - - - - 0 0 1 1 0 - 0 - -", "1 1 1 1 - 0 0 - - - - 0 7 0 0 - - 1 - -",
+    "- - - - 0 0 0 - - - - 1 - - - - 0 - 1 1", "- - - - 0 0 0 - - - - 1 - - - - 1 - 0 0",
+    "0 0 0 0 - 0 0 0 0 1 0 0 - 1 1 0 - 0 - -", "1 1 0 0 - 0 0 0 2 1 0 0 - 1 0 - - 1 - -",
+    "1 1 0 0 - 0 0 0 1 1 0 0 - 1 1 2 - 1 - -", "- - - - 1 0 0 0 - 3 0 1 - - - - 0 - 1 1",
+    "- - - - 1 0 0 0 - 2 0 1 - - - - 1 - 0 0", "0 0 0 0 - 0 0 1 0 1 1 0 - 1 1 0 - 0 - -",
+    "1 1 0 0 - 0 0 1 0 0 1 0 - 0 0 - - 1 - -", "- - - - 1 0 0 1 - 2 1 1 - - - - 1 - 0 0",
 };
+
+// Column `col` of row `type` for VC-4 `vc4`; -1 for a dash.
+int mapCfg(uint32_t vc4, uint32_t type, uint32_t col) {
+    const char cell = kMapCfg[type][2 * col];
+    const bool leftAlone = vc4 != 0 && (col == 2 || col == 3) &&
+                           (type == 6 || type == 7 || type == 8 || type == 11 || type == 12);
+    return cell == '-' || leftAlone ? -1 : cell - '0';
+}
 
 // Registers after writing one table row on a chip whose registers were all 0 but for the modes.
 std::map<uint32_t, uint16_t> expectedRegisters(uint32_t line, uint32_t tdm, uint32_t vc4, uint32_t au3,
                                                uint32_t type) {
-    std::map<uint32_t, uint16_t> regs;
-    regs[0x20006] = static_cast<uint16_t>(line);
-    regs[0x000E] = static_cast<uint16_t>(tdm * 6);
-    const auto &row = vc4 == 0 ? g_aausVQ6192SDHMapCfg0[type] : g_aausVQ6192SDHMapCfg123[type];
+    std::map<uint32_t, uint16_t> regs{{0x20006, line}, {0x000E, tdm * 6}};
     const uint32_t slot = 3 * vc4 + au3;
     for (uint32_t col = 0; col < 20; ++col) {
         const Target &t = kTargets[col];
-        if (row[col] == x || t.how == Target::Check) {
-            continue;
-        }
-        std::vector<uint32_t> addrs{t.reg};
-        uint32_t bit = t.bit;
-        switch (t.how) {
-            case Target::Vc4Bit:
-                bit += vc4;
-                break;
-            case Target::Au3Bit:
-                bit += slot;
-                break;
-            case Target::Vc4Pair:
-                bit = 2 * vc4;
-                break;
-            case Target::Vc4Reg:
-                addrs = {t.reg + t.step * vc4};
-                if (col == 9) {  // the three receive high-order blocks
-                    addrs = {0x2C040 + 0x40 * vc4, 0x2C140 + 0x40 * vc4, 0x2C240 + 0x40 * vc4};
-                }
-                break;
-            case Target::Au3Reg:
-                addrs = {t.reg + t.step * slot};
-                break;
-            default:
-                break;
-        }
-        for (uint32_t addr : addrs) {
-            regs[addr] = static_cast<uint16_t>(regs[addr] | (row[col] << bit));
+        const int value = mapCfg(vc4, type, col);
+        for (uint32_t k = 0; value >= 0 && k < t.copies; ++k) {
+            uint16_t &reg = regs[t.reg + t.regPerVc4 * vc4 + t.regPerSlot * slot + 0x100 * k];
+            reg = static_cast<uint16_t>(reg | (value << (t.bit + t.bitPerVc4 * vc4 + t.bitPerSlot * slot)));
         }
     }
     return regs;
@@ -95,7 +77,7 @@ const int kReadBack[2][2][2][14] = {
       {-1, -1, -1, -1, -1, 5, -1, -1, -1, -1, -1, -1, 12, 13}}},
 };
 
-class SdhMapTest : public ChipTest {
+class SdhMapTest : public SdhTest {
   protected:
     void setModes(uint32_t line, uint32_t tdm) {
         model.reset();
@@ -149,6 +131,23 @@ TEST_F(SdhMapTest, EveryTypeOnEverySlotUnderEveryMode) {
     }
 }
 
+// The E3/DS3 bit (2) and the E1/T1 bit (1) of the TDM mode register are checked each on its own: with
+// only one of them set, the rows needing the other value are refused.
+TEST_F(SdhMapTest, ModeChecksReadTheirOwnBit) {
+    const struct {
+        uint16_t tdmReg;
+        uint32_t type, status;
+    } cases[] = {
+        {0x0004, 4, kParaErr}, {0x0004, 5, 0},        {0x0004, 2, 0},        {0x0004, 3, kParaErr},
+        {0x0002, 4, 0},        {0x0002, 5, kParaErr}, {0x0002, 2, kParaErr}, {0x0002, 3, 0},
+    };
+    for (const auto &c : cases) {
+        setModes(0, 0);
+        model.poke(0x000E, c.tdmReg);
+        EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 0, 0, c.type), c.status) << c.tdmReg << " type " << c.type;
+    }
+}
+
 TEST_F(SdhMapTest, ReadBackPrefersTheHigherTypeAndReportsNoMatch) {
     setModes(0, 1);
     ASSERT_EQ(VQ6192_SDH_SetSDHMap(kChip, 1, 2, 8), 0u);
@@ -184,9 +183,9 @@ TEST_F(SdhMapTest, WaitsAfterVc4SlotThreeAndPulsesThePayloadType) {
     ASSERT_EQ(VQ6192_SDH_SetSDHMap(kChip, 3, 1, CKD_FE_SDHSONET_MAP_E1_VC12TU12TUG3_AU4), 0u);
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 510u + 1u);
     ASSERT_EQ(payloadWrites.size(), 2u);
-    EXPECT_EQ(payloadWrites[0].first, 3);
-    EXPECT_EQ(payloadWrites[1].first, 0);
-    EXPECT_EQ(payloadWrites[1].second - payloadWrites[0].second, 1u);
+    EXPECT_EQ(ints(payloadWrites[0].first, payloadWrites[1].first,
+                   payloadWrites[1].second - payloadWrites[0].second),
+              ints(3, 0, 1u));
 
     VQ6192_Platform_ResetVirtualTime();
     ASSERT_EQ(VQ6192_SDH_SetSDHMap(kChip, 2, 1, CKD_FE_SDHSONET_MAP_E1_VC12TU12TUG3_AU4), 0u);
@@ -225,21 +224,18 @@ TEST_F(SdhMapTest, LineModeAndRefusals) {
     ASSERT_EQ(VQ6192_SDH_GetSDHSonetMode(kChip, &mode), 0u);
     EXPECT_EQ(mode, 1);
 
-    model.setTrace(true);
     uint8_t out = 0;
-    EXPECT_EQ(VQ6192_SDH_SetSDHSonetMode(kChip, 2), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_GetSDHSonetMode(kChip, nullptr), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 4, 0, 6), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 0, 3, 6), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 0, 0, 14), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 1, 0, CKD_FE_SDHSONET_MAP_HTB_E1), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHMap(kChip, 3, 2, CKD_FE_SDHSONET_MAP_HTB_T1), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_GetSDHMap(kChip, 4, 0, &out), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_GetSDHMap(kChip, 0, 3, &out), kParaErr);
-    for (const auto &a : model.trace()) {
-        EXPECT_NE(a.op, BusOp::Write) << "no register changes on a parameter error";
-    }
-    EXPECT_EQ(capture.traceTexts(), std::vector<std::string>(9, "ParaErr.\r\n"));
+    expectRefused({
+        {"line mode 2", [] { return VQ6192_SDH_SetSDHSonetMode(3, 2); }},
+        {"line mode null", [] { return VQ6192_SDH_GetSDHSonetMode(3, nullptr); }},
+        {"vc4 4", [] { return VQ6192_SDH_SetSDHMap(3, 4, 0, 6); }},
+        {"au3 3", [] { return VQ6192_SDH_SetSDHMap(3, 0, 3, 6); }},
+        {"type 14", [] { return VQ6192_SDH_SetSDHMap(3, 0, 0, 14); }},
+        {"htb e1", [] { return VQ6192_SDH_SetSDHMap(3, 1, 0, CKD_FE_SDHSONET_MAP_HTB_E1); }},
+        {"htb t1", [] { return VQ6192_SDH_SetSDHMap(3, 3, 2, CKD_FE_SDHSONET_MAP_HTB_T1); }},
+        {"get vc4 4", [&] { return VQ6192_SDH_GetSDHMap(3, 4, 0, &out); }},
+        {"get au3 3", [&] { return VQ6192_SDH_GetSDHMap(3, 0, 3, &out); }},
+    });
 }
 
 TEST_F(SdhMapTest, LoopPoints) {
@@ -292,9 +288,7 @@ TEST_F(SdhMapTest, MapLoopConfigurationAndDs3FifoReset) {
     EXPECT_EQ(model.peek(0x2DCBC), 0x2FFF);
     uint8_t a = 0, b = 9, c = 0;
     ASSERT_EQ(VQ6192_SDH_GetMapLoopCfg(kChip, &a, &b, &c), 0u);
-    EXPECT_EQ(a, 1);
-    EXPECT_EQ(b, 0);
-    EXPECT_EQ(c, 1);
+    EXPECT_EQ(ints(a, b, c), ints(1, 0, 1));
     EXPECT_EQ(VQ6192_SDH_SetMapLoopCfg(kChip, 0, 2, 0), kParaErr);
     EXPECT_EQ(VQ6192_SDH_GetMapLoopCfg(kChip, &a, nullptr, &c), kParaErr);
 
@@ -306,3 +300,4 @@ TEST_F(SdhMapTest, MapLoopConfigurationAndDs3FifoReset) {
 }
 
 }  // namespace
+}  // namespace sdhtest

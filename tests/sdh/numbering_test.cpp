@@ -1,8 +1,10 @@
 // Tributary numbering: every conversion against its formula over the accepted range and past it.
-#include "support/test_support.h"
+#include "sdh/sdh_test.h"
 #include "vq6192/sdh.h"
 
 namespace {
+
+using sdhtest::ints;
 
 constexpr uint32_t kChip = 2;
 constexpr uint32_t kParaErr = 0x02080001;
@@ -25,65 +27,38 @@ uint32_t hwOf(const Std &s) {
 
 TEST(SdhNumbering, AllSchemesAgreeOverTheWholeRange) {
     vqtest::PlatformCapture capture;
-    for (uint32_t v = 0; v < 6; ++v) {  // VC-4s 4 and 5 are the internal numbers 252..377
-        for (uint32_t k = 0; k < 3; ++k) {
-            for (uint32_t l = 0; l < 7; ++l) {
-                for (uint32_t m = 0; m < 3; ++m) {
-                    const Std s{v, k, l, m};
-                    const uint32_t e1 = e1Of(s);
-                    SCOPED_TRACE(testing::Message() << "e1 " << e1);
-                    Std out{};
-                    ASSERT_EQ(VQ6192_SDH_InterE1Chno2Standardno(kChip, e1, &out.v, &out.k, &out.l, &out.m),
-                              0u);
-                    EXPECT_EQ(out, s);
-                    uint32_t back = 0;
-                    ASSERT_EQ(VQ6192_SDH_Standardno2InterE1Chno(kChip, v, k, l, m, &back), 0u);
-                    EXPECT_EQ(back, e1);
+    // Every (v, k, l, m); VC-4s 4 and 5 are the internal numbers 252..377.
+    for (uint32_t n = 0; n < 6 * 3 * 7 * 3; ++n) {
+        const Std s{n / 63, n / 21 % 3, n % 7, n / 7 % 3};
+        const uint32_t e1 = e1Of(s), reg = regOf(s), hw = hwOf(s);
+        SCOPED_TRACE(testing::Message() << "e1 " << e1);
+        Std out{}, viaReg{}, viaHw{};
+        uint32_t back = 0, fromHw = 0, rv = 9, rk = 9, r = 99, hv = 9, h = 99;
+        ASSERT_EQ(VQ6192_SDH_InterE1Chno2Standardno(kChip, e1, &out.v, &out.k, &out.l, &out.m), 0u);
+        ASSERT_EQ(VQ6192_SDH_Standardno2InterE1Chno(kChip, s.v, s.k, s.l, s.m, &back), 0u);
+        ASSERT_EQ(VQ6192_SDH_HWChno2InterE1Chno(kChip, s.v, hw, &fromHw), 0u);
+        ASSERT_EQ(
+            VQ6192_SDH_RegChno2Standardno(kChip, s.v, s.k, reg, &viaReg.v, &viaReg.k, &viaReg.l, &viaReg.m),
+            0u);
+        ASSERT_EQ(VQ6192_SDH_HWChno2Standardno(kChip, s.v, hw, &viaHw.v, &viaHw.k, &viaHw.l, &viaHw.m), 0u);
+        EXPECT_EQ(ints(back, fromHw), ints(e1, e1));
+        EXPECT_EQ((std::vector<Std>{out, viaReg, viaHw}), (std::vector<Std>{s, s, s}));
 
-                    uint32_t rv = 9, rk = 9, r = 99, hv = 9, h = 99;
-                    const bool inRange = e1 < 336;
-                    EXPECT_EQ(VQ6192_SDH_InterE1Chno2RegChno(kChip, e1, &rv, &rk, &r),
-                              inRange ? 0u : kParaErr);
-                    EXPECT_EQ(VQ6192_SDH_InterE1Chno2HWChno(kChip, e1, &hv, &h), inRange ? 0u : kParaErr);
-                    if (inRange) {
-                        EXPECT_EQ(rv, v);
-                        EXPECT_EQ(rk, k);
-                        EXPECT_EQ(r, regOf(s));
-                        EXPECT_EQ(hv, v);
-                        EXPECT_EQ(h, hwOf(s));
-                    } else {
-                        EXPECT_EQ(r, 99u) << "outputs untouched on refusal";
-                        EXPECT_EQ(h, 99u);
-                    }
-                    if (v < 4) {
-                        ASSERT_EQ(VQ6192_SDH_RegChno2InterE1Chno(kChip, v, k, regOf(s), &back), 0u);
-                        EXPECT_EQ(back, e1);
-                    }
-                    ASSERT_EQ(VQ6192_SDH_HWChno2InterE1Chno(kChip, v, hwOf(s), &back), 0u);
-                    EXPECT_EQ(back, e1);
-
-                    Std viaReg{}, viaHw{};
-                    ASSERT_EQ(VQ6192_SDH_RegChno2Standardno(kChip, v, k, regOf(s), &viaReg.v, &viaReg.k,
-                                                            &viaReg.l, &viaReg.m),
-                              0u);
-                    EXPECT_EQ(viaReg, s);
-                    ASSERT_EQ(VQ6192_SDH_HWChno2Standardno(kChip, v, hwOf(s), &viaHw.v, &viaHw.k, &viaHw.l,
-                                                           &viaHw.m),
-                              0u);
-                    EXPECT_EQ(viaHw, s);
-                    uint32_t ov = 0, ok = 0;
-                    ASSERT_EQ(VQ6192_SDH_Standardno2RegChno(kChip, v, k, l, m, &ov, &ok, &r), 0u);
-                    EXPECT_EQ(r, regOf(s));
-                    ASSERT_EQ(VQ6192_SDH_Standardno2HWChno(kChip, v, k, l, m, &ov, &h), 0u);
-                    EXPECT_EQ(h, hwOf(s));
-                    ASSERT_EQ(VQ6192_SDH_HWChno2RegChno(kChip, v, hwOf(s), &ov, &ok, &r), 0u);
-                    EXPECT_EQ(r, regOf(s));
-                    ASSERT_EQ(VQ6192_SDH_RegChnoHWChno(kChip, v, k, regOf(s), &ov, &h), 0u);
-                    EXPECT_EQ(h, hwOf(s));
-                    EXPECT_EQ(ov, v);
-                }
-            }
+        // Register and hardware numbers exist below 336 only; a refusal leaves the outputs alone.
+        const uint32_t rc = e1 < 336 ? 0u : kParaErr;
+        EXPECT_EQ(VQ6192_SDH_InterE1Chno2RegChno(kChip, e1, &rv, &rk, &r), rc);
+        EXPECT_EQ(VQ6192_SDH_InterE1Chno2HWChno(kChip, e1, &hv, &h), rc);
+        EXPECT_EQ(ints(rv, rk, r, hv, h), rc == 0 ? ints(s.v, s.k, reg, s.v, hw) : ints(9, 9, 99, 9, 99));
+        if (s.v < 4) {
+            ASSERT_EQ(VQ6192_SDH_RegChno2InterE1Chno(kChip, s.v, s.k, reg, &back), 0u);
+            EXPECT_EQ(back, e1);
         }
+        uint32_t ov = 0, ok = 0, r1 = 0, r2 = 0, h1 = 0, h2 = 0;
+        ASSERT_EQ(VQ6192_SDH_Standardno2RegChno(kChip, s.v, s.k, s.l, s.m, &ov, &ok, &r1), 0u);
+        ASSERT_EQ(VQ6192_SDH_HWChno2RegChno(kChip, s.v, hw, &ov, &ok, &r2), 0u);
+        ASSERT_EQ(VQ6192_SDH_Standardno2HWChno(kChip, s.v, s.k, s.l, s.m, &ov, &h1), 0u);
+        ASSERT_EQ(VQ6192_SDH_RegChnoHWChno(kChip, s.v, s.k, reg, &ov, &h2), 0u);
+        EXPECT_EQ(ints(r1, r2, h1, h2, ov), ints(reg, reg, hw, hw, s.v));
     }
     for (uint32_t r = 0; r < 28; ++r) {
         EXPECT_EQ(g_aulVQ6192InterE1no2HwnoPerTug3[r], 3 * r);

@@ -1,46 +1,20 @@
 // Path overhead bytes through their pages, insertion enables, error insertion and its refusals,
 // REI / enhanced RDI modes and consequent actions.
-#include <functional>
+#include "sdh/sdh_test.h"
 
-#include "support/test_support.h"
-#include "vq6192/sdh.h"
-#include "vq6192/sim/sdh_paths.h"
-
+namespace sdhtest {
 namespace {
 
-using Page = vq6192::sim::SdhPaths::Page;
-using vqtest::ChipTest;
-
-constexpr uint32_t kParaErr = 0x03080001;
-constexpr uint32_t kPrereqErr = 0x03080004;
-
-uint32_t th(uint32_t n) {
-    return 0x2DCC0 + 0x20 * n;
-}
-uint32_t hr(uint32_t n) {
-    return 0x2C040 + 0x40 * n;
-}
-uint32_t lr(uint32_t v, uint32_t c) {
-    return 0x2C380 + 0x4000 * v + 0x40 * c;
-}
-uint32_t lt(uint32_t v, uint32_t c) {
-    return 0x2DE60 + 0x4000 * v + 8 * c;
-}
-
-class SdhOverheadTest : public ChipTest {
-  protected:
-    vq6192::sim::SdhPaths &paths() { return model.block<vq6192::sim::SdhPaths>(); }
-};
+using SdhOverheadTest = SdhTest;
 
 TEST_F(SdhOverheadTest, HighOrderBytesAndTheirInsertionEnables) {
-    struct Case {
-        uint32_t type;
-        uint32_t reg;   // paged byte register
-        int enableBit;  // TH(n)+4 bit, -1 none
-    };
-    const Case cases[] = {{0, 0x2DCA2, 4},  {1, 0x2DCA6, 8},  {2, 0x2DCAA, 6}, {3, 0x2DCA8, 10},
-                          {4, 0x2DCAC, 12}, {5, 0x2DCAE, 14}, {6, 0x2DCA4, -1}};
-    for (const Case &c : cases) {
+    // Byte type, its paged register, and its insertion enable in TH(n)+4 (-1: none).
+    const struct {
+        uint32_t type, reg;
+        int enableBit;
+    } cases[] = {{0, 0x2DCA2, 4},  {1, 0x2DCA6, 8},  {2, 0x2DCAA, 6}, {3, 0x2DCA8, 10},
+                 {4, 0x2DCAC, 12}, {5, 0x2DCAE, 14}, {6, 0x2DCA4, -1}};
+    for (const auto &c : cases) {
         for (uint32_t mode : {1u, 0u}) {
             for (uint32_t n = 0; n < 12; ++n) {
                 model.poke(th(n) + 4, static_cast<uint16_t>(mode == 1 ? 0x0003 : 0xFFF3));
@@ -58,8 +32,7 @@ TEST_F(SdhOverheadTest, HighOrderBytesAndTheirInsertionEnables) {
             }
             uint8_t v = 0, m = 9;
             ASSERT_EQ(VQ6192_SDH_GetTxHpByte(kChip, 3, c.type, &v, &m), 0u);
-            EXPECT_EQ(v, value);
-            EXPECT_EQ(m, mode) << c.type;
+            EXPECT_EQ(ints(v, m), ints(value, mode)) << c.type;
         }
     }
 }
@@ -73,7 +46,7 @@ TEST_F(SdhOverheadTest, HighOrderByteTypesTwoSixAndSeven) {
     ASSERT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 1, 2, 0x16, 1), 0u);
     for (uint32_t n = 0; n < 12; ++n) {
         EXPECT_EQ(model.peek(hr(n)), n % 4 == 1 ? 0xFFDF : 0xFF9F) << n;
-        EXPECT_EQ(model.peek(th(n) + 2), n % 4 == 1 ? 0xFFFF : 0xFFFF) << n;
+        EXPECT_EQ(model.peek(th(n) + 2), 0xFFFF) << n;
     }
     ASSERT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 1, 2, 0xFF, 1), 0u);
     EXPECT_EQ(model.peek(th(5) + 2), 0xFFDF);
@@ -86,8 +59,7 @@ TEST_F(SdhOverheadTest, HighOrderByteTypesTwoSixAndSeven) {
     EXPECT_EQ(model.peek(th(4)), 0x0002 | (2u << 4) | (2u << 2));
     uint8_t v, m;
     ASSERT_EQ(VQ6192_SDH_GetTxHpByte(kChip, 0, 6, &v, &m), 0u);
-    EXPECT_EQ(v, 0x5A);
-    EXPECT_EQ(m, 1);
+    EXPECT_EQ(ints(v, m), ints(0x5A, 1));
     ASSERT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 0, 6, 0x5A, 0), 0u);
     ASSERT_EQ(VQ6192_SDH_GetTxHpByte(kChip, 0, 6, &v, &m), 0u);
     EXPECT_EQ(m, 0);
@@ -99,13 +71,11 @@ TEST_F(SdhOverheadTest, HighOrderByteTypesTwoSixAndSeven) {
         model.poke(th(n) + 4, 0xFFF3);
     }
     ASSERT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 2, 7, 0xA5, 2), 0u);
-    EXPECT_EQ(model.peek(th(2) + 4), 0xFFFB);
-    EXPECT_EQ(model.peek(th(10) + 4), 0xFFFB);
-    EXPECT_EQ(model.peek(th(3) + 4), 0xFFF3);
+    EXPECT_EQ(ints(model.peek(th(2) + 4), model.peek(th(10) + 4), model.peek(th(3) + 4)),
+              ints(0xFFFB, 0xFFFB, 0xFFF3));
     EXPECT_EQ(paths().paged(Page::TxHo, 2, 0x2DCA0), 0xA5);
     ASSERT_EQ(VQ6192_SDH_GetTxHpByte(kChip, 2, 7, &v, &m), 0u);
-    EXPECT_EQ(v, 0xA5);
-    EXPECT_EQ(m, 2);
+    EXPECT_EQ(ints(v, m), ints(0xA5, 2));
     EXPECT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 2, 6, 0, 2), kParaErr);
     EXPECT_EQ(VQ6192_SDH_SetTxHpByte(kChip, 2, 8, 0, 0), kParaErr);
 }
@@ -114,8 +84,7 @@ TEST_F(SdhOverheadTest, ReceivedBytesOfEachPathKind) {
     VQ6192_Platform_ResetVirtualTime();
     // Received high-order byte types 0..6 and VC-3 byte types 0..6 share one layout.
     struct Loc {
-        uint32_t offset;
-        uint32_t shift;
+        uint32_t offset, shift;
     };
     const Loc layout[7] = {{0x0, 0}, {0x2, 8}, {0x4, 0}, {0x4, 8}, {0x6, 0}, {0x6, 8}, {0x2, 0}};
     for (uint32_t type = 0; type < 7; ++type) {
@@ -151,44 +120,38 @@ TEST_F(SdhOverheadTest, ReceivedBytesOfEachPathKind) {
 }
 
 TEST_F(SdhOverheadTest, LowOrderTransmitBytesThroughTheirPage) {
-    struct Case {
+    // VC-3 byte `type` of (v, k), software mode `mode`.
+    const auto vc3 = [](uint32_t v, uint32_t k, uint32_t type, uint32_t mode) {
+        return [=](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, v, k, type, mode, x); };
+    };
+    const struct {
         const char *name;
         std::function<uint32_t(uint32_t value)> set;
-        uint32_t key;
-        uint32_t reg;
-    };
-    const Case cases[] = {
-        {"vc3 type 0", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 0, 1, x); }, 128 + 64,
-         0x2DE44},
-        {"vc3 type 1", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 1, 0, x); }, 128 + 64,
-         0x2DE48},
-        {"vc3 type 2", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 2, 0, x); }, 128 + 64,
-         0x2DE4C},
-        {"vc3 type 3", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 3, 0, x); }, 128 + 64,
-         0x2DE4A},
-        {"vc3 type 4", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 4, 0, x); }, 128 + 64,
-         0x2DE4E},
-        {"vc3 type 5", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 1, 2, 5, 0, x); }, 128 + 64,
-         0x2DE50},
-        {"vc3 G1", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 0, 1, 6, 0, x); }, 32, 0x2DE46},
-        {"vc3 B3", [](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, 0, 1, 7, 0, x); }, 32, 0x2DE42},
+        uint32_t key, reg;
+    } cases[] = {
+        {"vc3 type 0", vc3(1, 2, 0, 1), 128 + 64, 0x2DE44},
+        {"vc3 type 1", vc3(1, 2, 1, 0), 128 + 64, 0x2DE48},
+        {"vc3 type 2", vc3(1, 2, 2, 0), 128 + 64, 0x2DE4C},
+        {"vc3 type 3", vc3(1, 2, 3, 0), 128 + 64, 0x2DE4A},
+        {"vc3 type 4", vc3(1, 2, 4, 0), 128 + 64, 0x2DE4E},
+        {"vc3 type 5", vc3(1, 2, 5, 0), 128 + 64, 0x2DE50},
+        {"vc3 G1", vc3(0, 1, 6, 0), 32, 0x2DE46},
+        {"vc3 B3", vc3(0, 1, 7, 0), 32, 0x2DE42},
         {"vc12 V5", [](uint32_t x) { return VQ6192_SDH_SetTxLpV5(3, 2, 0, 13, 0, x); }, 256 + 13, 0x2DE44},
         {"vc12 K4", [](uint32_t x) { return VQ6192_SDH_SetTxLpK4(3, 2, 1, 27, 0, x); }, 256 + 59, 0x2DE4E},
         {"vc12 N2", [](uint32_t x) { return VQ6192_SDH_SetTxLpN2(3, 3, 2, 0, x); }, 384 + 64, 0x2DE50},
     };
     uint32_t value = 0x21;
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         ASSERT_EQ(c.set(value), 0u) << c.name;
         EXPECT_EQ(paths().paged(Page::TxLo, c.key, c.reg) & 0xFF, value) << c.name;
         ++value;
     }
-    uint8_t m = 9, v = 0;
+    uint8_t m = 9, v = 0, k = 0, n = 0;
     ASSERT_EQ(VQ6192_SDH_GetTxLpByte(kChip, 1, 2, 3, &m, &v), 0u);
-    EXPECT_EQ(v, 0x24);
-    ASSERT_EQ(VQ6192_SDH_GetTxLpK4(kChip, 2, 1, 27, &m, &v), 0u);
-    EXPECT_EQ(v, 0x2A);
-    ASSERT_EQ(VQ6192_SDH_GetTxLpN2(kChip, 3, 2, 0, &v), 0u);
-    EXPECT_EQ(v, 0x2B);
+    ASSERT_EQ(VQ6192_SDH_GetTxLpK4(kChip, 2, 1, 27, &m, &k), 0u);
+    ASSERT_EQ(VQ6192_SDH_GetTxLpN2(kChip, 3, 2, 0, &n), 0u);
+    EXPECT_EQ(ints(v, k, n), ints(0x24, 0x2A, 0x2B));
 }
 
 TEST_F(SdhOverheadTest, SoftwareInsertionBits) {
@@ -202,21 +165,18 @@ TEST_F(SdhOverheadTest, SoftwareInsertionBits) {
     EXPECT_EQ(m, 1);
     model.poke(vc3, 0xFF97);  // bit 3 missing
     ASSERT_EQ(VQ6192_SDH_GetTxLpByte(kChip, 1, 2, 6, &m, &v), 0u);
-    EXPECT_EQ(m, 0);
-    EXPECT_EQ(v, 0x11);
+    EXPECT_EQ(ints(m, v), ints(0, 0x11));
     ASSERT_EQ(VQ6192_SDH_SetTxLpB3(kChip, 1, 2, 1, 0x22), 0u);
     EXPECT_EQ(model.peek(vc3), 0xFFB7);
     ASSERT_EQ(VQ6192_SDH_GetTxLpB3(kChip, 1, 2, &m, &v), 0u);
-    EXPECT_EQ(m, 1);
-    EXPECT_EQ(v, 0x22);
+    EXPECT_EQ(ints(m, v), ints(1, 0x22));
 
     const uint32_t vc12 = lt(0, 32 + 4);
     model.poke(vc12, 0xFF93);
     ASSERT_EQ(VQ6192_SDH_SetTxLpV5(kChip, 0, 1, 4, 1, 0x0C), 0u);
     EXPECT_EQ(model.peek(vc12), 0xFFFF);
     ASSERT_EQ(VQ6192_SDH_GetTxLpV5(kChip, 0, 1, 4, &m, &v), 0u);
-    EXPECT_EQ(m, 1);
-    EXPECT_EQ(v, 0x0C);
+    EXPECT_EQ(ints(m, v), ints(1, 0x0C));
     // A partial setting reads back as off and is cleared.
     model.poke(vc12, 0xFFDF);  // bit 5 missing
     ASSERT_EQ(VQ6192_SDH_GetTxLpV5(kChip, 0, 1, 4, &m, &v), 0u);
@@ -231,8 +191,7 @@ TEST_F(SdhOverheadTest, SoftwareInsertionBits) {
 TEST_F(SdhOverheadTest, ErrorInsertion) {
     // High-order B3: value (mode 0), 0x200 + value, 0x300 + value into TH(n)+8 of the three blocks.
     struct Case {
-        uint32_t mode;
-        uint32_t value;
+        uint32_t mode, value;
         uint16_t field;
     };
     for (Case c : {Case{0, 5, 5}, Case{1, 5, 0x205}, Case{2, 0x7F, 0x37F}}) {
@@ -245,15 +204,13 @@ TEST_F(SdhOverheadTest, ErrorInsertion) {
         }
         uint8_t v, m;
         ASSERT_EQ(VQ6192_SDH_GetTxHpB3Err(kChip, 1, &v, &m), 0u);
-        EXPECT_EQ(v, c.value);
-        EXPECT_EQ(m, c.mode);
+        EXPECT_EQ(ints(v, m), ints(c.value, c.mode));
     }
     // Bits 9..8 = 1, which the setter never writes, read back as mode 0.
     model.poke(th(1) + 8, 0x0123);
-    uint8_t v1, m1;
-    ASSERT_EQ(VQ6192_SDH_GetTxHpB3Err(kChip, 1, &v1, &m1), 0u);
-    EXPECT_EQ(v1, 0x23);
-    EXPECT_EQ(m1, 0);
+    uint8_t v, m;
+    ASSERT_EQ(VQ6192_SDH_GetTxHpB3Err(kChip, 1, &v, &m), 0u);
+    EXPECT_EQ(ints(v, m), ints(0x23, 0));
     // Refused while the B3 source select is not 0.
     model.poke(th(1) + 4, 1u << 2);
     model.setTrace(true);
@@ -273,18 +230,15 @@ TEST_F(SdhOverheadTest, ErrorInsertion) {
     EXPECT_EQ(model.peek(vc3), 0xFC00);
     ASSERT_EQ(VQ6192_SDH_SetTxLpB3Err(kChip, 2, 0, 9, 2), 0u);
     EXPECT_EQ(model.peek(vc3), 0xFC00 | 0x309);
-    uint8_t v, m;
     ASSERT_EQ(VQ6192_SDH_GetTxLpB3Err(kChip, 2, 0, &v, &m), 0u);
-    EXPECT_EQ(v, 9);
-    EXPECT_EQ(m, 2);
+    EXPECT_EQ(ints(v, m), ints(9, 2));
     const uint32_t vc12 = lt(2, 64 + 3) + 4;
     for (Case c : {Case{1, 2, 10}, Case{2, 1, 13}, Case{0, 3, 0}}) {
         model.poke(vc12, 0xFC00);
         ASSERT_EQ(VQ6192_SDH_SetTxLpV5Bip2Err(kChip, 2, 2, 3, c.value, c.mode), 0u);
         EXPECT_EQ(model.peek(vc12), 0xFC00 | c.field) << c.mode;
         ASSERT_EQ(VQ6192_SDH_GetTxLpV5Bip2Err(kChip, 2, 2, 3, &v, &m), 0u);
-        EXPECT_EQ(m, c.mode);
-        EXPECT_EQ(v, c.mode == 0 ? 0 : c.value);
+        EXPECT_EQ(ints(v, m), ints(c.mode == 0 ? 0 : c.value, c.mode));
     }
     // Refused while software B3 or V5 insertion is on.
     model.poke(lt(2, 0), 1u << 5);
@@ -304,8 +258,7 @@ TEST_F(SdhOverheadTest, ErrorInsertion) {
 TEST_F(SdhOverheadTest, ReiErdiModesAndConsequentActions) {
     struct Dir {
         uint32_t dir;
-        bool ing;
-        bool eg;
+        bool ing, eg;
     };
     const uint32_t c = 32 * 1 + 6;
     for (Dir d : {Dir{0, true, false}, Dir{1, false, true}, Dir{2, true, true}}) {
@@ -315,12 +268,10 @@ TEST_F(SdhOverheadTest, ReiErdiModesAndConsequentActions) {
         ASSERT_EQ(VQ6192_SDH_SetVc12ErdiMode(kChip, 3, 1, 6, d.dir, 1), 0u);
         EXPECT_EQ(model.peek(lr(3, c) + 4), d.ing ? 0xFFFF : 0xFFE7) << d.dir;
         EXPECT_EQ(model.peek(lt(3, c)), d.eg ? 0xFFFF : 0xFE7F) << d.dir;
-        uint8_t i = 9, e = 9;
+        uint8_t i = 9, e = 9, ei = 9, ee = 9;
         ASSERT_EQ(VQ6192_SDH_GetLpReiMode(kChip, 3, 1, 6, &i, &e), 0u);
-        EXPECT_EQ(i, d.ing ? 1 : 0);
-        EXPECT_EQ(e, d.eg ? 1 : 0);
-        ASSERT_EQ(VQ6192_SDH_GetVc12ErdiMode(kChip, 3, 1, 6, &i, &e), 0u);
-        EXPECT_EQ(i, d.ing ? 1 : 0);
+        ASSERT_EQ(VQ6192_SDH_GetVc12ErdiMode(kChip, 3, 1, 6, &ei, &ee), 0u);
+        EXPECT_EQ(ints(i, e, ei), ints(d.ing, d.eg, d.ing)) << d.dir;
     }
     EXPECT_EQ(VQ6192_SDH_SetLpReiMode(kChip, 3, 1, 6, 3, 1), kParaErr);
     // VC-3 enhanced RDI on VC-4 2 changes only VC-4 2's bit.
@@ -331,24 +282,18 @@ TEST_F(SdhOverheadTest, ReiErdiModesAndConsequentActions) {
     for (uint32_t v = 0; v < 4; ++v) {
         EXPECT_EQ(model.peek(lt(v, 32)), v == 2 ? 0xFFFF : 0xFFFD) << v;
     }
-    // Consequent actions: 0..4 enables in LR+0xE bits 3, 5, 4, 1, 0; 5..9 disables in LT+2 bits 2, 4, 3,
-    // 0, 1.
-    const uint32_t rxBits[5] = {3, 5, 4, 1, 0};
-    const uint32_t txBits[5] = {2, 4, 3, 0, 1};
+    // Consequent actions 0..4 are enables in LR+0xE (bits 3, 5, 4, 1, 0), 5..9 disables in LT+2 (bits 2,
+    // 4, 3, 0, 1) of a register of ones.
+    const uint16_t rx[10] = {0x0008, 0x0020, 0x0010, 0x0002, 0x0001, 0, 0, 0, 0, 0};
+    const uint16_t tx[10] = {0xFFFF, 0xFFFF, 0xFFFF, 0xFFFF, 0xFFFF, 0xFFFB, 0xFFEF, 0xFFF7, 0xFFFE, 0xFFFD};
     for (uint32_t type = 0; type < 10; ++type) {
         model.poke(lr(0, 5) + 0xE, 0);
         model.poke(lt(0, 5) + 2, 0xFFFF);
-        ASSERT_EQ(VQ6192_SDH_SetSdhLpTranInsert(kChip, 0, 0, 5, type, 1), 0u);
-        if (type < 5) {
-            EXPECT_EQ(model.peek(lr(0, 5) + 0xE), 1u << rxBits[type]) << type;
-            EXPECT_EQ(model.peek(lt(0, 5) + 2), 0xFFFF) << type;
-        } else {
-            EXPECT_EQ(model.peek(lt(0, 5) + 2), 0xFFFF ^ (1u << txBits[type - 5])) << type;
-            EXPECT_EQ(model.peek(lr(0, 5) + 0xE), 0) << type;
-        }
         uint8_t en = 9;
+        ASSERT_EQ(VQ6192_SDH_SetSdhLpTranInsert(kChip, 0, 0, 5, type, 1), 0u);
         ASSERT_EQ(VQ6192_SDH_GetSdhLpTranInsert(kChip, 0, 0, 5, type, &en), 0u);
-        EXPECT_EQ(en, 1) << type;
+        EXPECT_EQ(ints(model.peek(lr(0, 5) + 0xE), model.peek(lt(0, 5) + 2), en), ints(rx[type], tx[type], 1))
+            << type;
     }
     EXPECT_EQ(VQ6192_SDH_SetSdhLpTranInsert(kChip, 0, 0, 5, 10, 1), kParaErr);
 }
@@ -356,7 +301,7 @@ TEST_F(SdhOverheadTest, ReiErdiModesAndConsequentActions) {
 TEST_F(SdhOverheadTest, RefusalsTouchNothing) {
     uint8_t a, b;
     uint16_t w;
-    const std::vector<std::pair<const char *, std::function<uint32_t()>>> calls = {
+    const Calls calls = {
         {"hp byte vc4 4", [] { return VQ6192_SDH_SetTxHpByte(3, 4, 0, 1, 0); }},
         {"hp byte mode 2", [] { return VQ6192_SDH_SetTxHpByte(3, 0, 0, 1, 2); }},
         {"hp b3 err mode 3", [] { return VQ6192_SDH_SetTxHpB3Err(3, 0, 1, 3); }},
@@ -385,14 +330,8 @@ TEST_F(SdhOverheadTest, RefusalsTouchNothing) {
         {"e3 fifo 12", [&] { return VQ6192_SDH_GetSDHET3FifoAlm(3, 12, &a); }},
         {"hp alms null", [&] { return VQ6192_SDH_GetHpAlms(3, 0, &a, &b, nullptr); }},
     };
-    model.setTrace(true);
-    for (const auto &[name, call] : calls) {
-        capture.clear();
-        model.clearTrace();
-        EXPECT_EQ(call(), kParaErr) << name;
-        EXPECT_TRUE(model.trace().empty()) << name;
-        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{"ParaErr.\r\n"}) << name;
-    }
+    expectRefused(calls);
 }
 
 }  // namespace
+}  // namespace sdhtest

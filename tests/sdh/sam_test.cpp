@@ -1,16 +1,13 @@
 // SAM block: initialisation and reset, Sa-bit insertion and extraction through the Sa-bit tables,
 // channel switches, counters and status.
-#include <functional>
-
-#include "support/test_support.h"
-#include "vq6192/sdh.h"
 #include "vq6192/sim/sam.h"
+#include "sdh/sdh_test.h"
 
+namespace sdhtest {
 namespace {
 
 using vq6192::sim::BusAccess;
 using vq6192::sim::BusOp;
-using vqtest::ChipTest;
 
 constexpr uint32_t kSamParaErr = 0x03090001;
 constexpr uint32_t kSamBlock = 0x3000;  // SA-bit table engine (register number)
@@ -21,7 +18,7 @@ uint32_t chanReg(uint32_t e1) {
     return 0x6200 + 2 * e1;
 }
 
-using SamTest = ChipTest;
+using SamTest = SdhTest;
 
 TEST_F(SamTest, InitialisationNeedsTheReadyBit) {
     model.block<vq6192::sim::SamBlock>().setReady(false);
@@ -77,16 +74,12 @@ TEST_F(SamTest, SaBitInsertion) {
     model.poke(chanReg(5), 0xFFFE);
     ASSERT_EQ(VQ6192_SAM_SetSaBitInsert(kChip, 5, 2, 0x3F, 1), 0u);
     auto after = tables.entry(kSamBlock, kInsSelect, 5);
-    EXPECT_EQ(after[0], 0xFFFF);
-    EXPECT_EQ(after[1], 0x000F);
-    EXPECT_EQ(model.peek(chanReg(5)), 0xFFFF);
+    EXPECT_EQ(ints(after[0], after[1], model.peek(chanReg(5))), ints(0xFFFF, 0x000F, 0xFFFF));
 
     // Sabit3 is bits 19..15, across the two halves.
     ASSERT_EQ(VQ6192_SAM_SetSaBitInsert(kChip, 5, 3, 0x0A, 0), 0u);
     after = tables.entry(kSamBlock, kInsSelect, 5);
-    EXPECT_EQ(after[0], 0x7FFF);
-    EXPECT_EQ(after[1], 0x0005);
-    EXPECT_EQ(model.peek(chanReg(5)), 0xFFFE);
+    EXPECT_EQ(ints(after[0], after[1], model.peek(chanReg(5))), ints(0x7FFF, 0x0005, 0xFFFE));
 
     // A bit position above 3: the code without a trace line, nothing written.
     model.setTrace(true);
@@ -127,13 +120,13 @@ TEST_F(SamTest, SaBitExtraction) {
 }
 
 TEST_F(SamTest, ChannelAndGlobalSwitches) {
-    struct Case {
+    // The register and the bits each call sets, from a register with every other bit set.
+    const struct {
         const char *name;
         std::function<uint32_t()> call;
         uint32_t reg;
-        uint16_t mask;  // bits the call sets (from a register with every other bit set)
-    };
-    const Case cases[] = {
+        uint16_t mask;
+    } cases[] = {
         {"global tu-ais", [] { return VQ6192_SAM_SetSamGlbTuaisEn(3, 1); }, 0x6060, 1u << 3},
         {"channel tu-ais", [] { return VQ6192_SAM_SetSamChnTuaisEn(3, 17, 1); }, chanReg(17), 1u << 6},
         {"hdlc select 4", [] { return VQ6192_SAM_SetSamHdlcSel(3, 4); }, 0x6060, 0x4},
@@ -142,26 +135,19 @@ TEST_F(SamTest, ChannelAndGlobalSwitches) {
         {"insert enables", [] { return VQ6192_SAM_SetSamInsEn(3, 100, 1, 1); }, chanReg(100), 0x3},
         {"insert mode", [] { return VQ6192_SAM_SetSamInsMod(3, 100, 1); }, chanReg(100), 1u << 2},
     };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         const uint16_t field = c.reg == 0x6060 && c.mask == 0x4 ? 0x7 : c.mask;
         model.poke(c.reg, static_cast<uint16_t>(~field));
         ASSERT_EQ(c.call(), 0u) << c.name;
         EXPECT_EQ(model.peek(c.reg), static_cast<uint16_t>(~field | c.mask)) << c.name;
     }
-    model.setTrace(true);
-    const std::vector<std::function<uint32_t()>> refused = {
-        [] { return VQ6192_SAM_SetSamHdlcSel(3, 5); },
-        [] { return VQ6192_SAM_SetSamGlbTuaisEn(3, 2); },
-        [] { return VQ6192_SAM_SetSamChnTuaisEn(3, 336, 1); },
-        [] { return VQ6192_SAM_SetSamFthEn(3, 0, 2, 0); },
-        [] { return VQ6192_SAM_SetSamInsEn(3, 0, 0, 2); },
-        [] { return VQ6192_SAM_SetSamInsMod(3, 0, 2); },
-    };
-    for (const auto &call : refused) {
-        model.clearTrace();
-        EXPECT_EQ(call(), kSamParaErr);
-        EXPECT_TRUE(model.trace().empty());
-    }
+    expectRefused({{"hdlc select 5", [] { return VQ6192_SAM_SetSamHdlcSel(3, 5); }},
+                   {"global tu-ais 2", [] { return VQ6192_SAM_SetSamGlbTuaisEn(3, 2); }},
+                   {"channel 336", [] { return VQ6192_SAM_SetSamChnTuaisEn(3, 336, 1); }},
+                   {"fetch enable 2", [] { return VQ6192_SAM_SetSamFthEn(3, 0, 2, 0); }},
+                   {"insert enable 2", [] { return VQ6192_SAM_SetSamInsEn(3, 0, 0, 2); }},
+                   {"insert mode 2", [] { return VQ6192_SAM_SetSamInsMod(3, 0, 2); }}},
+                  kSamParaErr);
 }
 
 TEST_F(SamTest, CountersWarningsAndSoftErrors) {
@@ -188,3 +174,4 @@ TEST_F(SamTest, CountersWarningsAndSoftErrors) {
 }
 
 }  // namespace
+}  // namespace sdhtest

@@ -1,21 +1,15 @@
 // Path traces: the trace CRC-7 against independently known values, traces sent and read through the
 // selector pages, and the expected-trace signature the receiver compares.
-#include <functional>
 #include <numeric>
 
-#include "support/test_support.h"
-#include "vq6192/sdh.h"
-#include "vq6192/sim/sdh_paths.h"
+#include "sdh/sdh_test.h"
 
+namespace sdhtest {
 namespace {
 
-using Page = vq6192::sim::SdhPaths::Page;
-using vqtest::ChipTest;
-
-constexpr uint32_t kParaErr = 0x03080001;
-
-// CRC-7 by polynomial long division: the message bits (MSB first) times x^7 modulo x^7 + x^3 + 1.
-uint8_t referenceCrc7(std::vector<uint8_t> msg) {
+// CRC-7 by polynomial long division: the message bits (MSB first) followed by seven 0 bits, each
+// shifted into the remainder, which sheds x^7 + x^3 + 1 (0x89) whenever its bit 7 comes up.
+uint8_t referenceCrc7(const std::vector<uint8_t> &msg) {
     std::vector<int> bits;
     for (uint8_t b : msg) {
         for (int i = 7; i >= 0; --i) {
@@ -23,19 +17,12 @@ uint8_t referenceCrc7(std::vector<uint8_t> msg) {
         }
     }
     bits.insert(bits.end(), 7, 0);
-    const int poly[8] = {1, 0, 0, 0, 1, 0, 0, 1};
-    for (size_t i = 0; i + 7 < bits.size(); ++i) {
-        if (bits[i] != 0) {
-            for (int j = 0; j < 8; ++j) {
-                bits[i + j] ^= poly[j];
-            }
-        }
+    uint32_t rem = 0;
+    for (int bit : bits) {
+        rem = (rem << 1) | static_cast<uint32_t>(bit);
+        rem ^= (rem & 0x80) != 0 ? 0x89 : 0;
     }
-    uint8_t crc = 0;
-    for (size_t i = bits.size() - 7; i < bits.size(); ++i) {
-        crc = static_cast<uint8_t>((crc << 1) | bits[i]);
-    }
-    return crc;
+    return static_cast<uint8_t>(rem);
 }
 
 // The first byte of a 16-byte trace: 1, then the CRC-7 of the trace with that byte taken as 0x80.
@@ -81,10 +68,7 @@ TEST(TraceCrc, KnownValues) {
     EXPECT_EQ(VQ6192_SDH_GetCRC7(3, nullptr, 16, 0), 0x80);
 }
 
-class SdhTraceTest : public ChipTest {
-  protected:
-    vq6192::sim::SdhPaths &paths() { return model.block<vq6192::sim::SdhPaths>(); }
-};
+using SdhTraceTest = SdhTest;
 
 TEST_F(SdhTraceTest, HighOrderJ1SentThroughThePageOfItsVc4) {
     const auto msg = text("\x01VQ6192 LINE 1 A", 64);
@@ -111,8 +95,7 @@ TEST_F(SdhTraceTest, HighOrderJ1SentThroughThePageOfItsVc4) {
         uint8_t readMode = 9, pass = 9;
         uint8_t back[64] = {};
         ASSERT_EQ(VQ6192_SDH_GetTxHpJ1(kChip, 2, &readMode, back, &pass), 0u);
-        EXPECT_EQ(readMode, mode == 2 ? 2 : 0);
-        EXPECT_EQ(pass, 1);
+        EXPECT_EQ(ints(readMode, pass), ints(mode == 2 ? 2 : 0, 1));
         EXPECT_EQ(std::vector<uint8_t>(back, back + len), expected);
     }
     // The other VC-4s' traces are untouched.
@@ -125,8 +108,7 @@ TEST_F(SdhTraceTest, LowOrderTracesAndTheirEndings) {
     msg[63] = 'y';
     ASSERT_EQ(VQ6192_SDH_SetTxLpJ1(kChip, 1, 2, 2, msg.data()), 0u);
     auto sent = paths().trace(Page::TxLo, 128 * 1 + 64, 64);
-    EXPECT_EQ(sent[62], 0x0D);
-    EXPECT_EQ(sent[63], 0x0A);
+    EXPECT_EQ(ints(sent[62], sent[63]), ints(0x0D, 0x0A));
     EXPECT_EQ(std::vector<uint8_t>(sent.begin(), sent.begin() + 62),
               std::vector<uint8_t>(msg.begin(), msg.begin() + 62));
     EXPECT_EQ(model.peek(0x2DE60 + 0x4000 + 8 * 64) & 1u, 1u);
@@ -218,9 +200,7 @@ TEST_F(SdhTraceTest, ExpectedTraceSignatures) {
         uint8_t mode, gcrc, gsum;
         uint16_t last;
         ASSERT_EQ(VQ6192_SDH_GetRxLpShouldJ1(kChip, 3, 1, &mode, &gcrc, &gsum, &last), 0u);
-        EXPECT_EQ(mode, c.longTrace ? 2 : 0);
-        EXPECT_EQ(gcrc, crc);
-        EXPECT_EQ(gsum, sum & 0xFF);
+        EXPECT_EQ(ints(mode, gcrc, gsum), ints(c.longTrace ? 2 : 0, crc, sum & 0xFF));
     }
     // J2: 16 bytes, only LR+6 of the VC-12 changes.
     const uint32_t lr12 = 0x2C380 + 0x40 * (32 * 2 + 20);
@@ -233,14 +213,13 @@ TEST_F(SdhTraceTest, ExpectedTraceSignatures) {
     EXPECT_EQ(model.peek(lr12 + 4), 0xFFFF);
     uint8_t gcrc, gsum;
     ASSERT_EQ(VQ6192_SDH_GetRxLpShouldJ2(kChip, 0, 2, 20, &gcrc, &gsum), 0u);
-    EXPECT_EQ(gcrc, crc);
-    EXPECT_EQ(gsum, sum);
+    EXPECT_EQ(ints(gcrc, gsum), ints(crc, sum));
 }
 
 TEST_F(SdhTraceTest, RefusalsTouchNothing) {
     const auto msg = text("X", 64);
     uint8_t m, b[64];
-    const std::vector<std::pair<const char *, std::function<uint32_t()>>> calls = {
+    expectRefused({
         {"hp j1 vc4 4", [&] { return VQ6192_SDH_SetTxHpJ1(kChip, 4, 0, msg.data(), 0); }},
         {"hp j1 mode 3", [&] { return VQ6192_SDH_SetTxHpJ1(kChip, 0, 3, msg.data(), 0); }},
         {"hp j1 null", [&] { return VQ6192_SDH_SetTxHpJ1(kChip, 0, 0, nullptr, 0); }},
@@ -251,19 +230,10 @@ TEST_F(SdhTraceTest, RefusalsTouchNothing) {
         {"should j2 null", [&] { return VQ6192_SDH_SetRxLpShouldJ2(kChip, 0, 0, 0, nullptr, 0); }},
         {"rx hp j1 null", [&] { return VQ6192_SDH_GetRxHpJ1(kChip, 0, &m, nullptr); }},
         {"rx lp j1 vc4 4", [&] { return VQ6192_SDH_GetRxLpJ1(kChip, 4, 0, &m, b); }},
-        {"bad chip",
-         [&] { return VQ6192_SDH_SetTxHpJ1(264, 0, 0, msg.data(), 0) == 0x08080001 ? kParaErr : 0; }},
-    };
-    model.setTrace(true);
-    for (const auto &[name, call] : calls) {
-        capture.clear();
-        model.clearTrace();
-        EXPECT_EQ(call(), kParaErr) << name;
-        EXPECT_TRUE(model.trace().empty()) << name;
-        if (std::string(name) != "bad chip") {
-            EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{"ParaErr.\r\n"}) << name;
-        }
-    }
+    });
+    expectRefused({{"bad chip", [&] { return VQ6192_SDH_SetTxHpJ1(264, 0, 0, msg.data(), 0); }}}, 0x08080001,
+                  false);
 }
 
 }  // namespace
+}  // namespace sdhtest

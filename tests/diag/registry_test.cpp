@@ -1,0 +1,65 @@
+// Every diagnostic command of every family through its registry row: a help line, a terminated report
+// kept inside the 48128-byte buffer on a chip set up for the longest listings, or no report at all for
+// the few commands that print nothing.
+#include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "diag/registry.h"
+#include "support/test_support.h"
+#include "vq6192/atm.h"
+#include "vq6192/table.h"
+
+namespace {
+
+class DiagRegistry : public vqtest::ChipTest {
+  protected:
+    void TearDown() override {
+        for (ATM_CONN_DATA &r : g_conndata) {
+            r = ATM_CONN_DATA{};
+        }
+        ChipTest::TearDown();
+    }
+};
+
+TEST_F(DiagRegistry, EveryCommandHasHelpAndStaysInsideTheBuffer) {
+    // Timeslot 0 of every E1/T1 carries a CES channel under PRBS test; every ATM connection is in use.
+    for (uint32_t source = 0; source < 336; ++source) {
+        const uint32_t entry = 0x9A00 | source;
+        ASSERT_EQ(VQ6192_Write_Table(kChip, 119, source << 5, &entry), 0u);
+    }
+    for (ATM_CONN_DATA &r : g_conndata) {
+        r.ulUsed = 1;
+    }
+    constexpr size_t kGuard = 4096;
+    std::set<std::string> silent;
+    for (const vq::diag::Command &cmd : vq::diag::commands()) {
+        SCOPED_TRACE(cmd.name);
+        EXPECT_NE(std::string(cmd.help), "");
+        std::vector<vq::diag::ArgValue> args(cmd.argc);
+        for (size_t k = 0; k < args.size(); ++k) {
+            args[k].kind = cmd.kinds[k];
+            args[k].bytes.resize(vq::diag::kMinArrayElems);
+            args[k].u16.resize(vq::diag::kMinArrayElems);
+        }
+        if (!args.empty()) {
+            args[0].u32 = kChip;
+        }
+        std::vector<char> buf(VQ6192_DIAG_BUF_SIZE + kGuard, '#');
+        cmd.invoke(args.data(), buf.data());
+        if (buf[0] == '#') {
+            silent.insert(cmd.name);
+        } else {
+            EXPECT_NE(std::find(buf.begin(), buf.begin() + VQ6192_DIAG_BUF_SIZE, '\0'),
+                      buf.begin() + VQ6192_DIAG_BUF_SIZE);
+        }
+        EXPECT_EQ(std::count(buf.begin() + VQ6192_DIAG_BUF_SIZE, buf.end(), '#'), static_cast<long>(kGuard));
+    }
+    // Only the dump (which writes a file) and the commands kept for compatibility leave the buffer alone.
+    EXPECT_EQ(silent, (std::set<std::string>{"VQ6192_DUMP_F", "DbgGetPppconfig", "DbgGetMpconfig",
+                                             "DbgGetCapPktMatchCapture", "DbgGetCesChannelInfo",
+                                             "DbgGetCesRtpParam"}));
+}
+
+}  // namespace

@@ -1,0 +1,74 @@
+// The framer suite's fixture: a chip on the model, the framer registers and timeslot table entries by
+// channel, and the parameter error of chip 3.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "support/test_support.h"
+#include "vq6192/framer.h"
+#include "vq6192/sim/framers.h"
+
+namespace framertest {
+
+using vq6192::sim::BusAccess;
+using vq6192::sim::BusOp;
+using vq6192::sim::Framers;
+using vq6192::sim::TableEngine;
+
+constexpr uint32_t kParaErr = 0x030E0001;
+// The timeslot table block and its two selects; an entry's index is (source << 5) | timeslot.
+constexpr uint32_t kTsBlock = 0x10ab;
+constexpr uint32_t kIngressSelect = 0;
+constexpr uint32_t kEgressSelect = 1;
+
+// EXPECT_EQ(ints(mode, value), ints(1, 0x5A)).
+template <typename... T>
+std::vector<int> ints(T... v) {
+    return {static_cast<int>(v)...};
+}
+
+class FramerTest : public vqtest::ChipTest {
+  protected:
+    void TearDown() override {
+        g_uiPrbsFlag[kChip] = 0;
+        ChipTest::TearDown();
+    }
+    Framers &framers() { return model.block<Framers>(); }
+    uint16_t ingress(uint32_t e1, uint32_t word = Framers::kIngMode) {
+        return model.peek(Framers::ingressAddr(e1, word));
+    }
+    uint16_t egress(uint32_t e1, uint32_t word = Framers::kEgMode) {
+        return model.peek(Framers::egressAddr(e1, word));
+    }
+    uint16_t entry(uint32_t select, uint32_t source, uint32_t ts) {
+        return model.tables().entry(kTsBlock, select, (source << 5) | ts)[0];
+    }
+    void setEntry(uint32_t select, uint32_t source, uint32_t ts, uint16_t value) {
+        TableEngine::Entry e{};
+        e[0] = value;
+        model.tables().setEntry(kTsBlock, select, (source << 5) | ts, e);
+    }
+    void tdm(uint32_t mode) { ASSERT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, mode), 0u); }
+    bool wrote() { return !vqtest::writes(model.trace()).empty(); }
+
+    // Each call returns the parameter error, makes no bus access and prints the one parameter error line
+    // under the framer's print module.
+    void expectRefused(const std::vector<std::pair<const char *, std::function<uint32_t()>>> &calls) {
+        model.setTrace(true);
+        for (const auto &[name, call] : calls) {
+            capture.clear();
+            model.clearTrace();
+            EXPECT_EQ(call(), kParaErr) << name;
+            EXPECT_TRUE(model.trace().empty()) << name;
+            ASSERT_EQ(capture.traces.size(), 1u) << name;
+            EXPECT_EQ(capture.traces[0].module, uint32_t{VQ6192_MODULE_FRM}) << name;
+            EXPECT_EQ(capture.traces[0].text, "ParaErr.\r\n") << name;
+        }
+        model.setTrace(false);
+    }
+};
+
+}  // namespace framertest

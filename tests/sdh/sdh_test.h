@@ -1,0 +1,93 @@
+// The SDH suite's fixture: a chip on the model, the path register blocks by number, and the two checks
+// most operations share (a refused call touches nothing; a setter changes only its field).
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "support/test_support.h"
+#include "vq6192/sdh.h"
+#include "vq6192/sim/sdh_paths.h"
+
+namespace sdhtest {
+
+using Page = vq6192::sim::SdhPaths::Page;
+using Calls = std::vector<std::pair<const char *, std::function<uint32_t()>>>;
+
+constexpr uint32_t kParaErr = 0x03080001;
+constexpr uint32_t kPrereqErr = 0x03080004;
+
+// Transmit high-order block n, receive high-order block n, receive and transmit low-order channel c of
+// VC-4 v.
+inline uint32_t th(uint32_t n) {
+    return 0x2DCC0 + 0x20 * n;
+}
+inline uint32_t hr(uint32_t n) {
+    return 0x2C040 + 0x40 * n;
+}
+inline uint32_t lr(uint32_t v, uint32_t c) {
+    return 0x2C380 + 0x4000 * v + 0x40 * c;
+}
+inline uint32_t lt(uint32_t v, uint32_t c) {
+    return 0x2DE60 + 0x4000 * v + 8 * c;
+}
+
+// Several outputs in one comparison: EXPECT_EQ(ints(mode, value), ints(1, 0x5A)).
+template <typename... T>
+std::vector<int> ints(T... v) {
+    return {static_cast<int>(v)...};
+}
+
+// A setter writing `value` into bits bit..bit+width-1 of `count` registers `stride` apart, and the
+// getter reading it back.
+template <typename Out>
+struct Field {
+    const char *name;
+    std::function<uint32_t(uint32_t)> set;
+    std::function<uint32_t(Out *)> get;
+    uint32_t reg, stride, count, bit, width, value;
+};
+
+class SdhTest : public vqtest::ChipTest {
+  protected:
+    vq6192::sim::SdhPaths &paths() { return model.block<vq6192::sim::SdhPaths>(); }
+
+    // Each call returns `code`, makes no bus access and, when `paraTrace`, prints the one parameter
+    // error line.
+    void expectRefused(const Calls &calls, uint32_t code = kParaErr, bool paraTrace = true) {
+        model.setTrace(true);
+        for (const auto &[name, call] : calls) {
+            capture.clear();
+            model.clearTrace();
+            EXPECT_EQ(call(), code) << name;
+            EXPECT_TRUE(model.trace().empty()) << name;
+            EXPECT_EQ(capture.traceTexts(),
+                      paraTrace ? std::vector<std::string>{"ParaErr.\r\n"} : std::vector<std::string>{})
+                << name;
+        }
+        model.setTrace(false);
+    }
+
+    // Registers start with every bit but the field's set; the field is written and read back.
+    template <typename Out>
+    void expectFields(const std::vector<Field<Out>> &cases) {
+        for (const auto &c : cases) {
+            const auto mask = static_cast<uint16_t>(((1u << c.width) - 1u) << c.bit);
+            for (uint32_t k = 0; k < c.count; ++k) {
+                model.poke(c.reg + k * c.stride, static_cast<uint16_t>(~mask));
+            }
+            ASSERT_EQ(c.set(c.value), 0u) << c.name;
+            for (uint32_t k = 0; k < c.count; ++k) {
+                EXPECT_EQ(model.peek(c.reg + k * c.stride), static_cast<uint16_t>(~mask | (c.value << c.bit)))
+                    << c.name;
+            }
+            Out out = static_cast<Out>(0xEEEE);
+            ASSERT_EQ(c.get(&out), 0u) << c.name;
+            EXPECT_EQ(out, c.value) << c.name;
+        }
+    }
+};
+
+}  // namespace sdhtest
