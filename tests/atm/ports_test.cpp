@@ -26,8 +26,8 @@ class PortTest : public AtmTest {
         return out;
     }
     void prefillPort(uint32_t line, uint32_t sys) {
-        fillEntryWide(kLinkQm, 8192 + line, 46);
-        fillEntryWide(kBmFifo, line, 64);
+        fillEntry(kLinkQm, 8192 + line, 46);
+        fillEntry(kBmFifo, line, 64);
         fillEntry(kLpct, line, 15);
         fillEntry(kSpct, sys, 12);
     }
@@ -185,7 +185,7 @@ TEST_F(PortTest, QueueDeleteHandshake) {
     };
     for (const Case &k : cases) {
         SCOPED_TRACE(k.name);
-        fillEntryWide(kLinkQm, k.entry, 46);
+        fillEntry(kLinkQm, k.entry, 46);
         model.poke(0xA860, 0);
         atm().setDeleteAckPolls(k.ackPolls);
         model.clearTrace();
@@ -230,7 +230,7 @@ TEST_F(PortTest, PortQueueRates) {
     };
     for (const Case &k : cases) {
         SCOPED_TRACE(k.name);
-        fillEntryWide(kPortQm, 9, 38);
+        fillEntry(kPortQm, 9, 38);
         ASSERT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, k.links, k.ts, k.lenCode, k.mode), 0u);
         EXPECT_EQ(bits(kPortQm, 9, 0, 18), k.period);
         EXPECT_EQ(bits(kPortQm, 9, 18, 8), k.threshold);

@@ -41,7 +41,7 @@ class Pwe3Test : public AtmTest {
     }
     void prefill(uint32_t pw) {
         fillEntry(kPwCfg, pw, 4);
-        fillEntryWide(kPwRxMng, pw, 38);
+        fillEntry(kPwRxMng, pw, 38);
         fillEntry(kPwTxMng, pw, 30);
     }
     uint64_t tick() { return VQ6192_Platform_GetTickUs(); }
@@ -235,7 +235,7 @@ TEST_F(Pwe3Test, FieldSettersChangeOnlyTheirField) {
     };
     for (const Case &k : cases) {
         SCOPED_TRACE(k.name);
-        fillEntryWide(k.sel, k.index, k.width);
+        fillEntry(k.sel, k.index, k.width);
         fillEntry(kPwTxMng, 3, 30);
         ASSERT_EQ(k.set(kChip), 0u);
         EXPECT_EQ(bits(k.sel, k.index, 0, k.width), k.expect);
