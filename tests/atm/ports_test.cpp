@@ -33,37 +33,31 @@ class PortTest : public AtmTest {
     }
 };
 
-using RegWrite = std::pair<uint32_t, uint32_t>;
-
 TEST_F(PortTest, TransparentPortMapsLineAndSystemPort) {
     prefillPort(335, 2047);
     const uint32_t th[3] = {0x7FFFF, 0x12345, 0x1};
     ASSERT_EQ(VQ6192_ATM_AddAtmTransConn(kChip, 335, 2047, th), 0u);
     EXPECT_EQ(bits(kLinkQm, 8192 + 335, 0, 46), (((1ull << 46) - 1) & ~(0x3FFull << 16)) | 335ull << 16)
         << "port bound, not deleted";
-    EXPECT_EQ(bits(kBmFifo, 335, 0, 19), 0x1u) << "drop";
-    EXPECT_EQ(bits(kBmFifo, 335, 19, 19), 0x12345u) << "pause cancel";
-    EXPECT_EQ(bits(kBmFifo, 335, 38, 19), 0x7FFFFu) << "pause";
-    EXPECT_EQ(bits(kBmFifo, 335, 57, 7), 0x7Fu) << "kept";
+    // Drop, pause cancel, pause; the bits above kept.
+    EXPECT_EQ((fields(kBmFifo, 335, {{0, 19}, {19, 19}, {38, 19}, {57, 7}})),
+              (V{0x1, 0x12345, 0x7FFFF, 0x7F}));
     EXPECT_EQ(bits(kLpct, 335, 0, 15), 2047u << 4 | 0xDu);  // transparent, no loop, NNI kept, enabled
     EXPECT_EQ(bits(kSpct, 2047, 0, 12), 335u << 3 | 0x7u);
-    uint8_t map = 0;
-    uint16_t peer = 0;
-    EXPECT_EQ(VQ6192_ATM_GetAtmTransConnSingle(kChip, 335, 0, &map, &peer), 0u);
-    EXPECT_EQ(map, 1);
-    EXPECT_EQ(peer, 2047);
-    EXPECT_EQ(VQ6192_ATM_GetAtmTransConnSingle(kChip, 2047, 1, &map, &peer), 0u);
-    EXPECT_EQ(peer, 335);
+    uint8_t map = 0, map2 = 0;
+    uint16_t peer = 0, peer2 = 0;
     uint32_t back[3] = {};
-    EXPECT_EQ(VQ6192_ATM_GetAtmTransFiFo(kChip, 335, back), 0u);
-    EXPECT_EQ(back[0], 0x7FFFFu);
-    EXPECT_EQ(back[1], 0x12345u);
-    EXPECT_EQ(back[2], 0x1u);
+    EXPECT_EQ((V32{VQ6192_ATM_GetAtmTransConnSingle(kChip, 335, 0, &map, &peer),
+                   VQ6192_ATM_GetAtmTransConnSingle(kChip, 2047, 1, &map2, &peer2),
+                   VQ6192_ATM_GetAtmTransFiFo(kChip, 335, back)}),
+              (V32{0, 0, 0}));
+    EXPECT_EQ((V{map, peer, map2, peer2, back[0], back[1], back[2]}),
+              (V{1, 2047, 1, 335, 0x7FFFF, 0x12345, 0x1}));
 
     ASSERT_EQ(VQ6192_ATM_DelAtmTransConn(kChip, 335, 2047), 0u);
-    EXPECT_EQ(bits(kLpct, 335, 0, 15), 0x4u) << "attribute kept";
-    EXPECT_EQ(bits(kSpct, 2047, 0, 12), 0x2u) << "attribute kept";
-    EXPECT_EQ(bits(kBmFifo, 335, 0, 64), 0x7Full << 57);
+    // Attributes kept, thresholds cleared.
+    EXPECT_EQ((V{bits(kLpct, 335, 0, 15), bits(kSpct, 2047, 0, 12), bits(kBmFifo, 335, 0, 64)}),
+              (V{0x4, 0x2, 0x7Full << 57}));
     EXPECT_EQ(atm().deletes(), (std::vector<AtmBlock::QueueDelete>{{335, true}}));
     EXPECT_EQ(bits(kLinkQm, 8192 + 335, 0, 25), 0u);
 }
@@ -89,12 +83,13 @@ TEST_F(PortTest, TransparentPortRefusals) {
         EXPECT_TRUE(model.trace().empty());
     }
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 1, 2, 2, good), kPara);
-    EXPECT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 1, 2, 0, nullptr), kPara);
-    EXPECT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 2047, 336, 1, good), kPara);
-    EXPECT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 2047, 1, 1, over[2]), kPara);
-    EXPECT_EQ(VQ6192_ATM_DelAtmTransConnSingle(kChip, 336, 0), kPara);
-    EXPECT_EQ(VQ6192_ATM_DelAtmTransConn(kChip, 1, 2048), kPara);
+    EXPECT_EQ(
+        (V32{VQ6192_ATM_AddAtmTransConnSingle(kChip, 1, 2, 2, good),
+             VQ6192_ATM_AddAtmTransConnSingle(kChip, 1, 2, 0, nullptr),
+             VQ6192_ATM_AddAtmTransConnSingle(kChip, 2047, 336, 1, good),
+             VQ6192_ATM_AddAtmTransConnSingle(kChip, 2047, 1, 1, over[2]),
+             VQ6192_ATM_DelAtmTransConnSingle(kChip, 336, 0), VQ6192_ATM_DelAtmTransConn(kChip, 1, 2048)}),
+        V32(6, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
@@ -105,19 +100,16 @@ TEST_F(PortTest, OneSidedTransparentPorts) {
     EXPECT_EQ(bits(kLpct, 7, 0, 15), 900u << 4 | 0xDu);
     EXPECT_EQ(bits(kBmFifo, 7, 0, 57), (1ull << 57) - 1) << "line side leaves the thresholds";
     ASSERT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 900, 7, 1, th), 0u);
-    EXPECT_EQ(bits(kSpct, 900, 0, 12), 7u << 3 | 0x7u);
-    EXPECT_EQ(bits(kBmFifo, 7, 0, 57), 10ull << 38 | 20ull << 19 | 30u);
-    EXPECT_EQ(bits(kLinkQm, 8192 + 7, 16, 10), 7u) << "queue bound, not deleted";
+    // System side: thresholds written, the port queue bound and not deleted.
+    EXPECT_EQ((V{bits(kSpct, 900, 0, 12), bits(kBmFifo, 7, 0, 57), bits(kLinkQm, 8192 + 7, 16, 10)}),
+              (V{7u << 3 | 0x7u, 10ull << 38 | 20ull << 19 | 30u, 7}));
 
     ASSERT_EQ(VQ6192_ATM_DelAtmTransConnSingle(kChip, 900, 1), 0u);
-    EXPECT_EQ(bits(kSpct, 900, 0, 12), 0x2u);
-    EXPECT_EQ(bits(kBmFifo, 7, 0, 57), 0u);
+    EXPECT_EQ((V{bits(kSpct, 900, 0, 12), bits(kBmFifo, 7, 0, 57)}), (V{0x2, 0}));
     EXPECT_EQ(atm().deletes(), (std::vector<AtmBlock::QueueDelete>{{7, true}}));
     ASSERT_EQ(VQ6192_ATM_DelAtmTransConnSingle(kChip, 7, 0), 0u);
     EXPECT_EQ(bits(kLpct, 7, 0, 15), 0x4u);
-}
-
-TEST_F(PortTest, AFailedFlushKeepsTheThresholds) {
+    // A flush that is never acknowledged keeps the thresholds.
     prefillPort(3, 4);
     atm().setDeleteAckPolls(AtmBlock::kForever);
     EXPECT_EQ(VQ6192_ATM_DelAtmTransConn(kChip, 3, 4), kPara);
@@ -130,14 +122,13 @@ TEST_F(PortTest, LinePortLoop) {
     setBits(kLpct, 20, 3, 1, 0);
     const uint32_t th[3] = {1, 2, 3};
     ASSERT_EQ(VQ6192_ATM_SetAtmPortLoopMode(kChip, 20, th), 0u);
-    EXPECT_EQ(bits(kLpct, 20, 0, 15), 0x7FFFu);
-    EXPECT_EQ(bits(kBmFifo, 20, 0, 57), 1ull << 38 | 2ull << 19 | 3u);
+    EXPECT_EQ((V{bits(kLpct, 20, 0, 15), bits(kBmFifo, 20, 0, 57)}),
+              (V{0x7FFF, 1ull << 38 | 2ull << 19 | 3u}));
     uint8_t loop = 0;
     EXPECT_EQ(VQ6192_ATM_GetAtmPortLoopMode(kChip, 20, &loop), 0u);
     EXPECT_EQ(loop, 1);
     ASSERT_EQ(VQ6192_ATM_DelAtmPortLoopMode(kChip, 20), 0u);
-    EXPECT_EQ(bits(kLpct, 20, 0, 15), 0x7FF5u);
-    EXPECT_EQ(bits(kBmFifo, 20, 0, 57), 0u);
+    EXPECT_EQ((V{bits(kLpct, 20, 0, 15), bits(kBmFifo, 20, 0, 57)}), (V{0x7FF5, 0}));
     EXPECT_EQ(atm().deletes(), (std::vector<AtmBlock::QueueDelete>{{20, true}}));
 }
 
@@ -163,10 +154,9 @@ TEST_F(PortTest, PortEnablesAndAttributes) {
     capture.clear();
     EXPECT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, 1, 2, 1), kPara);
     EXPECT_TRUE(capture.traceTexts().empty()) << "side 2 is refused without a trace";
-    EXPECT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, 336, 0, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, 1, 3, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmPortType(kChip, 2048, 1, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmPortType(kChip, 1, 2, 1), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_SetAtmPortEn(kChip, 336, 0, 1), VQ6192_ATM_SetAtmPortEn(kChip, 1, 3, 1),
+                   VQ6192_ATM_SetAtmPortType(kChip, 2048, 1, 1), VQ6192_ATM_SetAtmPortType(kChip, 1, 2, 1)}),
+              V32(4, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
@@ -209,8 +199,8 @@ TEST_F(PortTest, QueueDeleteHandshake) {
     EXPECT_TRUE(traced("Err. VQ6192_ATM_DelAtmBwdQm: Config is error! ChipID: 0x3\r\n"));
     EXPECT_EQ(regWrites(), (std::vector<RegWrite>{{0xA860, 0x000C}})) << "the standing command is cleared";
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, 336, 0), kPara);
-    EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, 8193, 1), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_DelAtmBwdQm(kChip, 336, 0), VQ6192_ATM_DelAtmBwdQm(kChip, 8193, 1)}),
+              V32(2, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
@@ -232,42 +222,37 @@ TEST_F(PortTest, PortQueueRates) {
         SCOPED_TRACE(k.name);
         fillEntry(kPortQm, 9, 38);
         ASSERT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, k.links, k.ts, k.lenCode, k.mode), 0u);
-        EXPECT_EQ(bits(kPortQm, 9, 0, 18), k.period);
-        EXPECT_EQ(bits(kPortQm, 9, 18, 8), k.threshold);
-        EXPECT_EQ(bits(kPortQm, 9, 26, 12), 0xFFFu);
+        EXPECT_EQ((fields(kPortQm, 9, {{0, 18}, {18, 8}, {26, 12}})), (V{k.period, k.threshold, 0xFFF}));
         uint16_t th = 0;
         uint32_t period = 0;
         EXPECT_EQ(VQ6192_ATM_GetAtmImaQm(kChip, 9, &th, &period), 0u);
-        EXPECT_EQ(th, k.threshold);
-        EXPECT_EQ(period, k.period);
+        EXPECT_EQ((V{th, period}), (V{k.threshold, k.period}));
     }
     model.clearTrace();
     capture.clear();
     EXPECT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 0, 0, 2), kPara);
     EXPECT_TRUE(capture.traceTexts().empty()) << "no timeslot: no trace";
-    EXPECT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 1, 0, 0), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 1, 4, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 336, 1, 1, 0, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmImaQm(kChip, 9, 1024, 1), kPara);
+    EXPECT_EQ(
+        (V32{VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 1, 0, 0), VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 1, 4, 1),
+             VQ6192_ATM_SetAtmImaQmTm(kChip, 336, 1, 1, 0, 1), VQ6192_ATM_SetAtmImaQm(kChip, 9, 1024, 1)}),
+        V32(4, kPara));
     EXPECT_TRUE(model.trace().empty());
     ASSERT_EQ(VQ6192_ATM_SetAtmImaQm(kChip, 9, 1023, 0x7FFFF), 0u);
     EXPECT_EQ(bits(kPortQm, 9, 0, 26), 0xFFull << 18 | 0x3FFFFu);
 }
 
 TEST_F(PortTest, TableAndFifoClears) {
+    // Selector, enable, register after: one bit per table, 5 all five.
+    const uint32_t clears[][3] = {{1, 1, 0xFFE7}, {2, 0, 0xFFE3}, {5, 1, 0xFFFF}, {5, 0, 0xFFE0}};
     model.poke(0xA008, 0xFFE5);
-    ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 1, 1), 0u);
-    EXPECT_EQ(model.peek(0xA008), 0xFFE7);
-    ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 2, 0), 0u);
-    EXPECT_EQ(model.peek(0xA008), 0xFFE3);
-    ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 5, 1), 0u);
-    EXPECT_EQ(model.peek(0xA008), 0xFFFF);
-    ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 5, 0), 0u);
-    EXPECT_EQ(model.peek(0xA008), 0xFFE0);
+    for (const auto &c : clears) {
+        ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, c[0], c[1]), 0u);
+        EXPECT_EQ(model.peek(0xA008), c[2]) << c[0] << "/" << c[1];
+    }
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 6, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 0, 2), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetOamFifoClear(kChip, 2), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_SetAtmTabClr(kChip, 6, 1), VQ6192_ATM_SetAtmTabClr(kChip, 0, 2),
+                   VQ6192_ATM_SetOamFifoClear(kChip, 2)}),
+              V32(3, kPara));
     EXPECT_TRUE(model.trace().empty());
 
     model.poke(0xA2CA, 0xF000);
@@ -311,14 +296,10 @@ TEST_F(PortTest, ModuleStart) {
               }));
     uint32_t limits[7] = {};
     ASSERT_EQ(VQ6192_ATM_GetAtmBmReg(kChip, limits), 0u);
-    const uint32_t expected[7] = {0x7FC00, 0x20000, 0x10000, 0x10000, 0x10000, 0xEBFF, 0x1001};
-    for (int i = 0; i < 7; ++i) {
-        EXPECT_EQ(limits[i], expected[i]) << i;
-    }
+    EXPECT_EQ(V32(limits, limits + 7), (V32{0x7FC00, 0x20000, 0x10000, 0x10000, 0x10000, 0xEBFF, 0x1001}));
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 2), 0u);
-    EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 0), kPara);
-    EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 3), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_InitAtm(kChip, 2), VQ6192_ATM_InitAtm(kChip, 0), VQ6192_ATM_InitAtm(kChip, 3)}),
+              (V32{0, kPara, kPara}));
     EXPECT_TRUE(model.trace().empty());
 }
 
