@@ -190,8 +190,8 @@ TEST_F(Pwe3Test, RemoveClearsEntriesAndLabelEvenWhenDeleteHangs) {
             status != 0);
     }
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_RemoveAtmPw(kChip, 40, 0x100000), kPara);
-    EXPECT_EQ(VQ6192_ATM_RemoveAtmPw(kChip, 2048, 1), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_RemoveAtmPw(kChip, 40, 0x100000), VQ6192_ATM_RemoveAtmPw(kChip, 2048, 1)}),
+              V32(2, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
@@ -267,21 +267,19 @@ TEST_F(Pwe3Test, ControlWordRuleOfTheOneToOneModes) {
 
 TEST_F(Pwe3Test, StatisticsRecordAndReadClear) {
     // Transmit entry: sn 0x1234, length 0x1ABCD, relay 0x15, delayed 0x7777, packets 0x89ABCDEF.
-    setBits(kPwTxSt, 100, 0, 32, 0x89ABCDEF);
-    setBits(kPwTxSt, 100, 32, 16, 0x7777);
-    setBits(kPwTxSt, 100, 48, 5, 0x15);
-    setBits(kPwTxSt, 100, 53, 17, 0x1ABCD);
-    setBits(kPwTxSt, 100, 70, 16, 0x1234);
+    setFields(kPwTxSt, 100,
+              {{0, 32, 0x89ABCDEF}, {32, 16, 0x7777}, {48, 5, 0x15}, {53, 17, 0x1ABCD}, {70, 16, 0x1234}});
     // Receive entry: fraction 0x11, disorder 0x22, loss 0x33, packets 0x44556677, error 1, reset 0x88,
     // last 0x99AA, expected 0xBBCC.
-    setBits(kPwRxSt, 100, 0, 16, 0x11);
-    setBits(kPwRxSt, 100, 16, 16, 0x22);
-    setBits(kPwRxSt, 100, 32, 16, 0x33);
-    setBits(kPwRxSt, 100, 48, 32, 0x44556677);
-    setBits(kPwRxSt, 100, 80, 1, 1);
-    setBits(kPwRxSt, 100, 81, 8, 0x88);
-    setBits(kPwRxSt, 100, 89, 16, 0x99AA);
-    setBits(kPwRxSt, 100, 105, 16, 0xBBCC);
+    setFields(kPwRxSt, 100,
+              {{0, 16, 0x11},
+               {16, 16, 0x22},
+               {32, 16, 0x33},
+               {48, 32, 0x44556677},
+               {80, 1, 1},
+               {81, 8, 0x88},
+               {89, 16, 0x99AA},
+               {105, 16, 0xBBCC}});
     model.poke(0xA6E0, 0x0102);
     model.poke(0xA6E2, 0x0304);
     model.poke(0xA008, 0xFFE0);
@@ -293,9 +291,7 @@ TEST_F(Pwe3Test, StatisticsRecordAndReadClear) {
     EXPECT_EQ(std::vector<uint32_t>(out, out + 14), std::vector<uint32_t>(expect, expect + 14));
     EXPECT_EQ(regWrites(0xA008), (std::vector<RegWrite>{{0xA008, 0xFFEF}, {0xA008, 0xFFFF}}));
     ASSERT_EQ(VQ6192_ATM_GetAtmPwe3Per(kChip, 100, out), 0u);
-    EXPECT_EQ(out[4], 0u) << "packet counters clear when read";
-    EXPECT_EQ(out[5], 0u);
-    EXPECT_EQ(out[12], 0u);
+    EXPECT_EQ((V{out[4], out[5], out[12]}), (V{0, 0, 0})) << "packet counters clear when read";
 
     model.poke(0xA008, 0xFFE0);
     model.clearTrace();
@@ -309,14 +305,13 @@ TEST_F(Pwe3Test, StatisticsRecordAndReadClear) {
 }
 
 TEST_F(Pwe3Test, FifoFlagsAndResets) {
-    model.poke(0xA680, 0xFFFE);  // rx Ethernet: empty 1, full 0
-    model.poke(0xA682, 0x0001);  // rx switch: empty 0, full 1
-    model.poke(0xA684, 0x0003);
-    model.poke(0xA686, 0x0000);
-    model.poke(0xA68A, 0xFFA5);  // 1010 0101
-    model.poke(0xA6A0, 0xFFF6);  // 0110
-    model.poke(0xA6C0, 0x0001);
-    model.poke(0xA6C2, 0xFFFE);
+    // rx Ethernet: empty 1, full 0; rx switch: empty 0, full 1; 0xA68A 1010 0101; 0xA6A0 0110.
+    const std::pair<uint32_t, uint16_t> regs[] = {{0xA680, 0xFFFE}, {0xA682, 0x0001}, {0xA684, 0x0003},
+                                                  {0xA686, 0x0000}, {0xA68A, 0xFFA5}, {0xA6A0, 0xFFF6},
+                                                  {0xA6C0, 0x0001}, {0xA6C2, 0xFFFE}};
+    for (const auto &[reg, value] : regs) {
+        model.poke(reg, value);
+    }
     uint8_t out[22] = {};
     ASSERT_EQ(VQ6192_ATM_GetPw3FIFOStats(kChip, out), 0u);
     const uint8_t expect[22] = {1, 0, 0, 1, 1, 1, 0, 0, 1, 0, 1, 0, 0, 1, 0, 1, 0, 1, 1, 0, 1, 0};
@@ -328,8 +323,8 @@ TEST_F(Pwe3Test, FifoFlagsAndResets) {
         EXPECT_EQ(model.peek(0xA6A0), 0xFFFF & ~bitOf[which]);
     }
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_SetPw3FIFOStats(kChip, 4, 0), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetPw3FIFOStats(kChip, 0, 2), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_SetPw3FIFOStats(kChip, 4, 0), VQ6192_ATM_SetPw3FIFOStats(kChip, 0, 2)}),
+              V32(2, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
@@ -350,14 +345,13 @@ TEST_F(Pwe3Test, LoopbacksTimeAndInit) {
     ASSERT_EQ(VQ6192_ATM_InitAtm(kChip, 1), 0u);
     EXPECT_EQ(model.peek(0xA2E8), 32) << "start value";
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_SetPWE3Loop(kChip, 2, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetSendPwe3Time(kChip, 0x10000), kPara);
-    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 1), 0u);
-    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 2), 0u);
-    EXPECT_TRUE(model.trace().empty()) << "nothing to do at start";
-    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 0), kPara);
-    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 3), kPara);
-    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(264, 1), 0x08020001u);
+    // The start of the PW block has nothing to do.
+    EXPECT_EQ((V32{VQ6192_ATM_SetPWE3Loop(kChip, 2, 1), VQ6192_ATM_SetSendPwe3Time(kChip, 0x10000),
+                   VQ6192_ATM_AtmPwe3Init(kChip, 1), VQ6192_ATM_AtmPwe3Init(kChip, 2),
+                   VQ6192_ATM_AtmPwe3Init(kChip, 0), VQ6192_ATM_AtmPwe3Init(kChip, 3),
+                   VQ6192_ATM_AtmPwe3Init(264, 1)}),
+              (V32{kPara, kPara, 0, 0, kPara, kPara, 0x08020001u}));
+    EXPECT_TRUE(model.trace().empty());
 }
 
 TEST_F(Pwe3Test, PacketCaptureCopiesTheFirstPacket) {
@@ -392,11 +386,7 @@ TEST_F(Pwe3Test, PacketCaptureCopiesTheFirstPacket) {
     uint16_t count = 0;
     capture.clear();
     ASSERT_EQ(VQ6192_ATM_GetAtmPWE3CapData(kChip, data.data(), ends.data(), &count), 0u);
-    EXPECT_EQ(count, 2);
-    EXPECT_EQ(ends[0], 53);
-    EXPECT_EQ(ends[1], 60);
-    EXPECT_EQ(data[57], 5);
-    EXPECT_EQ(data[59], 7);
+    EXPECT_EQ((V{count, ends[0], ends[1], data[57], data[59]}), (V{2, 53, 60, 5, 7}));
     EXPECT_TRUE(traced("Err. VQ6192_ATM_GetAtmPWE3CapData OK! ErrorCode: 0\r\n"));
 }
 
@@ -436,9 +426,10 @@ TEST_F(Pwe3Test, PacketCaptureFailures) {
     EXPECT_EQ(cell[0], 0x5A);
 
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 2048, 0, cell, &length), kPara);
-    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 1, 2, cell, &length), kPara);
-    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 1, 0, nullptr, &length), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_GetAtmPWE3CapCell(kChip, 2048, 0, cell, &length),
+                   VQ6192_ATM_GetAtmPWE3CapCell(kChip, 1, 2, cell, &length),
+                   VQ6192_ATM_GetAtmPWE3CapCell(kChip, 1, 0, nullptr, &length)}),
+              V32(3, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 

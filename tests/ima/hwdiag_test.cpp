@@ -108,30 +108,26 @@ struct Laid {
 class ConnViewTest : public HwDiagTest {
   protected:
     void lay(const Laid &l) {
-        setBits(kTcam, l.vcx, 0, 16, 0x1234);
-        setBits(kTcam, l.vcx, 16, 12, 0xABC);
-        setBits(kTcam, l.vcx, 28, 12, l.tcamPort);
-        setBits(kVct, l.vcx, 0, 1, 1);
-        setBits(kVct, l.vcx, 1, 16, 0xFEDC);
-        setBits(kVct, l.vcx, 17, 8, 0xA7);
-        setBits(kVct, l.vcx, 25, 4, 0x5);
-        setBits(kVct, l.vcx, 29, 11, 300);
-        setBits(kVct, l.vcx, 40, 1, l.dir);
-        setBits(kVct, l.vcx, 41, 1, 1);
-        setBits(kVct, l.vcx, 46, 6, 0b101110);  // Seg, CC source and sink, source end-to-end
-        setBits(kVct, l.vcx, 52, 1, 1);
-        setBits(kVct, l.vcx, 53, 13, 0x1234);
-        setBits(kVct, l.vcx, 66, 3, 3);
+        setFields(kTcam, l.vcx, {{0, 16, 0x1234}, {16, 12, 0xABC}, {28, 12, l.tcamPort}});
+        // OAM bits 46..51: Seg, CC source and sink, source end-to-end.
+        setFields(kVct, l.vcx,
+                  {{0, 1, 1},
+                   {1, 16, 0xFEDC},
+                   {17, 8, 0xA7},
+                   {25, 4, 0x5},
+                   {29, 11, 300},
+                   {40, 1, l.dir},
+                   {41, 1, 1},
+                   {46, 6, 0b101110},
+                   {52, 1, 1},
+                   {53, 13, 0x1234},
+                   {66, 3, 3}});
         setBits(l.dir ? kLpct : kSpct, 300, l.dir ? 2 : 1, 1, l.lineNni);
         setBits(kLinkQm, l.vcx, 0, 13, 77);
         setBits(kBmPvc, l.vcx, 0, 10, 63 | 1u << 7 | 1u << 9);
         // Policer 0x1234: limit A, mode A, increment A, limit B, mode B, increment B.
-        setBits(kPolCfg, 0x1234, 0, 8, 0xAB);
-        setBits(kPolCfg, 0x1234, 8, 3, 5);
-        setBits(kPolCfg, 0x1234, 11, 15, 0x1ABC);
-        setBits(kPolCfg, 0x1234, 26, 8, 0xCD);
-        setBits(kPolCfg, 0x1234, 34, 3, 6);
-        setBits(kPolCfg, 0x1234, 37, 15, 0x2DEF);
+        setFields(kPolCfg, 0x1234,
+                  {{0, 8, 0xAB}, {8, 3, 5}, {11, 15, 0x1ABC}, {26, 8, 0xCD}, {34, 3, 6}, {37, 15, 0x2DEF}});
     }
     static std::string row(const Laid &l) {
         char s[256];
