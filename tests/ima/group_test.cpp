@@ -43,56 +43,55 @@ class GroupTest : public ImaTest {};
 TEST_F(GroupTest, AddGroupLaysEveryTable) {
     // Neighbour bits set everywhere the add must keep them.
     for (uint32_t link : {10u, 47u}) {
-        setBits(Proc::kTcBlock, kRxCfg, link, 0, 96, ~0ull);
-        setBits(Proc::kTcBlock, kRxCfg, link, 64, 32, 0xFFFFFFFF);
-        setBits(Proc::kTcBlock, kTxCfg, link, 0, 64, ~0ull);
+        setBits(kTcB, kRxCfg, link, 0, 96, ~0ull);
+        setBits(kTcB, kRxCfg, link, 64, 32, 0xFFFFFFFF);
+        setBits(kTcB, kTxCfg, link, 0, 64, ~0ull);
     }
-    setBits(Proc::kRxBlock, kRxGpc, kGrp, 0, 32, 0xFAB00000);
+    setBits(kRxB, kRxGpc, kGrp, 0, 32, 0xFAB00000);
     for (uint32_t w = 0; w < 5; ++w) {
-        setBits(Proc::kTxBlock, kTxGps, kGrp * 8 + w, 0, 32, 0x12345678);
+        setBits(kTxB, kTxGps, kGrp * 8 + w, 0, 32, 0x12345678);
     }
-    setBits(Proc::kTxBlock, kInGrp, kGrp, 0, 64, 0x3);  // stale members are cleared
+    setBits(kTxB, kInGrp, kGrp, 0, 64, 0x3);  // stale members are cleared
     const IMA_GRP_CFG cfg = groupCfg();
     ASSERT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), 0u);
 
     // Transmit side: LID map, group config, ICP offsets, link set, depth, counters cleared.
     for (uint32_t lid = 0; lid < 32; ++lid) {
         const uint32_t expect = lid == 0 ? 10 : lid == 2 ? 47 : 511;
-        EXPECT_EQ(bits(Proc::kTxBlock, kMap, kGrp * 32 + lid, 0, 9), expect) << "LID " << lid;
+        EXPECT_EQ(bits(kTxB, kMap, kGrp * 32 + lid, 0, 9), expect) << "LID " << lid;
     }
-    EXPECT_EQ(word(Proc::kTxBlock, kTxGpc, kGrp), 0x4903u)
-        << "reference LID 2, Txm 1, 4-ahead = bit 0, stuff, label 3";
-    EXPECT_EQ(bits(Proc::kTxBlock, kTxLkc, 10, 0, 8), 3u);
-    EXPECT_EQ(bits(Proc::kTxBlock, kTxLkc, 47, 0, 8), 7u);
-    EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, kGrp, 0, 64), (1ull << 10) | (1ull << 47));
-    EXPECT_EQ(bits(Proc::kTxBlock, kDepth, kGrp, 0, 11), 2047u);
+    EXPECT_EQ(word(kTxB, kTxGpc, kGrp), 0x4903u) << "reference LID 2, Txm 1, 4-ahead = bit 0, stuff, label 3";
+    EXPECT_EQ(bits(kTxB, kTxLkc, 10, 0, 8), 3u);
+    EXPECT_EQ(bits(kTxB, kTxLkc, 47, 0, 8), 7u);
+    EXPECT_EQ(bits(kTxB, kInGrp, kGrp, 0, 64), (1ull << 10) | (1ull << 47));
+    EXPECT_EQ(bits(kTxB, kDepth, kGrp, 0, 11), 2047u);
     for (uint32_t w = 0; w < 5; ++w) {
-        EXPECT_EQ(word(Proc::kTxBlock, kTxGps, kGrp * 8 + w), 0u) << "Imatxgps" << w;
+        EXPECT_EQ(word(kTxB, kTxGps, kGrp * 8 + w), 0u) << "Imatxgps" << w;
     }
     EXPECT_EQ(model.peek(0x48AE) & 1u, 1u);
 
     // Processor group words 0..2 at group * 16 + word, receive link table in words 5..15.
-    EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 0), 0x03080000u);
-    EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 1), 0x42420000u);
-    EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 2), 0x9085F132u);
-    EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 5), 10u | (511u << 9) | (47u << 18));
+    EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + 0), 0x03080000u);
+    EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + 1), 0x42420000u);
+    EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + 2), 0x9085F132u);
+    EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + 5), 10u | (511u << 9) | (47u << 18));
     for (uint32_t w = 6; w < 16; ++w) {
-        EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + w), 0x7FFFFFFu) << "word " << w;
+        EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + w), 0x7FFFFFFu) << "word " << w;
     }
-    EXPECT_EQ(word(Proc::kProcBlock, kTxc, 10), 0xC0050000u);
-    EXPECT_EQ(word(Proc::kProcBlock, kTxc, 47), 0xC0051000u);
-    EXPECT_EQ(word(Proc::kProcBlock, kRxc, 10), 0xC0050000u);
-    EXPECT_EQ(word(Proc::kProcBlock, kRxc, 47), 0xC0050000u);
+    EXPECT_EQ(word(kPpB, kTxc, 10), 0xC0050000u);
+    EXPECT_EQ(word(kPpB, kTxc, 47), 0xC0051000u);
+    EXPECT_EQ(word(kPpB, kRxc, 10), 0xC0050000u);
+    EXPECT_EQ(word(kPpB, kRxc, 47), 0xC0050000u);
 
     // Receive side: delay tolerance with Scvcthresh kept, SCVC entries at (link % 84) * 4 + link / 84.
-    EXPECT_EQ(word(Proc::kRxBlock, kRxGpc, kGrp), 0xFABFFDF4u);
-    EXPECT_EQ(bits(Proc::kRxBlock, kScvc, 40, 0, 10), 0x205u);
-    EXPECT_EQ(bits(Proc::kRxBlock, kScvc, 188, 0, 10), 0x205u);
+    EXPECT_EQ(word(kRxB, kRxGpc, kGrp), 0xFABFFDF4u);
+    EXPECT_EQ(bits(kRxB, kScvc, 40, 0, 10), 0x205u);
+    EXPECT_EQ(bits(kRxB, kScvc, 188, 0, 10), 0x205u);
 
     // TC links: idle filter off on the receive links, the transmit link enabled again, neighbours kept.
     for (uint32_t link : {10u, 47u}) {
-        EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, link, 64, 32), 0xFDFFFFFFu) << "only bit 89 cleared";
-        EXPECT_EQ(bits(Proc::kTcBlock, kTxCfg, link, 0, 64), ~0ull);
+        EXPECT_EQ(bits(kTcB, kRxCfg, link, 64, 32), 0xFDFFFFFFu) << "only bit 89 cleared";
+        EXPECT_EQ(bits(kTcB, kTxCfg, link, 0, 64), ~0ull);
     }
     ASSERT_EQ(proc().commands().size(), 1u);
     EXPECT_EQ(proc().commands()[0], (Proc::Command{0, kGrp, 0x5, 0x5, 0}));
@@ -100,7 +99,7 @@ TEST_F(GroupTest, AddGroupLaysEveryTable) {
 }
 
 TEST_F(GroupTest, GroupInUseWritesNothing) {
-    setBits(Proc::kProcBlock, kGps, kGrp * 8, 62, 2, 2);
+    setBits(kPpB, kGps, kGrp * 8, 62, 2, 2);
     const IMA_GRP_CFG cfg = groupCfg();
     const uint64_t before = tableWrites();
     EXPECT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), kInUse);
@@ -185,7 +184,7 @@ TEST_F(GroupTest, GroupCheckMessages) {
 
 TEST_F(GroupTest, AddGroupDrainAndStepFailures) {
     const IMA_GRP_CFG cfg = groupCfg();
-    setBits(Proc::kTcBlock, kTxCfg, 10, 46, 1, 1);
+    setBits(kTcB, kTxCfg, 10, 46, 1, 1);
     proc().setDrainReads(Proc::kForever);
     EXPECT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), 0u) << "a drain that never ends does not stop the add";
     const auto texts = capture.traceTexts();
@@ -195,7 +194,7 @@ TEST_F(GroupTest, AddGroupDrainAndStepFailures) {
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 100u * 500u + 1u) << "100 polls 500 us apart";
 
     // The refused add_group command is the step's result.
-    setBits(Proc::kProcBlock, kGps, kGrp * 8, 62, 2, 0);
+    setBits(kPpB, kGps, kGrp * 8, 62, 2, 0);
     proc().setDrainReads(0);
     proc().refuse(1);
     capture.clear();
@@ -225,25 +224,25 @@ TEST_F(GroupTest, AddLinksAroundStartupAndLasr) {
         SCOPED_TRACE(testing::Message() << "Gwpactive " << c.gwp << " refusals " << c.refusals);
         proc().clearCommands();
         VQ6192_Platform_ResetVirtualTime();
-        setBits(Proc::kProcBlock, kGps, kGrp * 8, 53, 2, c.gwp);
-        setBits(Proc::kProcBlock, kGps, kGrp * 8 + 2, 0, 32, 0xFFFFFFFF);   // Txlasract
-        setBits(Proc::kProcBlock, kGps, kGrp * 8 + 4, 32, 32, 0xFFFFFFFF);  // Rxlasract
-        setBits(Proc::kProcBlock, kGpc, kGrp * 16 + 3, 0, 32, 0xFFFFFFFF);
+        setBits(kPpB, kGps, kGrp * 8, 53, 2, c.gwp);
+        setBits(kPpB, kGps, kGrp * 8 + 2, 0, 32, 0xFFFFFFFF);   // Txlasract
+        setBits(kPpB, kGps, kGrp * 8 + 4, 32, 32, 0xFFFFFFFF);  // Rxlasract
+        setBits(kPpB, kGpc, kGrp * 16 + 3, 0, 32, 0xFFFFFFFF);
         proc().refuse(c.refusals);
         EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 1, kGrp, 1, 1, rx, tx, &cfg), c.status);
         ASSERT_EQ(proc().commands().size(), c.commands);
         EXPECT_EQ(proc().commands().back(), (Proc::Command{8, kGrp, 1u << 4, 1u << 4, 0}));
         EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs() / kTickUs, c.ticks);
-        EXPECT_EQ(bits(Proc::kProcBlock, kGps, kGrp * 8, 53, 2), c.gwp == 1 ? 1u : 0u);
-        EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 3), 0xFFFFFFFFu) << "Autolasren set again";
+        EXPECT_EQ(bits(kPpB, kGps, kGrp * 8, 53, 2), c.gwp == 1 ? 1u : 0u);
+        EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + 3), 0xFFFFFFFFu) << "Autolasren set again";
         if (c.gwp == 2) {
-            EXPECT_EQ(bits(Proc::kProcBlock, kGps, kGrp * 8 + 2, 0, 32), 0u);
-            EXPECT_EQ(bits(Proc::kProcBlock, kGps, kGrp * 8 + 4, 32, 32), 0u);
+            EXPECT_EQ(bits(kPpB, kGps, kGrp * 8 + 2, 0, 32), 0u);
+            EXPECT_EQ(bits(kPpB, kGps, kGrp * 8 + 4, 32, 32), 0u);
         }
     }
-    EXPECT_EQ(bits(Proc::kTxBlock, kMap, kGrp * 32 + 4, 0, 9), 100u);
-    EXPECT_EQ(word(Proc::kProcBlock, kTxc, 100), 0xC0052000u);
-    EXPECT_EQ(bits(Proc::kProcBlock, kGpc, kGrp * 16 + 5 + 1, 9, 9), 100u) << "position 4: word 6, slot 1";
+    EXPECT_EQ(bits(kTxB, kMap, kGrp * 32 + 4, 0, 9), 100u);
+    EXPECT_EQ(word(kPpB, kTxc, 100), 0xC0052000u);
+    EXPECT_EQ(bits(kPpB, kGpc, kGrp * 16 + 5 + 1, 9, 9), 100u) << "position 4: word 6, slot 1";
 
     expectRefused("no receive link", kPara,
                   [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 0, 1, rx, tx, &cfg); });
@@ -255,17 +254,17 @@ TEST_F(GroupTest, AddLinksAroundStartupAndLasr) {
     EXPECT_EQ(capture.traceTexts(),
               std::vector<std::string>{"Err. VQ6192_checkTxLinkParams(3,1,1) "
                                        "pstTxLinks[i].ucIcpOffset[0x40]     ErrCode[0x30d0001]\r\n"});
-    setBits(Proc::kTcBlock, kTxCfg, 100, 46, 1, 1);
+    setBits(kTcB, kTxCfg, 100, 46, 1, 1);
     proc().setDrainReads(Proc::kForever);
     EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 1, 1, rx, tx, &cfg), kNoEnd);
 }
 
 TEST_F(GroupTest, DeleteLinksAndGroup) {
-    setBits(Proc::kTxBlock, kInGrp, kGrp, 0, 64, (1ull << 10) | (1ull << 47) | (1ull << 63));
+    setBits(kTxB, kInGrp, kGrp, 0, 64, (1ull << 10) | (1ull << 47) | (1ull << 63));
     const uint16_t rx[1] = {47};
     const IMA_TX_LINK tx[1] = {{2, 7, 47}};
     ASSERT_EQ(VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 1, rx, tx, 0), 0u);
-    EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, kGrp, 0, 64), (1ull << 10) | (1ull << 63));
+    EXPECT_EQ(bits(kTxB, kInGrp, kGrp, 0, 64), (1ull << 10) | (1ull << 63));
     ASSERT_EQ(VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 0, rx, nullptr, 2), 0u)
         << "asymmetric: position = link number";
     ASSERT_EQ(VQ6192_IMA_DelImaGrp(kChip, kGrp), 0u);
@@ -286,7 +285,7 @@ TEST_F(GroupTest, ConfigurationReadBack) {
     EXPECT_EQ(VQ6192_IMA_GetImaGrpCfg(kChip, kGrp, &out, &en), kInUse) << "a free group has no configuration";
     const IMA_GRP_CFG cfg = groupCfg();
     ASSERT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), 0u);
-    setBits(Proc::kProcBlock, kGps, kGrp * 8 + 1, 32, 9, 47);  // Txtrlphyid reported by the processor
+    setBits(kPpB, kGps, kGrp * 8 + 1, 32, 9, 47);  // Txtrlphyid reported by the processor
     ASSERT_EQ(VQ6192_IMA_GetImaGrpCfg(kChip, kGrp, &out, &en), 0u);
     EXPECT_EQ(en, 3u);
     EXPECT_EQ(out.byImaOamLabel, 3u);
@@ -330,11 +329,11 @@ TEST_F(StepFailureTest, TableFailuresEndTheStepWithItsMessage) {
     };
     static const IMA_GRP_CFG cfg = groupCfg();
     const Case cases[] = {
-        {Proc::kTcBlock, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
+        {kTcB, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
          "Err. VQ6192_IMA_AddImaGrp.VQ6192_Read_Table(3,138,10) i=0     ErrCode[0x30c0003]\r\n"},
-        {Proc::kTxBlock, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
+        {kTxB, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
          "Err. VQ6192_imaAddGrp.VQ6192_clrTimaGrpParams(3,5)       ErrCode[0x30c0003]\r\n"},
-        {Proc::kProcBlock, [] { return VQ6192_IMA_ResetIma(kChip); },
+        {kPpB, [] { return VQ6192_IMA_ResetIma(kChip); },
          "Err. VQ6192_IMA_ResetIma.VQ6192_Write_Table(3,143,0)      ErrCode[0x30c0003]\r\n"},
     };
     for (const Case &c : cases) {

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/test_support.h"
@@ -23,6 +25,10 @@ constexpr uint32_t kNoEnd = 0x030D0004;
 constexpr uint32_t kInUse = 0x030D0006;
 constexpr uint32_t kRefusedCmd = 0x030D0009;
 constexpr uint64_t kTickUs = 10000;
+
+// The four access blocks of the IMA tables: processor, receive, transmit and TC.
+constexpr uint32_t kPpB = Proc::kProcBlock, kRxB = Proc::kRxBlock, kTxB = Proc::kTxBlock,
+                   kTcB = Proc::kTcBlock;
 
 // Select codes of the IMA tables in their access blocks.
 enum PpSel : uint32_t { kTxc = 0, kRxc = 1, kGpc = 2, kTxs = 3, kRxs = 4, kGps = 5, kEvent = 6, kIcpFwd = 7 };
@@ -70,7 +76,7 @@ class ImaTest : public vqtest::ChipTest {
     }
     uint64_t tableWrites() {
         uint64_t n = 0;
-        for (uint32_t b : {Proc::kProcBlock, Proc::kRxBlock, Proc::kTxBlock, Proc::kTcBlock}) {
+        for (uint32_t b : {kPpB, kRxB, kTxB, kTcB}) {
             n += model.tables().writesExecuted(b);
         }
         return n;
@@ -95,6 +101,20 @@ class ImaTest : public vqtest::ChipTest {
         EXPECT_TRUE(t.empty()) << t.size() << " bus accesses";
         EXPECT_EQ(capture.traceTexts(),
                   quiet ? std::vector<std::string>{} : std::vector<std::string>{"ParaErr.\r\n"});
+    }
+
+    // Several registers seeded, or read back, at once.
+    void pokes(std::initializer_list<std::pair<uint32_t, uint16_t>> regs) {
+        for (const auto &[addr, value] : regs) {
+            model.poke(addr, value);
+        }
+    }
+    std::vector<uint32_t> peeks(std::initializer_list<uint32_t> addrs) {
+        std::vector<uint32_t> v;
+        for (uint32_t a : addrs) {
+            v.push_back(model.peek(a));
+        }
+        return v;
     }
 
     void SetUp() override {

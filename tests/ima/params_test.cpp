@@ -28,11 +28,11 @@ IMA_GRP_PARAM param(std::initializer_list<uint32_t> v) {
 
 TEST_F(ParamsTest, RunningGroupParameters) {
     constexpr uint32_t g = 8;
-    setBits(Proc::kProcBlock, kGpc, g * 16 + 0, 0, 32, 0x01C80000);  // label 1, asymmetric, auto restart
-    setBits(Proc::kProcBlock, kGpc, g * 16 + 1, 0, 32, 0xFFFFFFFF);
-    setBits(Proc::kProcBlock, kGpc, g * 16 + 2, 0, 32, 0x00000000);
-    setBits(Proc::kTxBlock, kTxGpc, g, 0, 32, 0x0FFFFF01);
-    setBits(Proc::kRxBlock, kRxGpc, g, 0, 32, 0xFFFFFC00);
+    setBits(kPpB, kGpc, g * 16 + 0, 0, 32, 0x01C80000);  // label 1, asymmetric, auto restart
+    setBits(kPpB, kGpc, g * 16 + 1, 0, 32, 0xFFFFFFFF);
+    setBits(kPpB, kGpc, g * 16 + 2, 0, 32, 0x00000000);
+    setBits(kTxB, kTxGpc, g, 0, 32, 0x0FFFFF01);
+    setBits(kRxB, kRxGpc, g, 0, 32, 0xFFFFFC00);
     struct Case {
         const char *what;
         IMA_GRP_PARAM mask;
@@ -55,11 +55,11 @@ TEST_F(ParamsTest, RunningGroupParameters) {
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
         ASSERT_EQ(VQ6192_IMA_SetImaGrpParam(kChip, g, 0, &c.mask, &c.value), 0u);
-        EXPECT_EQ(word(Proc::kProcBlock, kGpc, g * 16 + 0), c.gpc0);
-        EXPECT_EQ(word(Proc::kProcBlock, kGpc, g * 16 + 1), c.gpc1);
-        EXPECT_EQ(word(Proc::kProcBlock, kGpc, g * 16 + 2), c.gpc2);
-        EXPECT_EQ(word(Proc::kTxBlock, kTxGpc, g), c.txgpc);
-        EXPECT_EQ(word(Proc::kRxBlock, kRxGpc, g), c.rxgpc);
+        EXPECT_EQ(word(kPpB, kGpc, g * 16 + 0), c.gpc0);
+        EXPECT_EQ(word(kPpB, kGpc, g * 16 + 1), c.gpc1);
+        EXPECT_EQ(word(kPpB, kGpc, g * 16 + 2), c.gpc2);
+        EXPECT_EQ(word(kTxB, kTxGpc, g), c.txgpc);
+        EXPECT_EQ(word(kRxB, kRxGpc, g), c.rxgpc);
     }
     const IMA_GRP_PARAM none{};
     expectRefused("no value record", kPara,
@@ -69,41 +69,40 @@ TEST_F(ParamsTest, RunningGroupParameters) {
 TEST_F(ParamsTest, Vc4PortRemoval) {
     model.poke(0x4C24, 0xFFFF);
     model.poke(0x5028, 0xFFFF);
-    setBits(Proc::kTxBlock, kInGrp, 170, 0, 256, 0);
-    setBits(Proc::kTxBlock, kInGrp, 170, 168, 3, 7);
+    setBits(kTxB, kInGrp, 170, 0, 256, 0);
+    setBits(kTxB, kInGrp, 170, 168, 3, 7);
     ASSERT_EQ(VQ6192_IMA_DelVc4(kChip, 2, 9), 0u);
     EXPECT_EQ(model.peek(0x4C24), 0xFDFFu) << "only the enable bit cleared";
     EXPECT_EQ(model.peek(0x5028), 0xFFFBu);
-    EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, 170, 168, 3), 3u)
-        << "link 170 (bit 2 of the three) leaves group 170";
+    EXPECT_EQ(bits(kTxB, kInGrp, 170, 168, 3), 3u) << "link 170 (bit 2 of the three) leaves group 170";
     ASSERT_EQ(proc().commands().size(), 84u);
     EXPECT_EQ(proc().commands().front(), (Proc::Command{13, 168, 0, 0, 0}));
     EXPECT_EQ(proc().commands().back(), (Proc::Command{13, 251, 0, 0, 0}));
-    EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, 200, 95, 1), 1u);
-    EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, 200, 89, 1), 0u) << "no idle filter on removal";
+    EXPECT_EQ(bits(kTcB, kRxCfg, 200, 95, 1), 1u);
+    EXPECT_EQ(bits(kTcB, kRxCfg, 200, 89, 1), 0u) << "no idle filter on removal";
     proc().refuse(1);
     EXPECT_EQ(VQ6192_IMA_DelVc4(kChip, 2, 9), kRefusedCmd);
     EXPECT_EQ(proc().commands().size(), 85u) << "the first failure ends it";
 }
 
 TEST_F(ParamsTest, UniCountersAndLinkConfiguration) {
-    setBits(Proc::kRxBlock, kGpCnt, 30 * 2, 0, 32, 0xFFFFFFFF);
-    setBits(Proc::kRxBlock, kGpCnt, 30 * 2 + 1, 0, 32, 0x11);
+    setBits(kRxB, kGpCnt, 30 * 2, 0, 32, 0xFFFFFFFF);
+    setBits(kRxB, kGpCnt, 30 * 2 + 1, 0, 32, 0x11);
     IMA_GRP_STAT g{1, 2, 3, 4, 5};
     ASSERT_EQ(VQ6192_IMA_GetUniGrpStat(kChip, 30, &g), 0u);
     EXPECT_EQ((std::vector<uint32_t>{g.dwTxDiscardCells, g.dwTxUserCells, g.dwTxFillerCells, g.dwRxUserCells,
                                      g.dwRxFillerCells}),
               (std::vector<uint32_t>{0, 0, 0, 0xFFFFFFFF, 0}));
-    setBits(Proc::kRxBlock, kLkCnt, 40 * 4 + 2, 0, 32, 1000);
-    setBits(Proc::kRxBlock, kLkCnt, 40 * 4 + 3, 0, 32, 7);
-    setBits(Proc::kTxBlock, kTxLks, 40 * 2 + 1, 0, 32, 0x00030004);
+    setBits(kRxB, kLkCnt, 40 * 4 + 2, 0, 32, 1000);
+    setBits(kRxB, kLkCnt, 40 * 4 + 3, 0, 32, 7);
+    setBits(kTxB, kTxLks, 40 * 2 + 1, 0, 32, 0x00030004);
     IMA_LINK_STAT l{};
     ASSERT_EQ(VQ6192_IMA_GetUniLinkStat(kChip, 40, &l), 0u);
     EXPECT_EQ((std::vector<uint32_t>{l.dwTxUserCells, l.dwTxStuffCells, l.dwRxUserCells, l.dwRxDroppedCells}),
               (std::vector<uint32_t>{4, 3, 1000, 7}));
-    setBits(Proc::kProcBlock, kTxc, 40, 0, 32, 0x8123F80F);
-    setBits(Proc::kProcBlock, kRxc, 40, 0, 32, 0xC0450FFF);
-    setBits(Proc::kTxBlock, kTxLkc, 40, 0, 8, 0x77);
+    setBits(kPpB, kTxc, 40, 0, 32, 0x8123F80F);
+    setBits(kPpB, kRxc, 40, 0, 32, 0xC0450FFF);
+    setBits(kTxB, kTxLkc, 40, 0, 8, 0x77);
     uint16_t cfg[5] = {};
     ASSERT_EQ(VQ6192_IMA_GetImaLinkCfg(kChip, 40, cfg), 0u);
     EXPECT_EQ((std::vector<uint16_t>(cfg, cfg + 5)), (std::vector<uint16_t>{2, 0x123, 0x1F, 3, 0x45}));
