@@ -1,5 +1,7 @@
 // ATM connections: every kind laid into the switching tables, the legality check's refusals, a step
 // failing midway, paired connections, deletion with its queue drain and flush, and reading back.
+#include <tuple>
+
 #include "atm/atm_fixture.h"
 #include "vq6192/platform.h"
 
@@ -35,43 +37,35 @@ class ConnTest : public AtmTest {
 };
 
 TEST_F(ConnTest, EveryKindLaysItsEntries) {
-    struct Case {
-        const char *name;
-        ATM_SRV_CONN c;
-        uint64_t keyPort, maskl;
-        uint32_t dir;
-        bool queue;
-    };
     ATM_SRV_CONN cbr = conn(8191, 1, 0, 2047, 335);
     cbr.Stype = 1, cbr.Qid = 15;
     ATM_SRV_CONN local = conn(4000, 2, 1, 7, 300);
     local.Stype = 5, local.Qid = 8190;
-    const Case cases[] = {
+    const std::tuple<const char *, ATM_SRV_CONN, uint64_t, uint64_t, uint32_t, bool> cases[] = {
         {"ingress VCC", conn(100, 0, 1, 335, 2047), 335, 0xFFFFFFFF, 0, false},
         {"ingress VPC", conn(0, 0, 0, 0, 0), 0, 0xFFFF0000, 0, false},
         {"egress VPC CBR", cbr, 2048 + 2047, 0xFFFF0000, 1, true},
         {"egress VCC", conn(5, 1, 1, 0, 17), 2048, 0xFFFFFFFF, 1, true},
         {"local VCC", local, 7, 0xFFFFFFFF, 1, true},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
+    for (const auto &[name, c, keyPort, maskl, dir, queue] : cases) {
+        SCOPED_TRACE(name);
         model.tables().clear();
-        const ATM_SRV_CONN &c = k.c;
         prefill(c);
         ASSERT_EQ(VQ6192_ATM_AddAtmSrvConn(kChip, &c), 0u);
         // TCAM: key VCI 0..15, VPI 16..27, port 28..39, mask 40..79, valid 80.
         EXPECT_EQ((fields(kTcam, c.Vcx, {{0, 16}, {16, 12}, {28, 12}, {40, 32}, {72, 8}, {80, 1}})),
-                  (V{0x1234, 0xABC, k.keyPort, k.maskl, 0xFF, 1}));
+                  (V{0x1234, 0xABC, keyPort, maskl, 0xFF, 1}));
         // Connection information; the OAM flags 42..51 are kept.
         EXPECT_EQ(
             fields(
                 kVct, c.Vcx,
                 {{0, 1}, {1, 16}, {17, 8}, {25, 4}, {29, 11}, {40, 1}, {41, 1}, {42, 10}, {52, 14}, {66, 3}}),
-            (V{1, 0xFEDC, 0xA7, 0x5, c.DstPort, k.dir, c.cType, 0x3FF, 8191u << 1 | 1, c.Stype}));
+            (V{1, 0xFEDC, 0xA7, 0x5, c.DstPort, dir, c.cType, 0x3FF, 8191u << 1 | 1, c.Stype}));
         // Queue bound, not deleted, busy bit and length kept; buffers Clpt 1, Fd 0, Pfd 1, Red 0, idx 63.
         EXPECT_EQ((fields(kLinkQm, c.Vcx, {{0, 13}, {13, 3}, {16, 9}, {25, 1}, {26, 20}})),
-                  (k.queue ? V{c.Qid, c.Stype, c.DstPort, 0, 0xFFFFF} : V{0x1FFF, 7, 0x1FF, 1, 0xFFFFF}));
-        EXPECT_EQ(bits(kBmPvc, c.Vcx, 0, 10), k.queue ? 0x2BFu : 0x3FFu);
+                  (queue ? V{c.Qid, c.Stype, c.DstPort, 0, 0xFFFFF} : V{0x1FFF, 7, 0x1FF, 1, 0xFFFFF}));
+        EXPECT_EQ(bits(kBmPvc, c.Vcx, 0, 10), queue ? 0x2BFu : 0x3FFu);
         // Line ports: enabled, not transparent, not looped; attribute and PW index kept.
         EXPECT_EQ(bits(kLpct, c.Tag == 1 ? c.DstPort : c.SrcPort, 0, 15), 0x7FFCu);
         if (c.Tag == 2) {
@@ -214,40 +208,33 @@ TEST_F(ConnTest, PairsLayTheEgressLegFirst) {
 }
 
 TEST_F(ConnTest, DeletingDrainsAndFlushesTheQueue) {
-    struct Case {
-        const char *name;
-        uint16_t tag;
-        uint32_t drainReads;
-        uint64_t waitedUs;
-        bool cycleMessage;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, uint16_t, uint32_t, uint64_t, bool> cases[] = {
         {"ingress: no queue", 0, 0, 0, false},
         {"empty at once", 1, 0, 2, false},
         {"drains after 3 reads", 1, 3, 3 * 200000 + 2, false},
         {"never drains", 1, AtmBlock::kForever, 200ull * 200000 + 2, true},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
+    for (const auto &[name, tag, drainReads, waitedUs, cycleMessage] : cases) {
+        SCOPED_TRACE(name);
         model.tables().clear();
         capture.clear();
-        const ATM_SRV_CONN c = conn(77, k.tag, 1, 4, 5);
+        const ATM_SRV_CONN c = conn(77, tag, 1, 4, 5);
         prefill(c);
         ASSERT_EQ(VQ6192_ATM_AddAtmSrvConn(kChip, &c), 0u);
-        if (k.tag != 0) {
-            atm().setQueueLength(77, 40, k.drainReads);
+        if (tag != 0) {
+            atm().setQueueLength(77, 40, drainReads);
         }
         VQ6192_Platform_ResetVirtualTime();
         const size_t flushes = atm().deletes().size();
-        const uint16_t rec[2] = {77, k.tag};
+        const uint16_t rec[2] = {77, tag};
         EXPECT_EQ(VQ6192_ATM_DelAtmSrvConn(kChip, rec), 0u);
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), k.waitedUs) << "drain wait and one 2 us poll";
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), waitedUs) << "drain wait and one 2 us poll";
         EXPECT_EQ(traced("Err. VQ6192_ATM_DelAtmSrvConn: Len has Cell after Cycle 200!  ChipID: 0x3\r\n"),
-                  k.cycleMessage);
+                  cycleMessage);
         // Switching cleared up to the valid bit, bits past it kept.
         EXPECT_EQ((V{bits(kVct, 77, 0, 69), bits(kTcam, 77, 0, 81), bits(kTcam, 77, 81, 15)}),
                   (V{0, 0, 0x7FFF}));
-        if (k.tag == 0) {
+        if (tag == 0) {
             EXPECT_EQ(bits(kLinkQm, 77, 0, 46), 0x3FFFFFFFFFFFull);
             EXPECT_EQ(bits(kBmPvc, 77, 0, 10), 0x3FFu);
             EXPECT_EQ(atm().deletes().size(), flushes);
@@ -332,13 +319,7 @@ TEST_F(ConnTest, DeletingPairsAndRefusals) {
 }
 
 TEST_F(ConnTest, ReadingConnectionsBack) {
-    struct Case {
-        const char *name;
-        ATM_SRV_CONN c;
-        bool nni;
-        uint16_t vpi;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, ATM_SRV_CONN, bool, uint16_t> cases[] = {
         {"ingress on a UNI system port", conn(20, 0, 1, 4, 1500), false, 0xA7},
         {"ingress on an NNI system port", conn(21, 0, 1, 4, 1501), true, 0x5A7},
         {"egress", conn(22, 1, 0, 1502, 6), true, 0x5A7},
@@ -349,15 +330,15 @@ TEST_F(ConnTest, ReadingConnectionsBack) {
                  o.DstPort, o.DstVpi, o.DstVci, o.Stype,   o.UpcNpc, o.PolicingId,
                  o.Qid,     o.Clpt,   o.Fd,     o.Pfd,     o.Red,    o.idx};
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
-        ASSERT_EQ(VQ6192_ATM_AddAtmSrvConn(kChip, &k.c), 0u);
-        ASSERT_EQ(VQ6192_ATM_SetAtmPortType(kChip, k.c.DstPort, k.c.Tag == 0 ? 1 : 0, k.nni ? 1 : 0), 0u);
+    for (const auto &[name, c, nni, vpi] : cases) {
+        SCOPED_TRACE(name);
+        ASSERT_EQ(VQ6192_ATM_AddAtmSrvConn(kChip, &c), 0u);
+        ASSERT_EQ(VQ6192_ATM_SetAtmPortType(kChip, c.DstPort, c.Tag == 0 ? 1 : 0, nni ? 1 : 0), 0u);
         ATM_SRV_CONN out{};
-        ASSERT_EQ(VQ6192_ATM_GetAtmSrvConn(kChip, k.c.Vcx, &out), 0u);
-        const bool q = k.c.Tag != 0;
-        EXPECT_EQ(row(out), (V{k.c.Vcx, k.c.Tag, k.c.cType, k.c.SrcPort, 0xABC, 0x1234, k.c.DstPort, k.vpi,
-                               0xFEDC, 3, 1, 8191, q ? 77u : 0u, q, 0, q, 0, q ? 63u : 0u}));
+        ASSERT_EQ(VQ6192_ATM_GetAtmSrvConn(kChip, c.Vcx, &out), 0u);
+        const bool q = c.Tag != 0;
+        EXPECT_EQ(row(out), (V{c.Vcx, c.Tag, c.cType, c.SrcPort, 0xABC, 0x1234, c.DstPort, vpi, 0xFEDC, 3, 1,
+                               8191, q ? 77u : 0u, q, 0, q, 0, q ? 63u : 0u}));
     }
     // An invalid VCX: the connection-information fields only.
     setBits(kVct, 30, 0, 69, 0);

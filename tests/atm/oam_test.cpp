@@ -2,6 +2,7 @@
 // kind built and pushed through the insertion FIFO, reported cells read back, the location ID and the
 // per-connection OAM flags.
 #include <array>
+#include <tuple>
 
 #include "atm/atm_fixture.h"
 #include "vq6192/platform.h"
@@ -95,22 +96,18 @@ TEST_F(OamTest, Crc10TableAndChecks) {
 }
 
 TEST_F(OamTest, FaultManagementCells) {
-    struct Case {
-        uint32_t flow, level, func;
-        uint8_t byte3;
-    };
-    const Case cases[] = {
+    const std::tuple<uint32_t, uint32_t, uint32_t, uint8_t> cases[] = {
         {1, 0, 16, 0x30}, {2, 0, 16, 0x40}, {1, 1, 17, 0x08}, {2, 1, 20, 0x0A}, {2, 0, 20, 0x40},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(testing::Message() << k.flow << "/" << k.level << "/" << k.func);
+    for (const auto &[flow, level, func, byte3] : cases) {
+        SCOPED_TRACE(testing::Message() << flow << "/" << level << "/" << func);
         Cell got;
         got.fill(0xEE);
-        ASSERT_EQ(VQ6192_ATM_FillInsOamCell(kChip, k.flow, k.level, k.func, got.data()), 0u);
-        EXPECT_EQ(got, oamCell(k.byte3, static_cast<uint8_t>(k.func)));
+        ASSERT_EQ(VQ6192_ATM_FillInsOamCell(kChip, flow, level, func, got.data()), 0u);
+        EXPECT_EQ(got, oamCell(byte3, static_cast<uint8_t>(func)));
         uint8_t b3 = 0;
-        ASSERT_EQ(VQ6192_ATM_FillInsertCellHead(kChip, k.flow, k.level, &b3), 0u);
-        EXPECT_EQ(b3, k.byte3);
+        ASSERT_EQ(VQ6192_ATM_FillInsertCellHead(kChip, flow, level, &b3), 0u);
+        EXPECT_EQ(b3, byte3);
     }
     // The F4 end-to-end AIS cell: CRC-10 0x2DC in its last two bytes.
     Cell ais{};
@@ -247,25 +244,23 @@ TEST_F(OamTest, LocationId) {
 }
 
 TEST_F(OamTest, ContinuityCheckFlags) {
-    struct Case {
-        uint32_t start, flowType, action, bits4649, state;
-    };
-    const Case cases[] = {
+    const std::tuple<uint32_t, uint32_t, uint32_t, uint32_t, uint32_t> cases[] = {
         {0x0, 1, 1, 0xA, 1}, {0x0, 1, 2, 0x5, 2}, {0x0, 1, 3, 0xF, 3}, {0x0, 2, 3, 0xC, 3},
         {0xF, 1, 0, 0x0, 0}, {0xF, 0, 4, 0x5, 2}, {0xF, 0, 5, 0xA, 1}, {0x5, 0, 1, 0xD, 3},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(testing::Message() << "action " << k.action << " type " << k.flowType);
+    // Start flags 46..49, flow type, action, flags after, reported state.
+    for (const auto &[start, flowType, action, bits4649, wantState] : cases) {
+        SCOPED_TRACE(testing::Message() << "action " << action << " type " << flowType);
         setBits(kVct, 8191, 0, 69, ~0ull);
         setBits(kVct, 8191, 64, 5, 0x1F);
-        setBits(kVct, 8191, 46, 4, k.start);
-        ASSERT_EQ(VQ6192_ATM_SetOamLinkCC(kChip, 8191, k.flowType, k.action), 0u);
+        setBits(kVct, 8191, 46, 4, start);
+        ASSERT_EQ(VQ6192_ATM_SetOamLinkCC(kChip, 8191, flowType, action), 0u);
         EXPECT_EQ((fields(kVct, 8191, {{46, 4}, {0, 46}, {50, 19}})),
-                  (V{k.bits4649, (1ull << 46) - 1, 0x7FFFF}));
+                  (V{bits4649, (1ull << 46) - 1, 0x7FFFF}));
         uint8_t src = 9, sink = 9;
         uint32_t state = 9;
         ASSERT_EQ(VQ6192_ATM_GetOamLinkCC(kChip, 8191, &src, &sink, &state), 0u);
-        EXPECT_EQ((V{state, src, sink}), (V{k.state, k.bits4649 >> 1 & 1u, k.bits4649 & 1u}));
+        EXPECT_EQ((V{state, src, sink}), (V{wantState, bits4649 >> 1 & 1u, bits4649 & 1u}));
     }
     model.clearTrace();
     EXPECT_EQ((V32{VQ6192_ATM_SetOamLinkCC(kChip, 8192, 1, 1), VQ6192_ATM_SetOamLinkCC(kChip, 1, 3, 1),

@@ -1,6 +1,7 @@
 // ATM ports, queues and module start: transparent ports, the line-port loop, the queue-delete
 // handshake, the port queue rate, the table and FIFO clears and the start sequence.
 #include <chrono>
+#include <tuple>
 
 #include "atm/atm_fixture.h"
 #include "vq6192/platform.h"
@@ -65,21 +66,16 @@ TEST_F(PortTest, TransparentPortMapsLineAndSystemPort) {
 TEST_F(PortTest, TransparentPortRefusals) {
     const uint32_t good[3] = {1, 2, 3};
     const uint32_t over[3][3] = {{0x80000, 0, 0}, {0, 0x80000, 0}, {0, 0, 0x80000}};
-    struct Case {
-        const char *name;
-        uint32_t line, sys;
-        const uint32_t *th;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, uint32_t, uint32_t, const uint32_t *> cases[] = {
         {"line port 336", 336, 0, good},  {"system port 2048", 0, 2048, good},
         {"no thresholds", 0, 0, nullptr}, {"pause", 0, 0, over[0]},
         {"cancel", 0, 0, over[1]},        {"drop", 0, 0, over[2]},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
+    for (const auto &[name, line, sys, th] : cases) {
+        SCOPED_TRACE(name);
         model.clearTrace();
-        EXPECT_EQ(VQ6192_ATM_AddAtmTransConn(kChip, k.line, k.sys, k.th), kPara);
-        EXPECT_EQ(VQ6192_ATM_SetAtmPortLoopMode(kChip, k.line, k.sys == 2048 ? nullptr : k.th), kPara);
+        EXPECT_EQ(VQ6192_ATM_AddAtmTransConn(kChip, line, sys, th), kPara);
+        EXPECT_EQ(VQ6192_ATM_SetAtmPortLoopMode(kChip, line, sys == 2048 ? nullptr : th), kPara);
         EXPECT_TRUE(model.trace().empty());
     }
     model.clearTrace();
@@ -161,37 +157,31 @@ TEST_F(PortTest, PortEnablesAndAttributes) {
 }
 
 TEST_F(PortTest, QueueDeleteHandshake) {
-    struct Case {
-        const char *name;
-        uint32_t index, kind, entry, ackPolls;
-        uint32_t status;
-        uint64_t waitedUs;
-        bool rewritten;
-    };
-    const Case cases[] = {
-        {"port queue, at once", 5, 0, 8197, 0, 0, 2, true},
-        {"connection queue after 9 polls", 8191, 1, 8191, 9, 0, 20, true},
-        {"never acknowledged", 12, 1, 12, AtmBlock::kForever, kPara, 2000, false},
-    };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
-        fillEntry(kLinkQm, k.entry, 46);
+    const std::tuple<const char *, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t, uint64_t, bool> cases[] =
+        {
+            {"port queue, at once", 5, 0, 8197, 0, 0, 2, true},
+            {"connection queue after 9 polls", 8191, 1, 8191, 9, 0, 20, true},
+            {"never acknowledged", 12, 1, 12, AtmBlock::kForever, kPara, 2000, false},
+        };
+    for (const auto &[name, index, kind, entry, ackPolls, status, waitedUs, rewritten] : cases) {
+        SCOPED_TRACE(name);
+        fillEntry(kLinkQm, entry, 46);
         model.poke(0xA860, 0);
-        atm().setDeleteAckPolls(k.ackPolls);
+        atm().setDeleteAckPolls(ackPolls);
         model.clearTrace();
         VQ6192_Platform_ResetVirtualTime();
-        EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, k.index, k.kind), k.status);
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), k.waitedUs);
-        const uint32_t queue = k.index & 0x1FFFu;
-        const uint32_t kindBit = k.kind == 0 ? 0x2000u : 0u;
+        EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, index, kind), status);
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), waitedUs);
+        const uint32_t queue = index & 0x1FFFu;
+        const uint32_t kindBit = kind == 0 ? 0x2000u : 0u;
         std::vector<RegWrite> expect = {
             {0xA860, 0}, {0xA860, queue}, {0xA860, queue | kindBit}, {0xA860, 0xC000u | queue | kindBit}};
-        if (k.rewritten) {
+        if (rewritten) {
             expect.push_back({0xA860, queue | kindBit});
         }
         EXPECT_EQ(regWrites(), expect);
-        EXPECT_EQ(bits(kLinkQm, k.entry, 0, 25), k.rewritten ? 0u : 0x1FFFFFFu);
-        EXPECT_EQ(bits(kLinkQm, k.entry, 25, 21), 0x1FFFFFu) << "state, busy bit and length kept";
+        EXPECT_EQ(bits(kLinkQm, entry, 0, 25), rewritten ? 0u : 0x1FFFFFFu);
+        EXPECT_EQ(bits(kLinkQm, entry, 25, 21), 0x1FFFFFu) << "state, busy bit and length kept";
     }
     model.clearTrace();
     capture.clear();
@@ -205,12 +195,7 @@ TEST_F(PortTest, QueueDeleteHandshake) {
 }
 
 TEST_F(PortTest, PortQueueRates) {
-    struct Case {
-        const char *name;
-        uint32_t links, ts, lenCode, mode;
-        uint32_t period, threshold;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t> cases[] = {
         {"VC-4 transparent", 0, 1, 0, 1, 64, 168},
         {"UNI, 31 timeslots", 0, 0xFFFFFFFE, 0, 2, 4857, 3},
         {"UNI, 1 timeslot", 0, 0x10, 3, 2, 150568, 3},
@@ -218,15 +203,15 @@ TEST_F(PortTest, PortQueueRates) {
         {"IMA of 100 links, frame 32, 1 timeslot", 100, 1, 0, 3, 155500, 44},
         {"IMA, frame 256, 24 timeslots", 4, 0x00FFFFFF, 3, 3, 6301, 12},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
+    for (const auto &[name, links, ts, lenCode, mode, period, threshold] : cases) {
+        SCOPED_TRACE(name);
         fillEntry(kPortQm, 9, 38);
-        ASSERT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, k.links, k.ts, k.lenCode, k.mode), 0u);
-        EXPECT_EQ((fields(kPortQm, 9, {{0, 18}, {18, 8}, {26, 12}})), (V{k.period, k.threshold, 0xFFF}));
+        ASSERT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, links, ts, lenCode, mode), 0u);
+        EXPECT_EQ((fields(kPortQm, 9, {{0, 18}, {18, 8}, {26, 12}})), (V{period, threshold, 0xFFF}));
         uint16_t th = 0;
-        uint32_t period = 0;
-        EXPECT_EQ(VQ6192_ATM_GetAtmImaQm(kChip, 9, &th, &period), 0u);
-        EXPECT_EQ((V{th, period}), (V{k.threshold, k.period}));
+        uint32_t back = 0;
+        EXPECT_EQ(VQ6192_ATM_GetAtmImaQm(kChip, 9, &th, &back), 0u);
+        EXPECT_EQ((V{th, back}), (V{threshold, period}));
     }
     model.clearTrace();
     capture.clear();

@@ -1,5 +1,7 @@
 // ATM pseudowires: creation and removal with their table entries and labels, the delete handshake,
 // the per-PW fields, counters, FIFO flags and the PW packet capture.
+#include <tuple>
+
 #include "atm/atm_fixture.h"
 #include "vq6192/eth.h"
 #include "vq6192/sim/atm_pwe3.h"
@@ -48,45 +50,32 @@ class Pwe3Test : public AtmTest {
 };
 
 TEST_F(Pwe3Test, CreateWritesEntriesLabelsAndEnable) {
-    struct Case {
-        const char *name;
-        uint32_t pw;
-        ATM_PW_CFG cfg;
-        uint64_t rx;  // bits 0..37 of the receive management entry, pre-filled with ones
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, uint32_t, ATM_PW_CFG, uint64_t> cases[] = {
         {"N:1, VPI and VCI cut", 7, {0xFFFFF, 0x1FFFF, 0x100, 0x345, 0, 1, 0, 0, 1}, 0x3FFFFFFFFFull},
         {"VPC 1:1, VPI 4095", 2047, {4095, 0, 0xFFFFF, 0xFFF, 1, 0, 1, 1, 1}, 0xFFFull << 26 | 0x3FD},
         {"VCC 1:1", 300, {0x12, 0xABCD, 0x55, 0x77, 1, 1, 1, 2, 1}, 0x12ull << 26 | 0xABCDull << 10 | 0x3FF},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
-        prefill(k.pw);
-        ASSERT_EQ(VQ6192_ATM_CreateAtmPw(kChip, k.pw, &k.cfg), 0u);
-        EXPECT_EQ(bits(kPwCfg, k.pw, 0, 4), k.cfg.byEncpMode << 2 | k.cfg.byCwEn << 1 | 1u);
-        EXPECT_EQ(bits(kPwRxMng, k.pw, 0, 38), k.rx);
-        EXPECT_EQ(bits(kPwTxMng, k.pw, 0, 30), 0x3FFFFFFEu | k.cfg.bySnAddEn);
+    for (const auto &[name, pw, cfg, rx] : cases) {
+        SCOPED_TRACE(name);
+        prefill(pw);
+        ASSERT_EQ(VQ6192_ATM_CreateAtmPw(kChip, pw, &cfg), 0u);
+        EXPECT_EQ(bits(kPwCfg, pw, 0, 4), cfg.byEncpMode << 2 | cfg.byCwEn << 1 | 1u);
+        EXPECT_EQ(bits(kPwRxMng, pw, 0, 38), rx);
+        EXPECT_EQ(bits(kPwTxMng, pw, 0, 30), 0x3FFFFFFEu | cfg.bySnAddEn);
         VQ6192_ETH_PSN_INFO_S info{};
-        ASSERT_EQ(VQ6192_ETH_GetPSNEthInfo(kChip, k.pw, VQ6192_ETH_SRV_ATM, &info), 0u);
-        EXPECT_EQ(info.dwLblPwLable, k.cfg.dwPwLabel);
+        ASSERT_EQ(VQ6192_ETH_GetPSNEthInfo(kChip, pw, VQ6192_ETH_SRV_ATM, &info), 0u);
+        EXPECT_EQ(info.dwLblPwLable, cfg.dwPwLabel);
         uint32_t srv = 9, ch = 9, valid = 9;
-        ASSERT_EQ(VQ6192_ETH_GetAtmCesEgChnl2Mpls(kChip, 0, k.cfg.dwInLabel, &srv, &ch, &valid), 0u);
+        ASSERT_EQ(VQ6192_ETH_GetAtmCesEgChnl2Mpls(kChip, 0, cfg.dwInLabel, &srv, &ch, &valid), 0u);
         EXPECT_EQ(valid, 1u);
         EXPECT_EQ(srv, 2u);
-        EXPECT_EQ(ch, k.pw);
+        EXPECT_EQ(ch, pw);
     }
 }
 
 TEST_F(Pwe3Test, CreateRefusalsTouchNothing) {
-    struct Case {
-        const char *name;
-        uint32_t pw;
-        ATM_PW_CFG cfg;
-        uint32_t status;
-        const char *trace;
-    };
     const char *para = "ParaErr. \r\n";
-    const Case cases[] = {
+    const std::tuple<const char *, uint32_t, ATM_PW_CFG, uint32_t, const char *> cases[] = {
         {"PW 2048", 2048, {0, 0, 1, 1, 1, 0, 0, 0, 1}, kPara, para},
         {"control word 2", 1, {0, 0, 1, 1, 2, 0, 0, 0, 1}, kPara, para},
         {"sequence check 2", 1, {0, 0, 1, 1, 1, 2, 0, 0, 1}, kPara, para},
@@ -104,50 +93,41 @@ TEST_F(Pwe3Test, CreateRefusalsTouchNothing) {
          "  "
          "ErrCode[0x3020004]\r\n"},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
+    for (const auto &[name, pw, cfg, status, trace] : cases) {
+        SCOPED_TRACE(name);
         model.clearTrace();
         capture.clear();
-        EXPECT_EQ(VQ6192_ATM_CreateAtmPw(kChip, k.pw, &k.cfg), k.status);
+        EXPECT_EQ(VQ6192_ATM_CreateAtmPw(kChip, pw, &cfg), status);
         EXPECT_TRUE(vqtest::writes(model.trace()).empty());
-        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{k.trace});
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{trace});
     }
     EXPECT_EQ(VQ6192_ATM_CreateAtmPw(kChip, 1, nullptr), kPara);
 }
 
 TEST_F(Pwe3Test, DisableRunsTheDeleteHandshake) {
-    struct Case {
-        const char *name;
-        uint32_t pw;
-        uint32_t polls;
-        uint32_t status;
-        uint64_t waitedUs;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, uint32_t, uint32_t, uint32_t, uint64_t> cases[] = {
         {"done at the first poll", 0x7FF, 1, 0, 2},
         {"done at poll 1000", 5, 1000, 0, 2000},
         {"never done", 6, AtmPwe3Block::kForever, kStep, 2000},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
-        setBits(kPwCfg, k.pw, 0, 4, 0xF);
+    for (const auto &[name, pw, polls, status, waitedUs] : cases) {
+        SCOPED_TRACE(name);
+        setBits(kPwCfg, pw, 0, 4, 0xF);
         model.poke(0xA740, 0xE000);  // bits above the handshake kept
-        pwe3().setDeletePolls(k.polls);
+        pwe3().setDeletePolls(polls);
         model.clearTrace();
         capture.clear();
         VQ6192_Platform_ResetVirtualTime();
-        EXPECT_EQ(VQ6192_ATM_SetPwEnable(kChip, k.pw, 0), k.status);
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), k.waitedUs);
-        EXPECT_EQ(bits(kPwCfg, k.pw, 0, 4), 0xEu);
+        EXPECT_EQ(VQ6192_ATM_SetPwEnable(kChip, pw, 0), status);
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), waitedUs);
+        EXPECT_EQ(bits(kPwCfg, pw, 0, 4), 0xEu);
         // The last write puts back what it read: the done bit when the chip raised it.
-        const uint32_t done = k.status == 0 ? 0x1000 : 0;
-        const std::vector<RegWrite> expect = {{0xA740, 0xE000},
-                                              {0xA740, 0xE000 | k.pw},
-                                              {0xA740, 0xE800 | k.pw},
-                                              {0xA740, 0xE000 | done | k.pw}};
+        const uint32_t done = status == 0 ? 0x1000 : 0;
+        const std::vector<RegWrite> expect = {
+            {0xA740, 0xE000}, {0xA740, 0xE000 | pw}, {0xA740, 0xE800 | pw}, {0xA740, 0xE000 | done | pw}};
         EXPECT_EQ(regWrites(0xA740), expect);
-        EXPECT_GE(g_ulVq6192AtmPwe3EnableCnt, k.polls == AtmPwe3Block::kForever ? 1000u : k.polls);
-        if (k.status != 0) {
+        EXPECT_GE(g_ulVq6192AtmPwe3EnableCnt, polls == AtmPwe3Block::kForever ? 1000u : polls);
+        if (status != 0) {
             EXPECT_TRUE(
                 traced("Err. VQ6192_ATM_SetPwEnable ATMPWE3DRV_RemoveAtmPw. Delete don't finish. "
                        "ChipID[0x3],     ErrCode[0x3020004]\r\n"));
@@ -243,18 +223,15 @@ TEST_F(Pwe3Test, FieldSettersChangeOnlyTheirField) {
 }
 
 TEST_F(Pwe3Test, ControlWordRuleOfTheOneToOneModes) {
-    struct Case {
-        uint32_t cfg;  // bits 0..3 of the configuration entry
-        uint8_t reported;
-    };
     // mode in bits 2..3, control word bit 1, enable bit 0
-    const Case cases[] = {{0x4 | 0x1, 1}, {0x8 | 0x1, 1}, {0x0 | 0x1, 0}, {0xC | 0x3, 1}, {0xC, 0}};
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.cfg);
-        setBits(kPwCfg, 12, 0, 4, k.cfg);
+    const std::tuple<uint32_t, uint8_t> cases[] = {
+        {0x4 | 0x1, 1}, {0x8 | 0x1, 1}, {0x0 | 0x1, 0}, {0xC | 0x3, 1}, {0xC, 0}};
+    for (const auto &[cfg, reported] : cases) {
+        SCOPED_TRACE(cfg);
+        setBits(kPwCfg, 12, 0, 4, cfg);
         uint8_t cw = 9;
         EXPECT_EQ(VQ6192_ATM_GetAtmPwCWEn(kChip, 12, &cw), 0u);
-        EXPECT_EQ(cw, k.reported);
+        EXPECT_EQ(cw, reported);
     }
     setBits(kPwCfg, 12, 0, 4, 0x7);  // VPC one-to-one, control word on
     capture.clear();

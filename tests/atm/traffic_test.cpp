@@ -12,37 +12,35 @@ using namespace atmtest;
 class TrafficTest : public AtmTest {};
 
 TEST_F(TrafficTest, DescriptorsToBucketPairs) {
-    struct Case {
-        uint32_t type, pcr, scr, cdvt, mbs;
-        double rateA, tolA, modeA, rateB, tolB, modeB;
-    };
     // CDVT 5000 x 100 ns = 500 us.
-    const Case cases[] = {
-        {1, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
-        {8, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
-        {2, 100000, 0, 0, 0, 100000, 10000, 7, 0, 0, 0},
-        {3, 20000, 5000, 0, 0, 20000, 50000, 7, 5000, 200000, 5},
-        {4, 2000000, 5000, 0, 0, 2000000, 704, 7, 5000, 200000, 6},
-        {5, 100000, 50000, 0, 32, 50000, 742320, 7, 100000, 102400, 7},
-        {6, 100000, 50000, 0, 32, 50000, 742320, 5, 100000, 102400, 7},
-        {7, 100000, 50000, 0, 32, 100000, 102400, 7, 50000, 742320, 6},
-        {9, 3000, 0, 5000, 0, 3000, 900000, 7, 0, 0, 0},
-        {10, 200000, 1000, 5000, 100, 1000, 178209000, 7, 200000, 900000, 7},
-        {11, 3000, 0, 5000, 0, 3000, 900000, 7, 3000, 900000, 4},
-        {12, 100, 0, 5000, 0, 100, 10100000, 7, 0, 0, 0},
-        {13, 200000, 1000, 5000, 100, 1000, 178209000, 7, 200000, 900000, 7},
-        {14, 200000, 1000, 5000, 100, 1000, 178209000, 5, 200000, 900000, 7},
-        {15, 200000, 1000, 5000, 100, 200000, 900000, 7, 1000, 178209000, 6},
-        {0, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
-        {16, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
-    };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.type);
+    const std::tuple<uint32_t, uint32_t, uint32_t, uint32_t, uint32_t, double, double, double, double, double,
+                     double>
+        cases[] = {
+            {1, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
+            {8, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
+            {2, 100000, 0, 0, 0, 100000, 10000, 7, 0, 0, 0},
+            {3, 20000, 5000, 0, 0, 20000, 50000, 7, 5000, 200000, 5},
+            {4, 2000000, 5000, 0, 0, 2000000, 704, 7, 5000, 200000, 6},
+            {5, 100000, 50000, 0, 32, 50000, 742320, 7, 100000, 102400, 7},
+            {6, 100000, 50000, 0, 32, 50000, 742320, 5, 100000, 102400, 7},
+            {7, 100000, 50000, 0, 32, 100000, 102400, 7, 50000, 742320, 6},
+            {9, 3000, 0, 5000, 0, 3000, 900000, 7, 0, 0, 0},
+            {10, 200000, 1000, 5000, 100, 1000, 178209000, 7, 200000, 900000, 7},
+            {11, 3000, 0, 5000, 0, 3000, 900000, 7, 3000, 900000, 4},
+            {12, 100, 0, 5000, 0, 100, 10100000, 7, 0, 0, 0},
+            {13, 200000, 1000, 5000, 100, 1000, 178209000, 7, 200000, 900000, 7},
+            {14, 200000, 1000, 5000, 100, 1000, 178209000, 5, 200000, 900000, 7},
+            {15, 200000, 1000, 5000, 100, 200000, 900000, 7, 1000, 178209000, 6},
+            {0, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
+            {16, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
+        };
+    for (const auto &[type, pcr, scr, cdvt, mbs, rateA, tolA, modeA, rateB, tolB, modeB] : cases) {
+        SCOPED_TRACE(type);
         ATM_BUCKET_PAIR p{};
         p.dRateA = 99;  // whatever was there is replaced
-        VQ6192_ATM_ConvertPolicingPara(kChip, k.type, k.pcr, k.scr, k.cdvt, k.mbs, &p);
+        VQ6192_ATM_ConvertPolicingPara(kChip, type, pcr, scr, cdvt, mbs, &p);
         const double got[6] = {p.dRateA, p.dTolA, double(p.wModeA), p.dRateB, p.dTolB, double(p.wModeB)};
-        const double want[6] = {k.rateA, k.tolA, k.modeA, k.rateB, k.tolB, k.modeB};
+        const double want[6] = {rateA, tolA, modeA, rateB, tolB, modeB};
         for (int i = 0; i < 6; ++i) {
             EXPECT_NEAR(got[i], want[i], 1e-6) << "rate, tolerance, mode of A then B: " << i;
         }
@@ -84,12 +82,7 @@ TEST_F(TrafficTest, ExponentAndMantissa) {
 }
 
 TEST_F(TrafficTest, PolicerEntries) {
-    struct Case {
-        const char *name;
-        ATM_TRAFFIC_DESC d;
-        V c;  // mode, increment and limit of bucket A, then of bucket B
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, ATM_TRAFFIC_DESC, V> cases[] = {
         {"type 5 of the worked example", {100000, 50000, 0, 32, 5}, {7, 0x6344, 0x4A, 7, 0x6343, 0x27}},
         {"type 2, tolerance raised to 1280 ticks", {100000, 0, 0, 0, 2}, {7, 0x6343, 0x4A, 0, 0, 0}},
         {"type 2, 1000 cells/s", {1000, 0, 0, 0, 2}, {7, 0x318A, 0x6A, 0, 0, 0}},
@@ -102,15 +95,15 @@ TEST_F(TrafficTest, PolicerEntries) {
         // negative mantissa (value 0.71) reach the field.
         {"type 2 beyond the increment range", {2000000, 0, 0, 0, 2}, {7, 0x5B00, 0x4A, 0, 0, 0}},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
+    for (const auto &[name, d, c] : cases) {
+        SCOPED_TRACE(name);
         setBits(kPolCfg, 8191, 0, 64, ~0ull);
-        ASSERT_EQ(VQ6192_ATM_SetAtmPolcfgQos(kChip, 8191, &k.d), 0u);
-        EXPECT_EQ((fields(kPolCfg, 8191, {{8, 3}, {11, 15}, {0, 8}, {34, 3}, {37, 15}, {26, 8}})), k.c);
+        ASSERT_EQ(VQ6192_ATM_SetAtmPolcfgQos(kChip, 8191, &d), 0u);
+        EXPECT_EQ((fields(kPolCfg, 8191, {{8, 3}, {11, 15}, {0, 8}, {34, 3}, {37, 15}, {26, 8}})), c);
         EXPECT_EQ(bits(kPolCfg, 8191, 52, 12), 0xFFFu) << "bits above the policer kept";
         ATM_POLICING_CFG raw{};
         ASSERT_EQ(VQ6192_ATM_GetAtmPolcfg(kChip, 8191, &raw), 0u);
-        EXPECT_EQ((V{raw.wIncrA, raw.wLimitB}), (V{k.c[1], k.c[5]}));
+        EXPECT_EQ((V{raw.wIncrA, raw.wLimitB}), (V{c[1], c[5]}));
     }
     model.clearTrace();
     ATM_TRAFFIC_DESC d16{1000, 0, 0, 0, 16}, d0{1000, 0, 0, 0, 0}, d{1000, 0, 0, 0, 2};
@@ -143,23 +136,17 @@ TEST_F(TrafficTest, RawPolicerRecords) {
 }
 
 TEST_F(TrafficTest, ShaperEntries) {
-    struct Case {
-        uint32_t cls, sel;
-        ATM_TRAFFIC_DESC d;
-        uint32_t incr, limit, mode;
-    };
-    const Case cases[] = {
+    const std::tuple<uint32_t, uint32_t, ATM_TRAFFIC_DESC, uint32_t, uint32_t, uint32_t> cases[] = {
         {2, kRtVbrShap, {100000, 50000, 0, 32, 5}, 25410, 8, 1},
         {3, kNrtVbrShap, {100000, 0, 0, 0, 2}, 25409, 193, 1},
         {4, kUbrPlusShap, {1000000, 0, 0, 0, 2}, 11648, 96, 1},
         {4, kUbrPlusShap, {1000000, 0, 0, 0, 1}, 0, 0, 0},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.cls);
-        setBits(k.sel, 335, 0, 32, ~0ull);
-        ASSERT_EQ(VQ6192_ATM_SetAtmShapcfgQos(kChip, 335, k.cls, &k.d), 0u);
-        EXPECT_EQ((fields(k.sel, 335, {{9, 15}, {0, 8}, {8, 1}, {24, 8}})),
-                  (V{k.incr, k.limit, k.mode, 0xFF}));
+    for (const auto &[cls, sel, d, incr, limit, mode] : cases) {
+        SCOPED_TRACE(cls);
+        setBits(sel, 335, 0, 32, ~0ull);
+        ASSERT_EQ(VQ6192_ATM_SetAtmShapcfgQos(kChip, 335, cls, &d), 0u);
+        EXPECT_EQ((fields(sel, 335, {{9, 15}, {0, 8}, {8, 1}, {24, 8}})), (V{incr, limit, mode, 0xFF}));
     }
     model.clearTrace();
     for (uint8_t type : {3, 4, 6, 7, 8, 11, 14, 15}) {
@@ -189,21 +176,19 @@ TEST_F(TrafficTest, ShaperEntries) {
 }
 
 TEST_F(TrafficTest, CbrRateClasses) {
-    struct Case {
-        uint32_t rate, period, cells;
-    };
     // 8: the quotient 2976190.476 rounds to 2976190.5 in single precision.
-    const Case cases[] = {{2976191, 6, 3401360}, {6, 3968252, 6}, {8, 2976189, 8}, {0, 0, 0}};
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.rate);
+    const std::tuple<uint32_t, uint32_t, uint32_t> cases[] = {
+        {2976191, 6, 3401360}, {6, 3968252, 6}, {8, 2976189, 8}, {0, 0, 0}};
+    for (const auto &[rate, period, cells] : cases) {
+        SCOPED_TRACE(rate);
         setBits(kShVc, 5375, 0, 87, ~0ull);
         setBits(kShVc, 5375, 64, 23, 0x7FFFFF);
-        ASSERT_EQ(VQ6192_ATM_SetAtmShVc(kChip, 335, 15, k.rate), 0u);
-        EXPECT_EQ(bits(kShVc, 5375, 0, 22), k.period);
+        ASSERT_EQ(VQ6192_ATM_SetAtmShVc(kChip, 335, 15, rate), 0u);
+        EXPECT_EQ(bits(kShVc, 5375, 0, 22), period);
         EXPECT_EQ(bits(kShVc, 5375, 22, 42), (1ull << 42) - 1) << "scheduler state kept";
-        uint32_t cells = 1;
-        ASSERT_EQ(VQ6192_ATM_GetAtmShVc(kChip, 335, 15, &cells), 0u);
-        EXPECT_EQ(cells, k.cells);
+        uint32_t back = 1;
+        ASSERT_EQ(VQ6192_ATM_GetAtmShVc(kChip, 335, 15, &back), 0u);
+        EXPECT_EQ(back, cells);
     }
     model.clearTrace();
     for (uint32_t rate : {1u, 5u, 2976192u}) {

@@ -2,6 +2,7 @@
 // links and cell capture.
 #include <array>
 #include <cstring>
+#include <tuple>
 
 #include "ima_fixture.h"
 #include "vq6192/sim/ddr.h"
@@ -61,35 +62,28 @@ TEST_F(ControlTest, CommandWrappersSendTheirParameters) {
 }
 
 TEST_F(ControlTest, ForcedLinkDeletion) {
-    struct Case {
-        const char *what;
-        bool enabled;
-        uint32_t reads;
-        uint64_t ticks;
-        bool restart;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, bool, uint32_t, uint64_t, bool> cases[] = {
         {"already clear", false, 0, 10, false},
         {"processor keeps it for 3 reads", true, 3, 40, false},
         {"never lets go", true, Proc::kForever, 4000, true},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto &[what, enabled, reads, ticks, restart] : cases) {
+        SCOPED_TRACE(what);
         proc().clearCommands();
         VQ6192_Platform_ResetVirtualTime();
-        setBits(kPpB, kTxs, 50 * 2, 0, 32, c.enabled ? 0xFFFFFFFF : 0x7FFFFFFF);
-        setBits(kPpB, kRxs, 50 * 2, 0, 32, c.enabled ? 0xFFFFFFFF : 0x7FFFFFFF);
+        setBits(kPpB, kTxs, 50 * 2, 0, 32, enabled ? 0xFFFFFFFF : 0x7FFFFFFF);
+        setBits(kPpB, kRxs, 50 * 2, 0, 32, enabled ? 0xFFFFFFFF : 0x7FFFFFFF);
         setBits(kPpB, kGps, 4 * 8 + 2, 32, 32, 0xFFFFFFFF);
-        proc().setDeleteReads(c.reads);
+        proc().setDeleteReads(reads);
         EXPECT_EQ(VQ6192_IMA_ForceLinkDeleted(kChip, 50, 4, 7), 0u);
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs() / kTickUs, c.ticks);
-        if (c.enabled) {
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs() / kTickUs, ticks);
+        if (enabled) {
             EXPECT_EQ(bits(kPpB, kTxs, 100, 24, 7), 1u << 3) << "Netxlsm Deleted, Ferxlsm 0";
             EXPECT_EQ(bits(kPpB, kRxs, 100, 25, 6), 2u) << "Nerxlsm Deleted";
         }
         EXPECT_EQ(bits(kPpB, kTxs, 100, 31, 1), 0u);
-        EXPECT_EQ(bits(kPpB, kGps, 34, 32, 32), c.restart ? 0xFFFFFF7Fu : 0xFFFFFFFFu);
-        EXPECT_EQ(proc().commands().size(), c.restart ? 1u : 0u);
+        EXPECT_EQ(bits(kPpB, kGps, 34, 32, 32), restart ? 0xFFFFFF7Fu : 0xFFFFFFFFu);
+        EXPECT_EQ(proc().commands().size(), restart ? 1u : 0u);
     }
     // Receive enable, transmit enable, deleted; only transmit enabled leaves the output as it is.
     for (const auto &l : {std::array<uint32_t, 3>{1, 0, 0}, {0, 0, 1}, {0, 1, 7}}) {

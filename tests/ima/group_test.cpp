@@ -1,6 +1,7 @@
 // IMA groups: the group check and its messages, the tables a group add lays, the mailbox command it
 // ends with, link addition around a running start-up or LASR, link and group deletion, the read-back.
 #include <cstring>
+#include <tuple>
 
 #include "ima_fixture.h"
 
@@ -10,27 +11,13 @@ using namespace imatest;
 
 constexpr uint32_t kGrp = 5;
 
+// Symmetric, version 1.1, label 3, ids 0x21/0x42, M 15/1, minimums 2, delay 500, 4-ahead stuffing,
+// reference link 47; links 10 (LID 0, ICP offset 3) and 47 (LID 2, offset 7).
 IMA_GRP_CFG groupCfg() {
     IMA_GRP_CFG c{};
-    c.byClockMd = 0;
-    c.bySymmetryMd = 0;
-    c.byImaVersion = 1;
-    c.byImaOamLabel = 3;
-    c.byRxImaIdCfgEn = 1;
-    c.byRxImaId = 0x21;
-    c.byTxImaId = 0x42;
-    c.wTxVphy = kGrp;
-    c.wRxVphy = kGrp;
-    c.byRxM = 0xF;
-    c.byPRx = 2;
-    c.byTxM = 1;
-    c.byPTx = 2;
-    c.wMaxDelay = 500;
-    c.byStuffMd = 0;
-    c.byStuffAdvMd = 4;
-    c.wTxTrlPhy = 47;
-    c.wNumRxLinks = 2;
-    c.wNumTxLinks = 2;
+    c.byImaVersion = 1, c.byImaOamLabel = 3, c.byRxImaIdCfgEn = 1, c.byRxImaId = 0x21, c.byTxImaId = 0x42;
+    c.wTxVphy = kGrp, c.wRxVphy = kGrp, c.byRxM = 0xF, c.byPRx = 2, c.byTxM = 1, c.byPTx = 2;
+    c.wMaxDelay = 500, c.byStuffAdvMd = 4, c.wTxTrlPhy = 47, c.wNumRxLinks = 2, c.wNumTxLinks = 2;
     const uint16_t rx[2] = {10, 47};
     const IMA_TX_LINK tx[2] = {{0, 3, 10}, {2, 7, 47}};
     std::memcpy(reinterpret_cast<uint8_t *>(&c) + offsetof(IMA_GRP_CFG, pusRxLinks), rx, sizeof rx);
@@ -56,45 +43,45 @@ TEST_F(GroupTest, AddGroupLaysEveryTable) {
     ASSERT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), 0u);
 
     // Transmit side: LID map, group config, ICP offsets, link set, depth, counters cleared.
+    std::vector<uint64_t> got, want;
     for (uint32_t lid = 0; lid < 32; ++lid) {
-        const uint32_t expect = lid == 0 ? 10 : lid == 2 ? 47 : 511;
-        EXPECT_EQ(bits(kTxB, kMap, kGrp * 32 + lid, 0, 9), expect) << "LID " << lid;
+        got.push_back(bits(kTxB, kMap, kGrp * 32 + lid, 0, 9));
+        want.push_back(lid == 0 ? 10 : lid == 2 ? 47 : 511);
     }
-    EXPECT_EQ(word(kTxB, kTxGpc, kGrp), 0x4903u) << "reference LID 2, Txm 1, 4-ahead = bit 0, stuff, label 3";
-    EXPECT_EQ(bits(kTxB, kTxLkc, 10, 0, 8), 3u);
-    EXPECT_EQ(bits(kTxB, kTxLkc, 47, 0, 8), 7u);
-    EXPECT_EQ(bits(kTxB, kInGrp, kGrp, 0, 64), (1ull << 10) | (1ull << 47));
-    EXPECT_EQ(bits(kTxB, kDepth, kGrp, 0, 11), 2047u);
     for (uint32_t w = 0; w < 5; ++w) {
-        EXPECT_EQ(word(kTxB, kTxGps, kGrp * 8 + w), 0u) << "Imatxgps" << w;
+        got.push_back(word(kTxB, kTxGps, kGrp * 8 + w));
+        want.push_back(0);
     }
-    EXPECT_EQ(model.peek(0x48AE) & 1u, 1u);
+    EXPECT_EQ(got, want) << "LID map, then Imatxgps0..4";
+    // Reference LID 2, Txm 1, 4-ahead = bit 0, stuff, label 3; ICP offsets; link set; depth.
+    EXPECT_EQ((std::vector<uint64_t>{word(kTxB, kTxGpc, kGrp), bits(kTxB, kTxLkc, 10, 0, 8),
+                                     bits(kTxB, kTxLkc, 47, 0, 8), bits(kTxB, kInGrp, kGrp, 0, 64),
+                                     bits(kTxB, kDepth, kGrp, 0, 11), model.peek(0x48AE) & 1u}),
+              (std::vector<uint64_t>{0x4903, 3, 7, (1ull << 10) | (1ull << 47), 2047, 1}));
 
     // Processor group words 0..2 at group * 16 + word, receive link table in words 5..15.
-    EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + 0), 0x03080000u);
-    EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + 1), 0x42420000u);
-    EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + 2), 0x9085F132u);
-    EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + 5), 10u | (511u << 9) | (47u << 18));
-    for (uint32_t w = 6; w < 16; ++w) {
-        EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + w), 0x7FFFFFFu) << "word " << w;
+    std::vector<uint32_t> gpc;
+    for (uint32_t w : {0, 1, 2, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}) {
+        gpc.push_back(word(kPpB, kGpc, kGrp * 16 + w));
     }
-    EXPECT_EQ(word(kPpB, kTxc, 10), 0xC0050000u);
-    EXPECT_EQ(word(kPpB, kTxc, 47), 0xC0051000u);
-    EXPECT_EQ(word(kPpB, kRxc, 10), 0xC0050000u);
-    EXPECT_EQ(word(kPpB, kRxc, 47), 0xC0050000u);
+    EXPECT_EQ(gpc, (std::vector<uint32_t>{0x03080000, 0x42420000, 0x9085F132, 10u | (511u << 9) | (47u << 18),
+                                          0x7FFFFFF, 0x7FFFFFF, 0x7FFFFFF, 0x7FFFFFF, 0x7FFFFFF, 0x7FFFFFF,
+                                          0x7FFFFFF, 0x7FFFFFF, 0x7FFFFFF, 0x7FFFFFF}));
+    EXPECT_EQ((std::vector<uint32_t>{word(kPpB, kTxc, 10), word(kPpB, kTxc, 47), word(kPpB, kRxc, 10),
+                                     word(kPpB, kRxc, 47)}),
+              (std::vector<uint32_t>{0xC0050000, 0xC0051000, 0xC0050000, 0xC0050000}));
 
     // Receive side: delay tolerance with Scvcthresh kept, SCVC entries at (link % 84) * 4 + link / 84.
-    EXPECT_EQ(word(kRxB, kRxGpc, kGrp), 0xFABFFDF4u);
-    EXPECT_EQ(bits(kRxB, kScvc, 40, 0, 10), 0x205u);
-    EXPECT_EQ(bits(kRxB, kScvc, 188, 0, 10), 0x205u);
+    EXPECT_EQ((std::vector<uint64_t>{word(kRxB, kRxGpc, kGrp), bits(kRxB, kScvc, 40, 0, 10),
+                                     bits(kRxB, kScvc, 188, 0, 10)}),
+              (std::vector<uint64_t>{0xFABFFDF4, 0x205, 0x205}));
 
     // TC links: idle filter off on the receive links, the transmit link enabled again, neighbours kept.
     for (uint32_t link : {10u, 47u}) {
         EXPECT_EQ(bits(kTcB, kRxCfg, link, 64, 32), 0xFDFFFFFFu) << "only bit 89 cleared";
         EXPECT_EQ(bits(kTcB, kTxCfg, link, 0, 64), ~0ull);
     }
-    ASSERT_EQ(proc().commands().size(), 1u);
-    EXPECT_EQ(proc().commands()[0], (Proc::Command{0, kGrp, 0x5, 0x5, 0}));
+    EXPECT_EQ(proc().commands(), (std::vector<Proc::Command>{{0, kGrp, 0x5, 0x5, 0}}));
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 1u) << "the mailbox sleeps 1 us after the command";
 }
 
@@ -208,34 +195,27 @@ TEST_F(GroupTest, AddLinksAroundStartupAndLasr) {
     IMA_GRP_CFG cfg = groupCfg();
     const uint16_t rx[1] = {100};
     const IMA_TX_LINK tx[1] = {{4, 1, 100}};
-    struct Case {
-        uint32_t gwp;
-        uint32_t refusals;
-        uint32_t status;
-        size_t commands;
-        uint64_t ticks;
-    };
-    const Case cases[] = {
+    const std::tuple<uint32_t, uint32_t, uint32_t, size_t, uint64_t> cases[] = {
         {0, 0, 0, 1, 0},           {1, 0, 0, 1, 0}, {2, 0, 0, 1, 10},
         {2, 2, 0, 3, 10},           // refused twice: the later attempts find the LASR stopped
         {0, 3, kRefusedCmd, 3, 0},  // three refusals end it
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(testing::Message() << "Gwpactive " << c.gwp << " refusals " << c.refusals);
+    for (const auto &[gwp, refusals, status, commands, ticks] : cases) {
+        SCOPED_TRACE(testing::Message() << "Gwpactive " << gwp << " refusals " << refusals);
         proc().clearCommands();
         VQ6192_Platform_ResetVirtualTime();
-        setBits(kPpB, kGps, kGrp * 8, 53, 2, c.gwp);
+        setBits(kPpB, kGps, kGrp * 8, 53, 2, gwp);
         setBits(kPpB, kGps, kGrp * 8 + 2, 0, 32, 0xFFFFFFFF);   // Txlasract
         setBits(kPpB, kGps, kGrp * 8 + 4, 32, 32, 0xFFFFFFFF);  // Rxlasract
         setBits(kPpB, kGpc, kGrp * 16 + 3, 0, 32, 0xFFFFFFFF);
-        proc().refuse(c.refusals);
-        EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 1, kGrp, 1, 1, rx, tx, &cfg), c.status);
-        ASSERT_EQ(proc().commands().size(), c.commands);
+        proc().refuse(refusals);
+        EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 1, kGrp, 1, 1, rx, tx, &cfg), status);
+        ASSERT_EQ(proc().commands().size(), commands);
         EXPECT_EQ(proc().commands().back(), (Proc::Command{8, kGrp, 1u << 4, 1u << 4, 0}));
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs() / kTickUs, c.ticks);
-        EXPECT_EQ(bits(kPpB, kGps, kGrp * 8, 53, 2), c.gwp == 1 ? 1u : 0u);
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs() / kTickUs, ticks);
+        EXPECT_EQ(bits(kPpB, kGps, kGrp * 8, 53, 2), gwp == 1 ? 1u : 0u);
         EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + 3), 0xFFFFFFFFu) << "Autolasren set again";
-        if (c.gwp == 2) {
+        if (gwp == 2) {
             EXPECT_EQ(bits(kPpB, kGps, kGrp * 8 + 2, 0, 32), 0u);
             EXPECT_EQ(bits(kPpB, kGps, kGrp * 8 + 4, 32, 32), 0u);
         }
@@ -287,30 +267,33 @@ TEST_F(GroupTest, ConfigurationReadBack) {
     ASSERT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), 0u);
     setBits(kPpB, kGps, kGrp * 8 + 1, 32, 9, 47);  // Txtrlphyid reported by the processor
     ASSERT_EQ(VQ6192_IMA_GetImaGrpCfg(kChip, kGrp, &out, &en), 0u);
-    EXPECT_EQ(en, 3u);
-    EXPECT_EQ(out.byImaOamLabel, 3u);
-    EXPECT_EQ(out.byTxImaId, 0x42u);
-    EXPECT_EQ(out.byRxImaId, 0x21u);
-    EXPECT_EQ(out.byRxM, 0xFu);
-    EXPECT_EQ(out.byTxM, 1u);
-    EXPECT_EQ(out.byPRx, 2u);
-    EXPECT_EQ(out.byPTx, 2u);
-    EXPECT_EQ(static_cast<uint32_t>(out.wMaxDelay), 500u);
-    EXPECT_EQ(out.byStuffAdvMd, 0u) << "4 is stored as bit 0 and read back as that bit";
-    EXPECT_EQ(static_cast<uint32_t>(out.wTxTrlPhy), 47u);
-    EXPECT_EQ(static_cast<uint32_t>(out.wTxVphy), kGrp);
-    EXPECT_EQ(out.byStuffMd, 2u);
-    EXPECT_EQ(static_cast<uint32_t>(out.wNumTxLinks), 2u);
-    EXPECT_EQ(static_cast<uint32_t>(out.wNumRxLinks), 2u);
     IMA_TX_LINK tx[2];
     uint16_t rx[2];
     std::memcpy(tx, reinterpret_cast<const uint8_t *>(&out) + offsetof(IMA_GRP_CFG, pstTxLinks), sizeof tx);
     std::memcpy(rx, reinterpret_cast<const uint8_t *>(&out) + offsetof(IMA_GRP_CFG, pusRxLinks), sizeof rx);
-    EXPECT_EQ(tx[1].ucLid, 2u);
-    EXPECT_EQ(tx[1].ucIcpOffset, 7u);
-    EXPECT_EQ(tx[1].usPhyLink, 47u);
-    EXPECT_EQ(rx[0], 10u);
-    EXPECT_EQ(rx[1], 47u);
+    // The stuff advance 4 is stored as bit 0 and read back as that bit.
+    EXPECT_EQ(
+        (std::vector<uint32_t>{en,
+                               out.byImaOamLabel,
+                               out.byTxImaId,
+                               out.byRxImaId,
+                               out.byRxM,
+                               out.byTxM,
+                               out.byPRx,
+                               out.byPTx,
+                               out.wMaxDelay,
+                               out.byStuffAdvMd,
+                               out.wTxTrlPhy,
+                               out.wTxVphy,
+                               out.byStuffMd,
+                               out.wNumTxLinks,
+                               out.wNumRxLinks,
+                               tx[1].ucLid,
+                               tx[1].ucIcpOffset,
+                               tx[1].usPhyLink,
+                               rx[0],
+                               rx[1]}),
+        (std::vector<uint32_t>{3, 3, 0x42, 0x21, 0xF, 1, 2, 2, 500, 0, 47, kGrp, 2, 2, 2, 2, 7, 47, 10, 47}));
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 // Step helpers: entry indexes of the tables that share a select code, link vectors, capture filter
 // sub-modes, and the TC state records copied field by field.
+#include <tuple>
+
 #include "ima_fixture.h"
 #include "vq6192/table.h"
 
@@ -19,24 +21,20 @@ uint32_t idOf(const char *name) {
 }
 
 TEST_F(HelpersTest, EntryIndexesByNumberAndWord) {
-    struct Case {
-        const char *table;
-        uint32_t number, word, index;
-    };
     // Entries per group or link: 16 for the processor group configuration and the ICP buffers, 8 for
     // the group status words, 4 for the link counters and write pointers, 2 for link status pairs and
     // group counters, 32 for the LID map, 1 otherwise.
-    const Case cases[] = {
+    const std::tuple<const char *, uint32_t, uint32_t, uint32_t> cases[] = {
         {"Imappgpc3", 5, 3, 83},      {"Imappgpc5", 5, 15, 95},    {"Imapptxs1", 40, 1, 81},
         {"Imappgps7", 3, 7, 31},      {"Imatxgps4", 3, 4, 28},     {"Imarxlkcnt2", 10, 2, 42},
         {"Imarxgpwptr2", 10, 2, 42},  {"Imarxgpcnt1", 7, 1, 15},   {"Imarxunircnt0", 7, 0, 14},
         {"Imarxicpbuf12", 2, 12, 44}, {"Imatxicpbuf0", 2, 10, 42}, {"Imatxmaptbl0", 3, 31, 127},
         {"Imatxgpc", 9, 0, 9},        {"Imarxlks1", 4, 1, 9},      {"Tcrxlnkcfg", 335, 0, 335},
     };
-    for (const Case &c : cases) {
+    for (const auto &[table, number, w, want] : cases) {
         uint32_t index = 0;
-        ASSERT_EQ(VQ6192_utlTransIdxID(kChip, idOf(c.table), c.number, c.word, &index), 0u) << c.table;
-        EXPECT_EQ(index, c.index) << c.table;
+        ASSERT_EQ(VQ6192_utlTransIdxID(kChip, idOf(table), number, w, &index), 0u) << table;
+        EXPECT_EQ(index, want) << table;
     }
 }
 
@@ -58,30 +56,25 @@ TEST_F(HelpersTest, LinkVectors) {
 }
 
 TEST_F(HelpersTest, CaptureSubModes) {
-    struct Case {
-        uint16_t subMode;
-        uint32_t reg;  // R2 or R3 of block 0
-        uint16_t before, after;
-    };
-    const Case cases[] = {
+    const std::tuple<uint16_t, uint32_t, uint16_t, uint16_t> cases[] = {
         {0, 0x4C44, 0xFFFF, 0xC000 | (0x15 << 8) | 0x34},
         {2, 0x4C46, 0x03FF, 0x8000 | (0x1E << 10) | 0x3FF},
         {4, 0x4C46, 0x0000, 0x8000 | (0x1E << 10)},
         {3, 0x4C46, 0xFFE0, 0xFFE0 | 0x15},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.subMode);
+    for (const auto &[subMode, reg, before, after] : cases) {
+        SCOPED_TRACE(subMode);
         IMA_CAP_FILTER f{};
         f.wFlag = 1;
         f.wSelect = 1024;
-        f.wSubMode = c.subMode;
+        f.wSubMode = subMode;
         f.wValueA = 0x15;
         f.wValueB = 0x1234;
         f.wFilterNum = 1;
         f.awValueC[0] = 0x1E;
-        model.poke(c.reg, c.before);
+        model.poke(reg, before);
         ASSERT_EQ(VQ6192_IMA_SetImaCapture(kChip, &f), 0u);
-        EXPECT_EQ(model.peek(c.reg), c.after);
+        EXPECT_EQ(model.peek(reg), after);
     }
 }
 

@@ -127,9 +127,9 @@ TEST_F(MailboxTest, LinkParametersAndAutoProcessing) {
                       [&] { return VQ6192_IMA_SetImaLinkParam(kChip, args[0], args[1], args[2]); });
     }
     model.poke(0x4452, 0xF00F);
-    for (const auto &a : {std::array<uint32_t, 3>{0x0F0, 1, 0xF0FF}, {0x00F, 0, 0xF0F0}}) {
-        ASSERT_EQ(VQ6192_IMA_SetAutoProcEn(kChip, a[0], a[1]), 0u);
-        EXPECT_EQ(model.peek(0x4452), a[2]);
+    for (const auto &p : {std::array<uint32_t, 3>{0x0F0, 1, 0xF0FF}, {0x00F, 0, 0xF0F0}}) {
+        ASSERT_EQ(VQ6192_IMA_SetAutoProcEn(kChip, p[0], p[1]), 0u);
+        EXPECT_EQ(model.peek(0x4452), p[2]);
     }
     expectRefused("mask past bit 10", kPara, [] { return VQ6192_IMA_SetAutoProcEn(kChip, 0x800, 1); });
 }

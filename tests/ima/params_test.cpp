@@ -1,5 +1,7 @@
 // Running-group parameter changes, VC-4 port removal, UNI counters and the link configuration
 // read-back.
+#include <tuple>
+
 #include "ima_fixture.h"
 
 namespace {
@@ -33,33 +35,30 @@ TEST_F(ParamsTest, RunningGroupParameters) {
     setBits(kPpB, kGpc, g * 16 + 2, 0, 32, 0x00000000);
     setBits(kTxB, kTxGpc, g, 0, 32, 0x0FFFFF01);
     setBits(kRxB, kRxGpc, g, 0, 32, 0xFFFFFC00);
-    struct Case {
-        const char *what;
-        IMA_GRP_PARAM mask;
-        IMA_GRP_PARAM value;
-        uint32_t gpc0, gpc1, gpc2, txgpc, rxgpc;
-    };
-    const Case cases[] = {
-        {"third byte alone rewrites word 0 unchanged", param({0, 0, 1}), param({1, 1, 1, 1}), 0x01C80000,
-         0xFFFFFFFF, 0, 0x0FFFFF01, 0xFFFFFC00},
-        {"label", param({0, 0, 0, 1}), param({0, 0, 0, 3}), 0x03C80000, 0xFFFFFFFF, 0, 0x0FFFFF03,
-         0xFFFFFC00},
-        {"symmetry", param({0, 1}), param({0, 0}), 0x03080000, 0xFFFFFFFF, 0, 0x0FFFFF03, 0xFFFFFC00},
-        {"transmit M and clock", param({1, 0, 0, 0, 0, 0, 0, 0, 0, 1}), param({0, 0, 0, 0, 0, 0, 0, 0, 0, 2}),
-         0x03080000, 0xFFBFFFBF, 0, 0x0FFFF703, 0xFFFFFC00},
-        {"receive id", param({0, 0, 0, 0, 1, 0, 0, 1}), param({0, 0, 0, 0, 1, 0x5A, 0, 9}), 0x03080000,
-         0xFFBFFFBF, 0xAD012000, 0x0FFFF703, 0xFFFFFC00},
-        {"delay", param({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}), param({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 700}),
-         0x03080000, 0xFFBFFFBF, 0xAD012000, 0x0FFFF703, 0xFFFFFEBC},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
-        ASSERT_EQ(VQ6192_IMA_SetImaGrpParam(kChip, g, 0, &c.mask, &c.value), 0u);
-        EXPECT_EQ(word(kPpB, kGpc, g * 16 + 0), c.gpc0);
-        EXPECT_EQ(word(kPpB, kGpc, g * 16 + 1), c.gpc1);
-        EXPECT_EQ(word(kPpB, kGpc, g * 16 + 2), c.gpc2);
-        EXPECT_EQ(word(kTxB, kTxGpc, g), c.txgpc);
-        EXPECT_EQ(word(kRxB, kRxGpc, g), c.rxgpc);
+    const std::tuple<const char *, IMA_GRP_PARAM, IMA_GRP_PARAM, uint32_t, uint32_t, uint32_t, uint32_t,
+                     uint32_t>
+        cases[] = {
+            {"third byte alone rewrites word 0 unchanged", param({0, 0, 1}), param({1, 1, 1, 1}), 0x01C80000,
+             0xFFFFFFFF, 0, 0x0FFFFF01, 0xFFFFFC00},
+            {"label", param({0, 0, 0, 1}), param({0, 0, 0, 3}), 0x03C80000, 0xFFFFFFFF, 0, 0x0FFFFF03,
+             0xFFFFFC00},
+            {"symmetry", param({0, 1}), param({0, 0}), 0x03080000, 0xFFFFFFFF, 0, 0x0FFFFF03, 0xFFFFFC00},
+            {"transmit M and clock", param({1, 0, 0, 0, 0, 0, 0, 0, 0, 1}),
+             param({0, 0, 0, 0, 0, 0, 0, 0, 0, 2}), 0x03080000, 0xFFBFFFBF, 0, 0x0FFFF703, 0xFFFFFC00},
+            {"receive id", param({0, 0, 0, 0, 1, 0, 0, 1}), param({0, 0, 0, 0, 1, 0x5A, 0, 9}), 0x03080000,
+             0xFFBFFFBF, 0xAD012000, 0x0FFFF703, 0xFFFFFC00},
+            {"delay", param({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}),
+             param({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 700}), 0x03080000, 0xFFBFFFBF, 0xAD012000, 0x0FFFF703,
+             0xFFFFFEBC},
+        };
+    for (const auto &[what, mask, value, gpc0, gpc1, gpc2, txgpc, rxgpc] : cases) {
+        SCOPED_TRACE(what);
+        ASSERT_EQ(VQ6192_IMA_SetImaGrpParam(kChip, g, 0, &mask, &value), 0u);
+        EXPECT_EQ(word(kPpB, kGpc, g * 16 + 0), gpc0);
+        EXPECT_EQ(word(kPpB, kGpc, g * 16 + 1), gpc1);
+        EXPECT_EQ(word(kPpB, kGpc, g * 16 + 2), gpc2);
+        EXPECT_EQ(word(kTxB, kTxGpc, g), txgpc);
+        EXPECT_EQ(word(kRxB, kRxGpc, g), rxgpc);
     }
     const IMA_GRP_PARAM none{};
     expectRefused("no value record", kPara,
