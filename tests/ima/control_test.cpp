@@ -16,12 +16,7 @@ class ControlTest : public ImaTest {};
 TEST_F(ControlTest, CommandWrappersSendTheirParameters) {
     const uint16_t rx[2] = {10, 47};
     const IMA_TX_LINK tx[2] = {{1, 0, 10}, {6, 0, 47}};
-    struct Case {
-        const char *what;
-        std::function<uint32_t()> op;
-        Proc::Command cmd;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, std::function<uint32_t()>, Proc::Command> cases[] = {
         {"inhibit", [] { return VQ6192_IMA_SetImaGrpStatus(kChip, 9, 1); }, {4, 9, 0, 0, 0}},
         {"not inhibit", [] { return VQ6192_IMA_SetImaGrpStatus(kChip, 9, 0); }, {5, 9, 0, 0, 0}},
         {"lasr", [&] { return VQ6192_IMA_Lasr(kChip, 9, 2, 2, rx, tx, 0); }, {8, 9, 0x42, 0x42, 0}},
@@ -41,11 +36,11 @@ TEST_F(ControlTest, CommandWrappersSendTheirParameters) {
         {"restart", [] { return VQ6192_IMA_Restart(kChip, 9); }, {2, 9, 0, 0, 0}},
     };
     setBits(kPpB, kGps, 9 * 8 + 1, 0, 64, 0x0000BFFF'FFFFFFFFull);
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto &[what, op, cmd] : cases) {
+        SCOPED_TRACE(what);
         proc().clearCommands();
-        EXPECT_EQ(c.op(), 0u);
-        EXPECT_EQ(proc().commands(), std::vector<Proc::Command>{c.cmd});
+        EXPECT_EQ(op(), 0u);
+        EXPECT_EQ(proc().commands(), std::vector<Proc::Command>{cmd});
     }
     EXPECT_EQ(bits(kPpB, kGps, 9 * 8 + 1, 0, 64), 0x0000FFFF'FFFFFFFFull) << "Txtrlchange (46) set";
     proc().refuse(1);

@@ -95,12 +95,7 @@ TEST_F(GroupTest, GroupInUseWritesNothing) {
 }
 
 TEST_F(GroupTest, GroupCheckMessages) {
-    struct Case {
-        const char *what;
-        std::function<void(IMA_GRP_CFG &)> change;
-        const char *message;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, std::function<void(IMA_GRP_CFG &)>, const char *> cases[] = {
         {"clock", [](IMA_GRP_CFG &c) { c.byClockMd = 2; },
          "Err. VQ6192_IMA_checkGrpParams(3,5)---byClockMd >= VQ6192_IMA_GRP_CLK_MD_CTC---   "
          "pstCfg->byClockMd = 2\r\n"},
@@ -152,14 +147,14 @@ TEST_F(GroupTest, GroupCheckMessages) {
          "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---bySymmetryMd != VQ6192_IMA_GRP_ASYM and wNumRxLinks == "
          "usNumTxLinks---   pstCfg->bySymmetryMd = 0; pstCfg->wNumRxLinks = 0; pstCfg->wNumTxLinks = 2\n"},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto &[what, change, message] : cases) {
+        SCOPED_TRACE(what);
         IMA_GRP_CFG cfg = groupCfg();
-        c.change(cfg);
+        change(cfg);
         capture.clear();
         const auto t = traced([&] { EXPECT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), kPara); });
         EXPECT_TRUE(t.empty());
-        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{c.message});
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{message});
     }
     IMA_GRP_CFG asym = groupCfg();
     asym.bySymmetryMd = 2;
@@ -305,13 +300,8 @@ using namespace imatest;
 class StepFailureTest : public ImaTest {};
 
 TEST_F(StepFailureTest, TableFailuresEndTheStepWithItsMessage) {
-    struct Case {
-        uint32_t block;
-        std::function<uint32_t()> op;
-        const char *message;
-    };
     static const IMA_GRP_CFG cfg = groupCfg();
-    const Case cases[] = {
+    const std::tuple<uint32_t, std::function<uint32_t()>, const char *> cases[] = {
         {kTcB, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
          "Err. VQ6192_IMA_AddImaGrp.VQ6192_Read_Table(3,138,10) i=0     ErrCode[0x30c0003]\r\n"},
         {kTxB, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
@@ -319,15 +309,15 @@ TEST_F(StepFailureTest, TableFailuresEndTheStepWithItsMessage) {
         {kPpB, [] { return VQ6192_IMA_ResetIma(kChip); },
          "Err. VQ6192_IMA_ResetIma.VQ6192_Write_Table(3,143,0)      ErrCode[0x30c0003]\r\n"},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.message);
-        model.tables().holdBusy(c.block, vq6192::sim::TableEngine::kForever);
+    for (const auto &[block, op, message] : cases) {
+        SCOPED_TRACE(message);
+        model.tables().holdBusy(block, vq6192::sim::TableEngine::kForever);
         capture.clear();
-        EXPECT_EQ(c.op(), 0x030C0003u) << "the table access's own code";
+        EXPECT_EQ(op(), 0x030C0003u) << "the table access's own code";
         const auto texts = capture.traceTexts();
         ASSERT_EQ(texts.size(), 2u) << "the table layer's line, then the step's";
-        EXPECT_EQ(texts[1], c.message);
-        model.tables().holdBusy(c.block, 0);
+        EXPECT_EQ(texts[1], message);
+        model.tables().holdBusy(block, 0);
     }
     EXPECT_TRUE(proc().commands().empty());
 }

@@ -1,6 +1,7 @@
 // The IMA processor mailbox, the block start and reset, UNI links, VC-4 ports, TC resets and the link
 // parameters.
 #include <array>
+#include <tuple>
 
 #include "ima_fixture.h"
 
@@ -44,13 +45,7 @@ TEST_F(MailboxTest, RunCmdPassesOnlyKnownCodes) {
 }
 
 TEST_F(MailboxTest, BusyRefusedAndWaits) {
-    struct Case {
-        const char *what;
-        std::function<void(Proc &)> fault;
-        uint32_t status;
-        uint64_t ticks;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, std::function<void(Proc &)>, uint32_t, uint64_t> cases[] = {
         {"idle", [](Proc &) {}, 0, 0},
         {"busy for 3 polls before", [](Proc &p) { p.holdBusy(3); }, 0, 300},
         {"busy for ever", [](Proc &p) { p.holdBusy(Proc::kForever); }, kTimeout, 1000 + 100},
@@ -59,17 +54,17 @@ TEST_F(MailboxTest, BusyRefusedAndWaits) {
         {"refused", [](Proc &p) { p.refuse(1); }, kRefusedCmd, 0},
     };
     const uint32_t para[4] = {9, 0, 0, 0};
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto &[what, fault, status, ticks] : cases) {
+        SCOPED_TRACE(what);
         proc().holdBusy(0);
         proc().setCommandBusy(0);
         proc().refuse(0);
         proc().clearCommands();
-        c.fault(proc());
+        fault(proc());
         VQ6192_Platform_ResetVirtualTime();
-        EXPECT_EQ(VQ6192_utlRippCmd(kChip, 2, para), c.status);
+        EXPECT_EQ(VQ6192_utlRippCmd(kChip, 2, para), status);
         EXPECT_EQ(proc().commands().size(), 1u) << "the command is written even after a busy time-out";
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), c.ticks * kTickUs + 1);
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), ticks * kTickUs + 1);
         EXPECT_EQ(model.peek(0x4440) & (1u << 13), 0u) << "start bit back to 0";
     }
 }
