@@ -140,12 +140,7 @@ TEST_F(ConnTest, AStepFailingMidwayLeavesTheEarlierSteps) {
                   (V{step > 1 ? 0xFEDCu : 0u, step > 2, step > 3 ? 8191u : 0u, step > 4 ? 0x2BFu : 0u,
                      step > 5 ? 77u : 0u, step > 6, step > 7, 0}));
     }
-    struct Other {
-        uint32_t command;
-        uint16_t tag;
-        const char *message;
-    };
-    const Other others[] = {
+    const std::tuple<uint32_t, uint16_t, const char *> others[] = {
         {7, 0, "AddAtmFwdConn: Set VCX"},     {9, 0, "AddAtmFwdConn: Set SPCT"},
         {11, 0, "AddAtmFwdConn: Set LPCT"},   {13, 2, "AddAtmLocalConn: Set LPCT"},
         {15, 2, "AddAtmLocalConn: Set SPCT"},

@@ -122,23 +122,17 @@ TEST_F(OamTest, FaultManagementCells) {
 }
 
 TEST_F(OamTest, EachCellKindIsPushedWordByWord) {
-    struct Case {
-        const char *name;
-        uint32_t (*insert)(uint32_t, uint32_t, uint32_t, uint32_t);
-        uint8_t func;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, decltype(&VQ6192_ATM_InsertAISCell), uint8_t> cases[] = {
         {"AIS", VQ6192_ATM_InsertAISCell, 0x10},
         {"RDI", VQ6192_ATM_InsertRDICell, 0x11},
-        {"CC", VQ6192_ATM_InsertCCCell, 0x14},
-    };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
+        {"CC", VQ6192_ATM_InsertCCCell, 0x14}};
+    for (const auto &[name, insert, func] : cases) {
+        SCOPED_TRACE(name);
         VQ6192_ATM_SetOamFifoClear(kChip, 1);
-        ASSERT_EQ(k.insert(kChip, 8191, 1, 1), 0u);
-        EXPECT_EQ(atm().inserted(), fifoWords(8191, oamCell(0x08, k.func)));
+        ASSERT_EQ(insert(kChip, 8191, 1, 1), 0u);
+        EXPECT_EQ(atm().inserted(), fifoWords(8191, oamCell(0x08, func)));
         model.clearTrace();
-        EXPECT_EQ((V32{k.insert(kChip, 8192, 1, 1), k.insert(kChip, 1, 0, 1)}), V32(2, kPara));
+        EXPECT_EQ((V32{insert(kChip, 8192, 1, 1), insert(kChip, 1, 0, 1)}), V32(2, kPara));
         EXPECT_TRUE(model.trace().empty());
     }
     VQ6192_ATM_SetOamFifoClear(kChip, 1);

@@ -131,20 +131,17 @@ TEST_F(PortTest, LinePortLoop) {
 TEST_F(PortTest, PortEnablesAndAttributes) {
     fillEntry(kLpct, 335, 15);
     fillEntry(kSpct, 2047, 12);
-    struct Case {
-        uint32_t port, side, bit;
-        uint32_t sel;
-        uint64_t all;
-    };
-    for (const Case &k : {Case{335, 0, 3, kLpct, 0x7FFF}, Case{2047, 1, 2, kSpct, 0xFFF}}) {
-        ASSERT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, k.port, k.side, 0), 0u);
-        EXPECT_EQ(bits(k.sel, k.port, 0, 16), k.all & ~(1ull << k.bit));
+    using Case = std::tuple<uint32_t, uint32_t, uint32_t, uint32_t, uint64_t>;
+    for (const auto &[port, side, bit, sel, all] :
+         {Case{335, 0, 3, kLpct, 0x7FFF}, Case{2047, 1, 2, kSpct, 0xFFF}}) {
+        ASSERT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, port, side, 0), 0u);
+        EXPECT_EQ(bits(sel, port, 0, 16), all & ~(1ull << bit));
         uint8_t en = 1;
-        EXPECT_EQ(VQ6192_ATM_GetAtmPortEnStat(kChip, k.port, k.side, &en), 0u);
+        EXPECT_EQ(VQ6192_ATM_GetAtmPortEnStat(kChip, port, side, &en), 0u);
         EXPECT_EQ(en, 0);
-        ASSERT_EQ(VQ6192_ATM_SetAtmPortType(kChip, k.port, k.side, 0), 0u);
-        const uint32_t attr = k.side == 0 ? 2 : 1;
-        EXPECT_EQ(bits(k.sel, k.port, 0, 16), k.all & ~(1ull << k.bit) & ~(1ull << attr));
+        ASSERT_EQ(VQ6192_ATM_SetAtmPortType(kChip, port, side, 0), 0u);
+        const uint32_t attr = side == 0 ? 2 : 1;
+        EXPECT_EQ(bits(sel, port, 0, 16), all & ~(1ull << bit) & ~(1ull << attr));
     }
     model.clearTrace();
     capture.clear();

@@ -176,15 +176,8 @@ TEST_F(Pwe3Test, RemoveClearsEntriesAndLabelEvenWhenDeleteHangs) {
 }
 
 TEST_F(Pwe3Test, FieldSettersChangeOnlyTheirField) {
-    struct Case {
-        const char *name;
-        uint32_t (*set)(uint32_t chip);
-        uint32_t sel;
-        uint32_t index;
-        uint32_t width;   // entry width, pre-filled with ones
-        uint64_t expect;  // entry after the write
-    };
-    const Case cases[] = {
+    // The setter, the entry it changes, its width (pre-filled with ones) and its bits after the write.
+    const std::tuple<const char *, uint32_t (*)(uint32_t), uint32_t, uint32_t, uint32_t, uint64_t> cases[] = {
         {"mode 1", [](uint32_t c) { return VQ6192_ATM_SetAtmPwEncpMode(c, 3, 1); }, kPwCfg, 3, 4, 0x7},
         {"control word off in N:1 mode 3", [](uint32_t c) { return VQ6192_ATM_SetAtmPwCWEn(c, 3, 0); },
          kPwCfg, 3, 4, 0xD},
@@ -213,12 +206,12 @@ TEST_F(Pwe3Test, FieldSettersChangeOnlyTheirField) {
         {"UBR priority", [](uint32_t c) { return VQ6192_ATM_SetPwPriTemplate(c, 31, 5, 6); }, kPri, 31, 15,
          0x7FFE},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
-        fillEntry(k.sel, k.index, k.width);
+    for (const auto &[name, set, sel, index, width, after] : cases) {
+        SCOPED_TRACE(name);
+        fillEntry(sel, index, width);
         fillEntry(kPwTxMng, 3, 30);
-        ASSERT_EQ(k.set(kChip), 0u);
-        EXPECT_EQ(bits(k.sel, k.index, 0, k.width), k.expect);
+        ASSERT_EQ(set(kChip), 0u);
+        EXPECT_EQ(bits(sel, index, 0, width), after);
     }
 }
 

@@ -1,5 +1,7 @@
 // ATM counters, alarms and cell capture: which counter sits where, read-clear, the capture match
 // registers, the capture polls and the FIFO drain.
+#include <tuple>
+
 #include "atm/atm_fixture.h"
 #include "vq6192/sim/atm_pwe3.h"
 
@@ -34,18 +36,16 @@ class StatsTest : public AtmTest {
 };
 
 TEST_F(StatsTest, PortCountersClearWhenRead) {
-    struct Case {
-        uint32_t port, side, sel;
-    };
-    for (const Case &k : {Case{335, 0, kLpcc}, Case{0, 0, kLpcc}, Case{2047, 1, kSpcc}}) {
-        SCOPED_TRACE(k.port);
-        setBits(k.sel, k.port, 0, 32, 0x0BADCAFE);   // transmitted
-        setBits(k.sel, k.port, 32, 32, 0xFEEDF00D);  // received
+    using Case = std::tuple<uint32_t, uint32_t, uint32_t>;
+    for (const auto &[port, side, sel] : {Case{335, 0, kLpcc}, Case{0, 0, kLpcc}, Case{2047, 1, kSpcc}}) {
+        SCOPED_TRACE(port);
+        setBits(sel, port, 0, 32, 0x0BADCAFE);   // transmitted
+        setBits(sel, port, 32, 32, 0xFEEDF00D);  // received
         uint32_t rcc = 0, tcc = 0;
-        ASSERT_EQ(VQ6192_ATM_GetAtmPortStat(kChip, k.port, k.side, &rcc, &tcc), 0u);
+        ASSERT_EQ(VQ6192_ATM_GetAtmPortStat(kChip, port, side, &rcc, &tcc), 0u);
         EXPECT_EQ(rcc, 0xFEEDF00Du);
         EXPECT_EQ(tcc, 0x0BADCAFEu);
-        ASSERT_EQ(VQ6192_ATM_GetAtmPortStat(kChip, k.port, k.side, &rcc, &tcc), 0u);
+        ASSERT_EQ(VQ6192_ATM_GetAtmPortStat(kChip, port, side, &rcc, &tcc), 0u);
         EXPECT_EQ(rcc + tcc, 0u) << "second read";
     }
     setBits(kSpcc, 7, 32, 32, 9);
@@ -152,21 +152,17 @@ TEST_F(StatsTest, AlarmsAndDeleteStatus) {
     ASSERT_EQ(VQ6192_ATM_GetAtmTabRamBusy(kChip, &busy), 0u);
     EXPECT_EQ(busy, 1);
     // The status field reads 3 once the chip has deleted the queue a delete command named.
-    struct Case {
-        uint16_t stored;
-        bool deleted;
-        uint8_t del, type;
-        uint16_t port;
-    };
-    for (const Case &k : {Case{0x1E00 | 0x1FF, true, 1, 0xF, 0x1FF}, Case{0x0200 | 5, false, 0, 1, 5},
-                          Case{0x0400 | 0x150, true, 1, 2, 0x150}, Case{0xC000, false, 0, 0, 0}}) {
-        SCOPED_TRACE(k.stored);
-        model.busWrite(0xA860, k.deleted ? 0xC000 : 0);
-        model.poke(0xA862, k.stored);
+    using Case = std::tuple<uint16_t, bool, uint8_t, uint8_t, uint16_t>;
+    for (const auto &[stored, deleted, wantDel, wantType, wantPort] :
+         {Case{0x1E00 | 0x1FF, true, 1, 0xF, 0x1FF}, Case{0x0200 | 5, false, 0, 1, 5},
+          Case{0x0400 | 0x150, true, 1, 2, 0x150}, Case{0xC000, false, 0, 0, 0}}) {
+        SCOPED_TRACE(stored);
+        model.busWrite(0xA860, deleted ? 0xC000 : 0);
+        model.poke(0xA862, stored);
         uint8_t del = 9, type = 99;
         uint16_t port = 999;
         ASSERT_EQ(VQ6192_ATM_GetVpcDelAck(kChip, &del, &type, &port), 0u);
-        EXPECT_EQ((V{del, type, port}), (V{k.del, k.type, k.port}));
+        EXPECT_EQ((V{del, type, port}), (V{wantDel, wantType, wantPort}));
     }
 }
 
@@ -235,17 +231,15 @@ TEST_F(StatsTest, CellCaptureWithoutCellAndRefusals) {
     EXPECT_EQ(out[0], 0x42);
     EXPECT_EQ(pwe3().fifoWords(0), 0u);
 
-    struct Case {
-        uint32_t mode, index, matchVci, vpi;
-        bool traced;
-    };
+    using Case = std::tuple<uint32_t, uint32_t, uint32_t, uint32_t, bool>;
     model.clearTrace();
-    for (const Case &k : {Case{0, 8193, 0, 0, true}, Case{1, 336, 0, 0, true}, Case{2, 2048, 0, 0, true},
-                          Case{3, 2048, 0, 0, true}, Case{1, 1, 1, 4096, true}, Case{3, 1, 2, 0, true},
-                          Case{4, 0, 0, 0, false}}) {
+    for (const auto &[mode, index, matchVci, vpi, paraErr] :
+         {Case{0, 8193, 0, 0, true}, Case{1, 336, 0, 0, true}, Case{2, 2048, 0, 0, true},
+          Case{3, 2048, 0, 0, true}, Case{1, 1, 1, 4096, true}, Case{3, 1, 2, 0, true},
+          Case{4, 0, 0, 0, false}}) {
         capture.clear();
-        EXPECT_EQ(VQ6192_ATM_CaptureAtmCell(kChip, out, k.mode, k.index, k.matchVci, k.vpi, 0), kPara);
-        EXPECT_EQ(traced("ParaErr. \r\n"), k.traced);
+        EXPECT_EQ(VQ6192_ATM_CaptureAtmCell(kChip, out, mode, index, matchVci, vpi, 0), kPara);
+        EXPECT_EQ(traced("ParaErr. \r\n"), paraErr);
     }
     EXPECT_EQ(VQ6192_ATM_CaptureAtmCell(kChip, nullptr, 0, 0, 0, 0, 0), kPara);
     EXPECT_TRUE(model.trace().empty());

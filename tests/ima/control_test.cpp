@@ -102,16 +102,14 @@ TEST_F(ControlTest, TimeTickLoopsAndInterruptEnables) {
     uint32_t loop = 0;
     ASSERT_EQ(VQ6192_IMA_GetImaLoop(kChip, &loop), 0u);
     EXPECT_EQ(loop, 0xAu);
-    struct Level {
-        uint32_t level;
-        uint32_t addr;
-        uint16_t after;
-    };
-    for (const Level &l : {Level{1, 0x442C, 0xFC03}, Level{2, 0x4426, 0xFFFF}, Level{4, 0x4428, 0xFC0F},
-                           Level{8, 0x442A, 0xFFFF}}) {
-        model.poke(l.addr, 0xFC00);
-        ASSERT_EQ(VQ6192_IMA_SetImaIntEnable(kChip, l.level, 0xFFFF, 1), 0u);
-        EXPECT_EQ(model.peek(l.addr), l.level == 2 || l.level == 8 ? 0xFFFFu : l.after) << l.level;
+    // Level, enable register, its value after enabling every source.
+    for (const auto &l : {std::array<uint32_t, 3>{1, 0x442C, 0xFC03},
+                          {2, 0x4426, 0xFFFF},
+                          {4, 0x4428, 0xFC0F},
+                          {8, 0x442A, 0xFFFF}}) {
+        model.poke(l[1], 0xFC00);
+        ASSERT_EQ(VQ6192_IMA_SetImaIntEnable(kChip, l[0], 0xFFFF, 1), 0u);
+        EXPECT_EQ(model.peek(l[1]), l[2]) << l[0];
     }
     expectRefused("empty mask", kPara, [] { return VQ6192_IMA_SetImaIntEnable(kChip, 1, 0, 1); });
     expectRefused(
