@@ -14,24 +14,9 @@
 namespace atmtest {
 
 // Select codes of the ATM tables in the chip's ATM access block.
-enum Sel : uint32_t {
-    kVct = 0,
-    kPolCfg = 4,
-    kLpct = 5,
-    kSpct = 7,
-    kOamSt = 9,
-    kTcam = 10,
-    kBmPvc = 16,
-    kBmTh = 17,
-    kBmFifo = 19,
-    kLinkQm = 48,
-    kShVc = 49,
-    kRtVbrShap = 50,
-    kNrtVbrShap = 51,
-    kUbrPlusShap = 52,
-    kEbs = 56,
-    kPortQm = 58,
-};
+constexpr uint32_t kVct = 0, kPolCfg = 4, kLpct = 5, kSpct = 7, kOamSt = 9, kTcam = 10, kBmPvc = 16,
+                   kBmTh = 17, kBmFifo = 19, kLinkQm = 48, kShVc = 49, kRtVbrShap = 50, kNrtVbrShap = 51,
+                   kUbrPlusShap = 52, kEbs = 56, kPortQm = 58;
 
 constexpr uint32_t kAtmBlock = 0x5000;
 // Chip 3: (3 << 24) + (ATM module 2 << 16) + error 1.

@@ -12,15 +12,8 @@ using namespace atmtest;
 using vq6192::sim::AtmPwe3Block;
 using vq6192::sim::BusAccess;
 
-enum PwSel : uint32_t {
-    kPwCfg = 32,
-    kPwTxMng = 33,
-    kPwTxSt = 34,
-    kPwRxMng = 35,
-    kPwRxSt = 36,
-    kPktBuf = 37,
-    kPri = 38
-};
+constexpr uint32_t kPwCfg = 32, kPwTxMng = 33, kPwTxSt = 34, kPwRxMng = 35, kPwRxSt = 36, kPktBuf = 37,
+                   kPri = 38;
 constexpr uint32_t kStep = 0x03020004;  // chip 3, ATM, error 4
 
 using RegWrite = std::pair<uint32_t, uint32_t>;

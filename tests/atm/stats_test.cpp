@@ -10,7 +10,7 @@ namespace {
 using namespace atmtest;
 using vq6192::sim::AtmPwe3Block;
 
-enum StatSel : uint32_t { kTrcc = 1, kTtcc = 2, kLpcc = 6, kSpcc = 8, kBmPvcSta = 18, kBmFifoSta = 20 };
+constexpr uint32_t kTrcc = 1, kTtcc = 2, kLpcc = 6, kSpcc = 8, kBmPvcSta = 18, kBmFifoSta = 20;
 
 class StatsTest : public AtmTest {
   protected:

@@ -30,36 +30,12 @@ constexpr uint64_t kTickUs = 10000;
 constexpr uint32_t kPpB = Proc::kProcBlock, kRxB = Proc::kRxBlock, kTxB = Proc::kTxBlock,
                    kTcB = Proc::kTcBlock;
 
-// Select codes of the IMA tables in their access blocks.
-enum PpSel : uint32_t { kTxc = 0, kRxc = 1, kGpc = 2, kTxs = 3, kRxs = 4, kGps = 5, kEvent = 6, kIcpFwd = 7 };
-enum RxSel : uint32_t {
-    kLkCnt = 0,
-    kRxGpc = 2,
-    kIcpVld = 3,
-    kIcpBuf = 5,
-    kDelay = 9,
-    kGpCnt = 12,
-    kScvc = 13
-};
-enum TxSel : uint32_t {
-    kTxGps = 0,
-    kTxIcp = 1,
-    kTxGpc = 2,
-    kMap = 3,
-    kTxLks = 4,
-    kTxLkc = 5,
-    kInGrp = 6,
-    kDepth = 7
-};
-enum TcSel : uint32_t {
-    kRxCfg = 0,
-    kRxSta0 = 1,
-    kRxSta1 = 2,
-    kRxSta2 = 3,
-    kTxCfg = 6,
-    kTxSta = 7,
-    kTxImaif = 8
-};
+// Select codes of the IMA tables, one line per access block: processor, receive, transmit, TC.
+constexpr uint32_t kTxc = 0, kRxc = 1, kGpc = 2, kTxs = 3, kRxs = 4, kGps = 5, kEvent = 6, kIcpFwd = 7;
+constexpr uint32_t kLkCnt = 0, kRxGpc = 2, kIcpVld = 3, kIcpBuf = 5, kDelay = 9, kGpCnt = 12, kScvc = 13;
+constexpr uint32_t kTxGps = 0, kTxIcp = 1, kTxGpc = 2, kMap = 3, kTxLks = 4, kTxLkc = 5, kInGrp = 6,
+                   kDepth = 7;
+constexpr uint32_t kRxCfg = 0, kRxSta0 = 1, kRxSta1 = 2, kRxSta2 = 3, kTxCfg = 6, kTxSta = 7, kTxImaif = 8;
 
 class ImaTest : public vqtest::ChipTest {
   protected:
