@@ -52,13 +52,11 @@ TEST_F(HwDiagTest, DumpWritesTheModuleToItsOwnFile) {
     EXPECT_NE(text().find("dump 'log/Dump311.log' finished with a success\r\n"), std::string::npos);
     VQ6192_Platform_SetFileHooks(nullptr);
 
-    // Header, then the DDR2C register block alone: one range of registers 0x00..0xC9.
+    // Header naming the file, then the DDR2C register block alone: one range of registers 0x00..0xC9 (the
+    // file layout itself is the chip dump's own test).
     const std::vector<uint8_t> &f = files.file("log/Dump307.log");
     ASSERT_EQ(f.size(), 48u + 24 + 6 + 2 * 0xCA);
-    EXPECT_EQ(f[0], 0x7E);
     EXPECT_EQ(std::string(f.begin() + 1, f.begin() + 26), "DUMPlog/Dump307.logVQ6192");
-    EXPECT_EQ(f[26], 0);
-    EXPECT_EQ(f[48], 0xF0);
     EXPECT_EQ(std::string(f.begin() + 49, f.begin() + 54), "DDR2C");
 }
 

@@ -35,30 +35,37 @@ TEST_F(ParamsTest, RunningGroupParameters) {
     setBits(kPpB, kGpc, g * 16 + 2, 0, 32, 0x00000000);
     setBits(kTxB, kTxGpc, g, 0, 32, 0x0FFFFF01);
     setBits(kRxB, kRxGpc, g, 0, 32, 0xFFFFFC00);
-    const std::tuple<const char *, IMA_GRP_PARAM, IMA_GRP_PARAM, uint32_t, uint32_t, uint32_t, uint32_t,
-                     uint32_t>
-        cases[] = {
-            {"third byte alone rewrites word 0 unchanged", param({0, 0, 1}), param({1, 1, 1, 1}), 0x01C80000,
-             0xFFFFFFFF, 0, 0x0FFFFF01, 0xFFFFFC00},
-            {"label", param({0, 0, 0, 1}), param({0, 0, 0, 3}), 0x03C80000, 0xFFFFFFFF, 0, 0x0FFFFF03,
-             0xFFFFFC00},
-            {"symmetry", param({0, 1}), param({0, 0}), 0x03080000, 0xFFFFFFFF, 0, 0x0FFFFF03, 0xFFFFFC00},
-            {"transmit M and clock", param({1, 0, 0, 0, 0, 0, 0, 0, 0, 1}),
-             param({0, 0, 0, 0, 0, 0, 0, 0, 0, 2}), 0x03080000, 0xFFBFFFBF, 0, 0x0FFFF703, 0xFFFFFC00},
-            {"receive id", param({0, 0, 0, 0, 1, 0, 0, 1}), param({0, 0, 0, 0, 1, 0x5A, 0, 9}), 0x03080000,
-             0xFFBFFFBF, 0xAD012000, 0x0FFFF703, 0xFFFFFC00},
-            {"delay", param({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}),
-             param({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 700}), 0x03080000, 0xFFBFFFBF, 0xAD012000, 0x0FFFF703,
-             0xFFFFFEBC},
-        };
-    for (const auto &[what, mask, value, gpc0, gpc1, gpc2, txgpc, rxgpc] : cases) {
+    using W = std::vector<uint32_t>;
+    // Mask, value, then processor words 0..2, transmit and receive group configuration after the change.
+    const std::tuple<const char *, IMA_GRP_PARAM, IMA_GRP_PARAM, W> cases[] = {
+        {"third byte alone rewrites word 0 unchanged",
+         param({0, 0, 1}),
+         param({1, 1, 1, 1}),
+         {0x01C80000, 0xFFFFFFFF, 0, 0x0FFFFF01, 0xFFFFFC00}},
+        {"label",
+         param({0, 0, 0, 1}),
+         param({0, 0, 0, 3}),
+         {0x03C80000, 0xFFFFFFFF, 0, 0x0FFFFF03, 0xFFFFFC00}},
+        {"symmetry", param({0, 1}), param({0, 0}), {0x03080000, 0xFFFFFFFF, 0, 0x0FFFFF03, 0xFFFFFC00}},
+        {"transmit M and clock",
+         param({1, 0, 0, 0, 0, 0, 0, 0, 0, 1}),
+         param({0, 0, 0, 0, 0, 0, 0, 0, 0, 2}),
+         {0x03080000, 0xFFBFFFBF, 0, 0x0FFFF703, 0xFFFFFC00}},
+        {"receive id",
+         param({0, 0, 0, 0, 1, 0, 0, 1}),
+         param({0, 0, 0, 0, 1, 0x5A, 0, 9}),
+         {0x03080000, 0xFFBFFFBF, 0xAD012000, 0x0FFFF703, 0xFFFFFC00}},
+        {"delay",
+         param({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}),
+         param({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 700}),
+         {0x03080000, 0xFFBFFFBF, 0xAD012000, 0x0FFFF703, 0xFFFFFEBC}},
+    };
+    for (const auto &[what, mask, value, after] : cases) {
         SCOPED_TRACE(what);
         ASSERT_EQ(VQ6192_IMA_SetImaGrpParam(kChip, g, 0, &mask, &value), 0u);
-        EXPECT_EQ(word(kPpB, kGpc, g * 16 + 0), gpc0);
-        EXPECT_EQ(word(kPpB, kGpc, g * 16 + 1), gpc1);
-        EXPECT_EQ(word(kPpB, kGpc, g * 16 + 2), gpc2);
-        EXPECT_EQ(word(kTxB, kTxGpc, g), txgpc);
-        EXPECT_EQ(word(kRxB, kRxGpc, g), rxgpc);
+        EXPECT_EQ((W{word(kPpB, kGpc, g * 16 + 0), word(kPpB, kGpc, g * 16 + 1), word(kPpB, kGpc, g * 16 + 2),
+                     word(kTxB, kTxGpc, g), word(kRxB, kRxGpc, g)}),
+                  after);
     }
     const IMA_GRP_PARAM none{};
     expectRefused("no value record", kPara,
@@ -66,13 +73,12 @@ TEST_F(ParamsTest, RunningGroupParameters) {
 }
 
 TEST_F(ParamsTest, Vc4PortRemoval) {
-    model.poke(0x4C24, 0xFFFF);
-    model.poke(0x5028, 0xFFFF);
+    pokes({{0x4C24, 0xFFFF}, {0x5028, 0xFFFF}});
     setBits(kTxB, kInGrp, 170, 0, 256, 0);
     setBits(kTxB, kInGrp, 170, 168, 3, 7);
     ASSERT_EQ(VQ6192_IMA_DelVc4(kChip, 2, 9), 0u);
-    EXPECT_EQ(model.peek(0x4C24), 0xFDFFu) << "only the enable bit cleared";
-    EXPECT_EQ(model.peek(0x5028), 0xFFFBu);
+    EXPECT_EQ(peeks({0x4C24, 0x5028}), (std::vector<uint32_t>{0xFDFF, 0xFFFB}))
+        << "only the enable bits cleared";
     EXPECT_EQ(bits(kTxB, kInGrp, 170, 168, 3), 3u) << "link 170 (bit 2 of the three) leaves group 170";
     ASSERT_EQ(proc().commands().size(), 84u);
     EXPECT_EQ(proc().commands().front(), (Proc::Command{13, 168, 0, 0, 0}));
