@@ -208,16 +208,17 @@ TEST_F(GroupTest, AddLinksAroundStartupAndLasr) {
         ASSERT_EQ(proc().commands().size(), commands);
         EXPECT_EQ(proc().commands().back(), (Proc::Command{8, kGrp, 1u << 4, 1u << 4, 0}));
         EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs() / kTickUs, ticks);
-        EXPECT_EQ(bits(kPpB, kGps, kGrp * 8, 53, 2), gwp == 1 ? 1u : 0u);
-        EXPECT_EQ(word(kPpB, kGpc, kGrp * 16 + 3), 0xFFFFFFFFu) << "Autolasren set again";
-        if (gwp == 2) {
-            EXPECT_EQ(bits(kPpB, kGps, kGrp * 8 + 2, 0, 32), 0u);
-            EXPECT_EQ(bits(kPpB, kGps, kGrp * 8 + 4, 32, 32), 0u);
-        }
+        // Gwpactive, Autolasren set again, and Txlasract and Rxlasract cleared when a LASR was running.
+        const std::vector<uint64_t> got = {bits(kPpB, kGps, kGrp * 8, 53, 2), word(kPpB, kGpc, kGrp * 16 + 3),
+                                           bits(kPpB, kGps, kGrp * 8 + 2, 0, 32),
+                                           bits(kPpB, kGps, kGrp * 8 + 4, 32, 32)};
+        EXPECT_EQ(got, (std::vector<uint64_t>{gwp == 1 ? 1u : 0u, 0xFFFFFFFF, gwp == 2 ? 0u : 0xFFFFFFFFu,
+                                              gwp == 2 ? 0u : 0xFFFFFFFFu}));
     }
-    EXPECT_EQ(bits(kTxB, kMap, kGrp * 32 + 4, 0, 9), 100u);
-    EXPECT_EQ(word(kPpB, kTxc, 100), 0xC0052000u);
-    EXPECT_EQ(bits(kPpB, kGpc, kGrp * 16 + 5 + 1, 9, 9), 100u) << "position 4: word 6, slot 1";
+    // LID 4 maps link 100; position 4 of the receive table: word 6, slot 1.
+    EXPECT_EQ((std::vector<uint64_t>{bits(kTxB, kMap, kGrp * 32 + 4, 0, 9), word(kPpB, kTxc, 100),
+                                     bits(kPpB, kGpc, kGrp * 16 + 5 + 1, 9, 9)}),
+              (std::vector<uint64_t>{100, 0xC0052000, 100}));
 
     expectRefused("no receive link", kPara,
                   [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 0, 1, rx, tx, &cfg); });
@@ -267,28 +268,13 @@ TEST_F(GroupTest, ConfigurationReadBack) {
     std::memcpy(tx, reinterpret_cast<const uint8_t *>(&out) + offsetof(IMA_GRP_CFG, pstTxLinks), sizeof tx);
     std::memcpy(rx, reinterpret_cast<const uint8_t *>(&out) + offsetof(IMA_GRP_CFG, pusRxLinks), sizeof rx);
     // The stuff advance 4 is stored as bit 0 and read back as that bit.
+    EXPECT_EQ((std::vector<uint32_t>{en, out.byImaOamLabel, out.byTxImaId, out.byRxImaId, out.byRxM,
+                                     out.byTxM, out.byPRx, out.byPTx, out.wMaxDelay, out.byStuffAdvMd}),
+              (std::vector<uint32_t>{3, 3, 0x42, 0x21, 0xF, 1, 2, 2, 500, 0}));
     EXPECT_EQ(
-        (std::vector<uint32_t>{en,
-                               out.byImaOamLabel,
-                               out.byTxImaId,
-                               out.byRxImaId,
-                               out.byRxM,
-                               out.byTxM,
-                               out.byPRx,
-                               out.byPTx,
-                               out.wMaxDelay,
-                               out.byStuffAdvMd,
-                               out.wTxTrlPhy,
-                               out.wTxVphy,
-                               out.byStuffMd,
-                               out.wNumTxLinks,
-                               out.wNumRxLinks,
-                               tx[1].ucLid,
-                               tx[1].ucIcpOffset,
-                               tx[1].usPhyLink,
-                               rx[0],
-                               rx[1]}),
-        (std::vector<uint32_t>{3, 3, 0x42, 0x21, 0xF, 1, 2, 2, 500, 0, 47, kGrp, 2, 2, 2, 2, 7, 47, 10, 47}));
+        (std::vector<uint32_t>{out.wTxTrlPhy, out.wTxVphy, out.byStuffMd, out.wNumTxLinks, out.wNumRxLinks,
+                               tx[1].ucLid, tx[1].ucIcpOffset, tx[1].usPhyLink, rx[0], rx[1]}),
+        (std::vector<uint32_t>{47, kGrp, 2, 2, 2, 2, 7, 47, 10, 47}));
 }
 
 }  // namespace
