@@ -229,15 +229,8 @@ TEST_F(Pwe3Test, StatisticsRecordAndReadClear) {
               {{0, 32, 0x89ABCDEF}, {32, 16, 0x7777}, {48, 5, 0x15}, {53, 17, 0x1ABCD}, {70, 16, 0x1234}});
     // Receive entry: fraction 0x11, disorder 0x22, loss 0x33, packets 0x44556677, error 1, reset 0x88,
     // last 0x99AA, expected 0xBBCC.
-    setFields(kPwRxSt, 100,
-              {{0, 16, 0x11},
-               {16, 16, 0x22},
-               {32, 16, 0x33},
-               {48, 32, 0x44556677},
-               {80, 1, 1},
-               {81, 8, 0x88},
-               {89, 16, 0x99AA},
-               {105, 16, 0xBBCC}});
+    setFields(kPwRxSt, 100, {{0, 16, 0x11}, {16, 16, 0x22}, {32, 16, 0x33}, {48, 32, 0x44556677}});
+    setFields(kPwRxSt, 100, {{80, 1, 1}, {81, 8, 0x88}, {89, 16, 0x99AA}, {105, 16, 0xBBCC}});
     model.poke(0xA6E0, 0x0102);
     model.poke(0xA6E2, 0x0304);
     model.poke(0xA008, 0xFFE0);

@@ -104,17 +104,8 @@ class ConnViewTest : public HwDiagTest {
         setFields(kTcam, l.vcx, {{0, 16, 0x1234}, {16, 12, 0xABC}, {28, 12, l.tcamPort}});
         // OAM bits 46..51: Seg, CC source and sink, source end-to-end.
         setFields(kVct, l.vcx,
-                  {{0, 1, 1},
-                   {1, 16, 0xFEDC},
-                   {17, 8, 0xA7},
-                   {25, 4, 0x5},
-                   {29, 11, 300},
-                   {40, 1, l.dir},
-                   {41, 1, 1},
-                   {46, 6, 0b101110},
-                   {52, 1, 1},
-                   {53, 13, 0x1234},
-                   {66, 3, 3}});
+                  {{0, 1, 1}, {1, 16, 0xFEDC}, {17, 8, 0xA7}, {25, 4, 0x5}, {29, 11, 300}, {40, 1, l.dir}});
+        setFields(kVct, l.vcx, {{41, 1, 1}, {46, 6, 0b101110}, {52, 1, 1}, {53, 13, 0x1234}, {66, 3, 3}});
         setBits(l.dir ? kLpct : kSpct, 300, l.dir ? 2 : 1, 1, l.lineNni);
         setBits(kLinkQm, l.vcx, 0, 13, 77);
         setBits(kBmPvc, l.vcx, 0, 10, 63 | 1u << 7 | 1u << 9);
