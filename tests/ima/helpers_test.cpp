@@ -41,18 +41,17 @@ TEST_F(HelpersTest, EntryIndexesByNumberAndWord) {
 TEST_F(HelpersTest, LinkVectors) {
     const IMA_TX_LINK tx[3] = {{0, 0, 200}, {31, 0, 5}, {7, 0, 9}};
     const uint16_t rx[3] = {3, 40, 31};
-    uint32_t vec = 0;
-    ASSERT_EQ(VQ6192_setupTxLinksVec(kChip, 3, tx, &vec), 0u);
-    EXPECT_EQ(vec, 0x80000081u);
-    ASSERT_EQ(VQ6192_setupRxLinksVec(kChip, 3, rx, tx, 1, &vec), 0u);
-    EXPECT_EQ(vec, 0x80000081u) << "symmetric configuration: the LIDs of the transmit records";
-    ASSERT_EQ(VQ6192_setupRxLinksVec(kChip, 3, rx, tx, 2, &vec), 0u);
-    EXPECT_EQ(vec, 0x80000008u) << "asymmetric: link numbers, 40 sets no bit";
-    uint32_t lid = 9;
-    ASSERT_EQ(VQ6192_getLidFromPhy(kChip, 9, 3, tx, &lid), 0u);
-    EXPECT_EQ(lid, 7u);
-    ASSERT_EQ(VQ6192_getLidFromPhy(kChip, 10, 3, tx, &lid), 0u);
-    EXPECT_EQ(lid, 0u) << "not found: 0";
+    // Transmit LIDs; receive vector of a symmetric group (the LIDs of the transmit records) and of an
+    // asymmetric one (link numbers, 40 sets no bit); the LID of link 9, and 0 for a link not found.
+    uint32_t v[5] = {0, 0, 0, 9, 9};
+    EXPECT_EQ(
+        (std::vector<uint32_t>{
+            VQ6192_setupTxLinksVec(kChip, 3, tx, &v[0]), VQ6192_setupRxLinksVec(kChip, 3, rx, tx, 1, &v[1]),
+            VQ6192_setupRxLinksVec(kChip, 3, rx, tx, 2, &v[2]), VQ6192_getLidFromPhy(kChip, 9, 3, tx, &v[3]),
+            VQ6192_getLidFromPhy(kChip, 10, 3, tx, &v[4])}),
+        std::vector<uint32_t>(5, 0));
+    EXPECT_EQ(std::vector<uint32_t>(v, v + 5),
+              (std::vector<uint32_t>{0x80000081, 0x80000081, 0x80000008, 7, 0}));
 }
 
 TEST_F(HelpersTest, CaptureSubModes) {
@@ -79,27 +78,18 @@ TEST_F(HelpersTest, CaptureSubModes) {
 }
 
 TEST_F(HelpersTest, TcStateRecords) {
-    setBits(kTcB, kRxSta0, 11, 0, 96, 0);
-    setBits(kTcB, kRxSta0, 11, 80, 16, 0xBEEF);
-    setBits(kTcB, kRxSta0, 11, 60, 2, 2);
-    setBits(kTcB, kRxSta0, 11, 0, 8, 0x7A);
-    setBits(kTcB, kRxSta1, 11, 0, 16, 0x0101);
-    setBits(kTcB, kRxSta1, 11, 80, 16, 0xCAFE);
-    setBits(kTcB, kTxSta, 11, 54, 32, 0x12345678);
-    setBits(kTcB, kTxSta, 11, 88, 8, 0x9C);
+    setFields(kTcB, kRxSta0, 11, {{0, 96, 0}, {80, 16, 0xBEEF}, {60, 2, 2}, {0, 8, 0x7A}});
+    setFields(kTcB, kRxSta1, 11, {{0, 16, 0x0101}, {80, 16, 0xCAFE}});
+    setFields(kTcB, kTxSta, 11, {{54, 32, 0x12345678}, {88, 8, 0x9C}});
     uint16_t rx0[15] = {}, rx1[6] = {};
     uint32_t tx[11] = {};
     ASSERT_EQ(VQ6192_IMA_GetTcLinkStatus(kChip, 11, rx0, rx1, nullptr, tx), 0u);
-    EXPECT_EQ(rx0[0], 0xBEEFu) << "wRxScrambleByte0";
-    EXPECT_EQ(rx0[5], 2u) << "wRxCdfsmSt SYNC";
-    EXPECT_EQ(rx0[14], 0x7Au) << "wRxDinDff1";
-    EXPECT_EQ(rx1[0], 0xCAFEu);
-    EXPECT_EQ(rx1[5], 0x0101u) << "wRxOcdCellCnt";
-    EXPECT_EQ(tx[0], 0x9Cu) << "dwHecCrcOut";
-    EXPECT_EQ(tx[3], 0x12345678u) << "dwTxCellSentCnt";
+    // wRxScrambleByte0, wRxCdfsmSt SYNC, wRxDinDff1, the first receive word, wRxOcdCellCnt, dwHecCrcOut,
+    // dwTxCellSentCnt.
+    EXPECT_EQ((std::vector<uint32_t>{rx0[0], rx0[5], rx0[14], rx1[0], rx1[5], tx[0], tx[3]}),
+              (std::vector<uint32_t>{0xBEEF, 2, 0x7A, 0xCAFE, 0x0101, 0x9C, 0x12345678}));
     ASSERT_EQ(VQ6192_IMA_GetTcLinkStatus(kChip, 11, nullptr, rx1, nullptr, tx), 0u);
-    EXPECT_EQ(rx1[5], 0u) << "read-clear";
-    EXPECT_EQ(tx[3], 0u) << "read-clear";
+    EXPECT_EQ((std::vector<uint32_t>{rx1[5], tx[3]}), (std::vector<uint32_t>{0, 0})) << "read-clear";
     expectRefused("no output", kPara,
                   [] { return VQ6192_IMA_GetTcLinkStatus(kChip, 11, nullptr, nullptr, nullptr, nullptr); });
 }
