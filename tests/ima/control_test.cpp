@@ -48,12 +48,11 @@ TEST_F(ControlTest, CommandWrappersSendTheirParameters) {
     EXPECT_EQ(VQ6192_IMA_RunCmd(kChip, 10, std::array<uint32_t, 4>{9, 0, 0, 0}.data()), kPara);
     const uint16_t bad[1] = {336};
     expectRefused(
-        "link 336", kPara, [&] { return VQ6192_IMA_SetImaLinkDefect(kChip, 9, 1, bad, tx, 0, 0); }, true);
+        "link 336", [&] { return VQ6192_IMA_SetImaLinkDefect(kChip, 9, 1, bad, tx, 0, 0); }, true);
     const IMA_TX_LINK lid33[1] = {{33, 0, 1}};
     expectRefused(
-        "LID 33", kPara, [&] { return VQ6192_IMA_SetImaLinkStatus(kChip, 9, 1, 0, rx, lid33, 1, 1, 0); },
-        true);
-    expectRefused("pattern 256", kPara, [] { return VQ6192_IMA_UpdateTestPtn(kChip, 9, 1, 256, 3, 1, 0); });
+        "LID 33", [&] { return VQ6192_IMA_SetImaLinkStatus(kChip, 9, 1, 0, rx, lid33, 1, 1, 0); }, true);
+    expectRefused("pattern 256", [] { return VQ6192_IMA_UpdateTestPtn(kChip, 9, 1, 256, 3, 1, 0); });
 }
 
 TEST_F(ControlTest, ForcedLinkDeletion) {
@@ -111,9 +110,9 @@ TEST_F(ControlTest, TimeTickLoopsAndInterruptEnables) {
         ASSERT_EQ(VQ6192_IMA_SetImaIntEnable(kChip, l[0], 0xFFFF, 1), 0u);
         EXPECT_EQ(model.peek(l[1]), l[2]) << l[0];
     }
-    expectRefused("empty mask", kPara, [] { return VQ6192_IMA_SetImaIntEnable(kChip, 1, 0, 1); });
+    expectRefused("empty mask", [] { return VQ6192_IMA_SetImaIntEnable(kChip, 1, 0, 1); });
     expectRefused(
-        "level 3", kPara, [] { return VQ6192_IMA_SetImaIntEnable(kChip, 3, 1, 1); }, true);
+        "level 3", [] { return VQ6192_IMA_SetImaIntEnable(kChip, 3, 1, 1); }, true);
     setBits(kPpB, kGpc, 12 * 16, 0, 32, 0xFFFFFC00);
     ASSERT_EQ(VQ6192_IMA_SetImaGrpInt(kChip, 12, 0x201, 1), 0u);
     EXPECT_EQ(word(kPpB, kGpc, 12 * 16), 0xFFFFFE01u);
@@ -266,8 +265,7 @@ TEST_F(ControlTest, TcLinkConfigurationAndFifo) {
     EXPECT_EQ((std::vector<uint32_t>{rxb.byRxCdfsmBeta, rxb.dwRxHeader}),
               (std::vector<uint32_t>{6, 0xDEADBEEF}))
         << "beta reads back as delta";
-    expectRefused("no record", kPara,
-                  [&] { return VQ6192_IMA_SetTcLinkParam(kChip, 1, link, nullptr, nullptr); });
+    expectRefused("no record", [&] { return VQ6192_IMA_SetTcLinkParam(kChip, 1, link, nullptr, nullptr); });
 
     uint16_t ts[4], ima[5];
     setBits(kTcB, kTxCfg, 31, 46, 1, 0);

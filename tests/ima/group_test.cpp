@@ -160,8 +160,8 @@ TEST_F(GroupTest, GroupCheckMessages) {
     asym.bySymmetryMd = 2;
     asym.wNumRxLinks = 0;
     EXPECT_EQ(VQ6192_IMA_checkGrpParams(kChip, kGrp, &asym), 0u) << "asymmetric: any receive count";
-    expectRefused("null record", kPara, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, nullptr); });
-    expectRefused("group 336", kPara, [&] { return VQ6192_IMA_AddImaGrp(kChip, 336, &asym); });
+    expectRefused("null record", [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, nullptr); });
+    expectRefused("group 336", [&] { return VQ6192_IMA_AddImaGrp(kChip, 336, &asym); });
 }
 
 TEST_F(GroupTest, AddGroupDrainAndStepFailures) {
@@ -220,10 +220,9 @@ TEST_F(GroupTest, AddLinksAroundStartupAndLasr) {
                                      bits(kPpB, kGpc, kGrp * 16 + 5 + 1, 9, 9)}),
               (std::vector<uint64_t>{100, 0xC0052000, 100}));
 
-    expectRefused("no receive link", kPara,
+    expectRefused("no receive link",
                   [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 0, 1, rx, tx, &cfg); });
-    expectRefused("33 links", kPara,
-                  [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 33, 1, rx, tx, &cfg); });
+    expectRefused("33 links", [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 33, 1, rx, tx, &cfg); });
     const IMA_TX_LINK badOffset[1] = {{4, 64, 100}};
     capture.clear();
     EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 1, 1, rx, badOffset, &cfg), kPara);
@@ -247,9 +246,8 @@ TEST_F(GroupTest, DeleteLinksAndGroup) {
     const std::vector<Proc::Command> expect = {
         {9, kGrp, 1u << 2, 1u << 2, 0}, {9, kGrp, 0, 0, 0}, {1, kGrp, 0, 0, 0}};
     EXPECT_EQ(proc().commands(), expect) << "link 47 has no position bit in an asymmetric group";
-    expectRefused("nothing to delete", kPara,
-                  [&] { return VQ6192_IMA_DelImaLink(kChip, kGrp, 0, 0, rx, tx, 0); });
-    expectRefused("receive link 336", kPara, [&] {
+    expectRefused("nothing to delete", [&] { return VQ6192_IMA_DelImaLink(kChip, kGrp, 0, 0, rx, tx, 0); });
+    expectRefused("receive link 336", [&] {
         const uint16_t bad[1] = {336};
         return VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 1, bad, tx, 0);
     });

@@ -90,7 +90,7 @@ TEST_F(HelpersTest, TcStateRecords) {
               (std::vector<uint32_t>{0xBEEF, 2, 0x7A, 0xCAFE, 0x0101, 0x9C, 0x12345678}));
     ASSERT_EQ(VQ6192_IMA_GetTcLinkStatus(kChip, 11, nullptr, rx1, nullptr, tx), 0u);
     EXPECT_EQ((std::vector<uint32_t>{rx1[5], tx[3]}), (std::vector<uint32_t>{0, 0})) << "read-clear";
-    expectRefused("no output", kPara,
+    expectRefused("no output",
                   [] { return VQ6192_IMA_GetTcLinkStatus(kChip, 11, nullptr, nullptr, nullptr, nullptr); });
 }
 

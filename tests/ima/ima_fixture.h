@@ -77,8 +77,8 @@ class ImaTest : public vqtest::ChipTest {
     }
 
     // Refused with `status`, "ParaErr.\r\n" traced (or nothing when quiet) and no register touched.
-    void expectRefused(const char *what, uint32_t status, const std::function<uint32_t()> &op,
-                       bool quiet = false) {
+    void expectRefused(const char *what, const std::function<uint32_t()> &op, bool quiet = false,
+                       uint32_t status = kPara) {
         SCOPED_TRACE(what);
         capture.clear();
         uint32_t rc = 0;

@@ -34,14 +34,14 @@ TEST_F(MailboxTest, RunCmdPassesOnlyKnownCodes) {
     for (uint32_t code : {3u, 7u, 10u, 11u, 14u, 15u, 18u, 23u, 27u, 31u}) {
         SCOPED_TRACE(code);
         expectRefused(
-            "unknown code", kPara, [&] { return VQ6192_IMA_RunCmd(kChip, code, para); }, true);
+            "unknown code", [&] { return VQ6192_IMA_RunCmd(kChip, code, para); }, true);
     }
     for (uint32_t code : {0u, 1u, 2u, 4u, 5u, 6u, 8u, 9u, 12u, 13u, 16u, 17u, 24u, 25u, 26u}) {
         EXPECT_EQ(VQ6192_IMA_RunCmd(kChip, code, para), 0u) << code;
     }
     EXPECT_EQ(proc().commands().size(), 15u);
     expectRefused(
-        "no parameters", kPara, [] { return VQ6192_IMA_RunCmd(kChip, 0, nullptr); }, true);
+        "no parameters", [] { return VQ6192_IMA_RunCmd(kChip, 0, nullptr); }, true);
 }
 
 TEST_F(MailboxTest, BusyRefusedAndWaits) {
@@ -93,7 +93,7 @@ TEST_F(MailboxTest, InitImaStartsTheBlock) {
         EXPECT_EQ(bits(kTcB, kTxCfg, link, 0, 47),
                   (1ull << 46) | (1ull << 44) | (1ull << 42) | (1ull << 40) | (1ull << 32) | (1ull << 24));
     }
-    expectRefused("mode 3", kPara, [] { return VQ6192_IMA_InitIma(kChip, 3); });
+    expectRefused("mode 3", [] { return VQ6192_IMA_InitIma(kChip, 3); });
     const auto t = traced([] { EXPECT_EQ(VQ6192_IMA_InitIma(kChip, 2), 0u); });
     EXPECT_TRUE(t.empty()) << "mode 2 does nothing";
 }
@@ -118,7 +118,7 @@ TEST_F(MailboxTest, LinkParametersAndAutoProcessing) {
     EXPECT_EQ((std::vector<uint16_t>{a, b, g}), (std::vector<uint16_t>{2, 3, 5}));
     for (auto args :
          {std::array<uint32_t, 3>{0, 1, 1}, {3, 1, 1}, {1, 0, 1}, {1, 6, 1}, {1, 1, 0}, {1, 1, 6}}) {
-        expectRefused("out of range", kPara,
+        expectRefused("out of range",
                       [&] { return VQ6192_IMA_SetImaLinkParam(kChip, args[0], args[1], args[2]); });
     }
     model.poke(0x4452, 0xF00F);
@@ -126,7 +126,7 @@ TEST_F(MailboxTest, LinkParametersAndAutoProcessing) {
         ASSERT_EQ(VQ6192_IMA_SetAutoProcEn(kChip, p[0], p[1]), 0u);
         EXPECT_EQ(model.peek(0x4452), p[2]);
     }
-    expectRefused("mask past bit 10", kPara, [] { return VQ6192_IMA_SetAutoProcEn(kChip, 0x800, 1); });
+    expectRefused("mask past bit 10", [] { return VQ6192_IMA_SetAutoProcEn(kChip, 0x800, 1); });
 }
 
 TEST_F(MailboxTest, UniLinkAddAndDelete) {
@@ -140,7 +140,7 @@ TEST_F(MailboxTest, UniLinkAddAndDelete) {
                                      bits(kTxB, kInGrp, 20, 0, 64), word(kPpB, kTxc, 33),
                                      word(kPpB, kRxc, 33), bits(kRxB, kScvc, 33 * 4, 0, 10)}),
               (std::vector<uint64_t>{1, 0, 33, 511, 1ull << 33, 0x80140000, 0x80140000, 0x200u | 20u}));
-    expectRefused("second group differs", kPara, [] { return VQ6192_IMA_AddTcLink(kChip, 33, 20, 21); });
+    expectRefused("second group differs", [] { return VQ6192_IMA_AddTcLink(kChip, 33, 20, 21); });
 
     ASSERT_EQ(VQ6192_IMA_DelTcLink(kChip, 33), 0u);
     EXPECT_EQ(bits(kTxB, kInGrp, 20, 0, 64), 0u);
@@ -170,7 +170,7 @@ TEST_F(MailboxTest, Vc4TransparentPort) {
     }
     // 84 receive reset pulses of 10 + 10 ticks, and the wait after the receive enables.
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), (10 + 84 * 20) * kTickUs);
-    expectRefused("VC-4 4", kPara, [] { return VQ6192_IMA_AddVc4(kChip, 4, 7); });
+    expectRefused("VC-4 4", [] { return VQ6192_IMA_AddVc4(kChip, 4, 7); });
 }
 
 TEST_F(MailboxTest, TcResetDrainsTheTransmitLink) {
@@ -186,9 +186,9 @@ TEST_F(MailboxTest, TcResetDrainsTheTransmitLink) {
     setBits(kTcB, kTxCfg, 4, 46, 1, 1);
     proc().setDrainReads(Proc::kForever);
     EXPECT_EQ(VQ6192_IMA_ResetTc(kChip, 2, 2, links), 0x000D0004u) << "no chip bits";
-    expectRefused("which 0", kPara, [&] { return VQ6192_IMA_ResetTc(kChip, 0, 2, links); });
-    expectRefused("n 337", kPara, [&] { return VQ6192_IMA_ResetTc(kChip, 1, 337, links); });
-    expectRefused("no list", kPara, [] { return VQ6192_IMA_ResetTc(kChip, 1, 1, nullptr); });
+    expectRefused("which 0", [&] { return VQ6192_IMA_ResetTc(kChip, 0, 2, links); });
+    expectRefused("n 337", [&] { return VQ6192_IMA_ResetTc(kChip, 1, 337, links); });
+    expectRefused("no list", [] { return VQ6192_IMA_ResetTc(kChip, 1, 1, nullptr); });
     model.poke(0x000A, 0x1234);
     ASSERT_EQ(VQ6192_IMA_ResetVc(kChip), 0u);
     EXPECT_EQ(model.peek(0x000A), 0x1234u);

@@ -68,8 +68,7 @@ TEST_F(ParamsTest, RunningGroupParameters) {
                   after);
     }
     const IMA_GRP_PARAM none{};
-    expectRefused("no value record", kPara,
-                  [&] { return VQ6192_IMA_SetImaGrpParam(kChip, g, 0, &none, nullptr); });
+    expectRefused("no value record", [&] { return VQ6192_IMA_SetImaGrpParam(kChip, g, 0, &none, nullptr); });
 }
 
 TEST_F(ParamsTest, Vc4PortRemoval) {
