@@ -282,12 +282,7 @@ TEST_F(ControlTest, TcLinkConfigurationAndFifo) {
 
 TEST_F(ControlTest, CaptureFiltersAndReadout) {
     IMA_CAP_FILTER f{};
-    f.wCapMode = 5;
-    f.wSelect = 1024;
-    f.wSubMode = 6;
-    f.wValueA = 3;
-    f.wValueB = 4;
-    f.wFilterNum = 1;
+    f.wCapMode = 5, f.wSelect = 1024, f.wSubMode = 6, f.wValueA = 3, f.wValueB = 4, f.wFilterNum = 1,
     f.awLink[0] = 77;
     pokes({{0x4C3C, 0x0FFF}, {0x4C40 + 10, 0xFFFF}, {0x4C40 + 6, 0xFC00}});
     ASSERT_EQ(VQ6192_IMA_SetImaCapture(kChip, &f), 0u);

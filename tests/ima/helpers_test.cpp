@@ -64,13 +64,8 @@ TEST_F(HelpersTest, CaptureSubModes) {
     for (const auto &[subMode, reg, before, after] : cases) {
         SCOPED_TRACE(subMode);
         IMA_CAP_FILTER f{};
-        f.wFlag = 1;
-        f.wSelect = 1024;
-        f.wSubMode = subMode;
-        f.wValueA = 0x15;
-        f.wValueB = 0x1234;
-        f.wFilterNum = 1;
-        f.awValueC[0] = 0x1E;
+        f.wFlag = 1, f.wSelect = 1024, f.wSubMode = subMode, f.wValueA = 0x15, f.wValueB = 0x1234;
+        f.wFilterNum = 1, f.awValueC[0] = 0x1E;
         model.poke(reg, before);
         ASSERT_EQ(VQ6192_IMA_SetImaCapture(kChip, &f), 0u);
         EXPECT_EQ(model.peek(reg), after);
