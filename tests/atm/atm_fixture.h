@@ -3,6 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <vector>
 
 #include "support/test_support.h"
 #include "vq6192/atm.h"
@@ -11,28 +14,23 @@
 namespace atmtest {
 
 // Select codes of the ATM tables in the chip's ATM access block.
-enum Sel : uint32_t {
-    kVct = 0,
-    kPolCfg = 4,
-    kLpct = 5,
-    kSpct = 7,
-    kOamSt = 9,
-    kTcam = 10,
-    kBmPvc = 16,
-    kBmTh = 17,
-    kBmFifo = 19,
-    kLinkQm = 48,
-    kShVc = 49,
-    kRtVbrShap = 50,
-    kNrtVbrShap = 51,
-    kUbrPlusShap = 52,
-    kEbs = 56,
-    kPortQm = 58,
-};
+constexpr uint32_t kVct = 0, kPolCfg = 4, kLpct = 5, kSpct = 7, kOamSt = 9, kTcam = 10, kBmPvc = 16,
+                   kBmTh = 17, kBmFifo = 19, kLinkQm = 48, kShVc = 49, kRtVbrShap = 50, kNrtVbrShap = 51,
+                   kUbrPlusShap = 52, kEbs = 56, kPortQm = 58;
 
 constexpr uint32_t kAtmBlock = 0x5000;
 // Chip 3: (3 << 24) + (ATM module 2 << 16) + error 1.
 constexpr uint32_t kPara = 0x03020001;
+
+using V = std::vector<uint64_t>;
+using V32 = std::vector<uint32_t>;
+struct Field {
+    uint32_t start, width;
+};
+struct FieldValue {
+    uint32_t start, width;
+    uint64_t value;
+};
 
 class AtmTest : public vqtest::ChipTest {
   protected:
@@ -67,9 +65,17 @@ class AtmTest : public vqtest::ChipTest {
     void fillEntry(uint32_t sel, uint32_t index, uint32_t widthBits) {
         setBits(sel, index, 0, widthBits, ~0ull);
     }
-    void fillEntryWide(uint32_t sel, uint32_t index, uint32_t widthBits) {
-        for (uint32_t b = 0; b < widthBits; b += 32) {
-            setBits(sel, index, b, widthBits - b < 32 ? widthBits - b : 32, ~0ull);
+    // Several fields of one entry at once: {start, width} in, values out; {start, width, value} to set.
+    std::vector<uint64_t> fields(uint32_t sel, uint32_t index, std::initializer_list<Field> fs) {
+        std::vector<uint64_t> v;
+        for (const Field &f : fs) {
+            v.push_back(bits(sel, index, f.start, f.width));
+        }
+        return v;
+    }
+    void setFields(uint32_t sel, uint32_t index, std::initializer_list<FieldValue> fs) {
+        for (const FieldValue &f : fs) {
+            setBits(sel, index, f.start, f.width, f.value);
         }
     }
     uint64_t tableCommands() {

@@ -2,6 +2,7 @@
 // kind built and pushed through the insertion FIFO, reported cells read back, the location ID and the
 // per-connection OAM flags.
 #include <array>
+#include <tuple>
 
 #include "atm/atm_fixture.h"
 #include "vq6192/platform.h"
@@ -33,6 +34,18 @@ void seal(uint8_t *payload) {
     payload[47] = static_cast<uint8_t>(crc);
 }
 
+// An OAM cell: header byte 3, OAM type and function in byte 5, the rest of the payload 0x6A from
+// byte `fillFrom`, the CRC-10 sealed over bytes 5..52.
+Cell oamCell(uint8_t byte3, uint8_t func, int fillFrom = 6, const std::vector<uint8_t> &body = {}) {
+    Cell c{};
+    c[3] = byte3;
+    c[5] = func;
+    std::copy(body.begin(), body.end(), c.begin() + 6);
+    std::fill(c.begin() + fillFrom, c.end(), 0x6A);
+    seal(c.data() + 5);
+    return c;
+}
+
 std::vector<Word> fifoWords(uint16_t vcx, const Cell &c) {
     std::vector<Word> w = {{vcx, true, false}, {0, false, false}};
     for (int k = 2; k <= 14; ++k) {
@@ -47,11 +60,7 @@ class OamTest : public AtmTest {};
 
 TEST_F(OamTest, Crc10TableAndChecks) {
     ASSERT_EQ(VQ6192_ATM_gen_byte_crc10_table(kChip), 0u);
-    EXPECT_EQ(g_VQ6192_byte_crc10_table[kChip][1], 0x233);
-    EXPECT_EQ(g_VQ6192_byte_crc10_table[kChip][2], 0x255);
-    EXPECT_EQ(g_VQ6192_byte_crc10_table[kChip][128], 0x188);
-    EXPECT_EQ(g_VQ6192_byte_crc10_table[kChip][255], 0x0E1);
-    // Entry i is i x^10 modulo the generator.
+    // Entry i is i x^10 modulo the generator (entry 1 0x233, 2 0x255, 128 0x188, 255 0x0E1).
     for (uint32_t i = 0; i < 256; ++i) {
         const uint32_t v = i << 10;
         const uint8_t b[3] = {static_cast<uint8_t>(v >> 16), static_cast<uint8_t>(v >> 8),
@@ -77,105 +86,69 @@ TEST_F(OamTest, Crc10TableAndChecks) {
         EXPECT_EQ(VQ6192_ATM_crc10(kChip, p, 0), 0u) << "a sealed payload checks to 0";
     }
     const uint8_t data[3] = {1, 2, 3};
-    EXPECT_EQ(VQ6192_ATM_update_crc10_by_bytes(kChip, 0x155, data, 0), 0x155);
-    EXPECT_EQ(VQ6192_ATM_update_crc10_by_bytes(kChip, 0x155, data, -4), 0x155);
-    EXPECT_EQ(VQ6192_ATM_crc10(kChip, nullptr, 1), kPara);
     capture.clear();
-    EXPECT_EQ(VQ6192_ATM_update_crc10_by_bytes(kChip, 7, nullptr, 3), 7);
+    EXPECT_EQ(
+        (V{VQ6192_ATM_update_crc10_by_bytes(kChip, 0x155, data, 0),
+           VQ6192_ATM_update_crc10_by_bytes(kChip, 0x155, data, -4), VQ6192_ATM_crc10(kChip, nullptr, 1),
+           VQ6192_ATM_update_crc10_by_bytes(kChip, 7, nullptr, 3)}),
+        (V{0x155, 0x155, kPara, 7}));
     EXPECT_TRUE(traced("ParaErr. \r\n"));
 }
 
 TEST_F(OamTest, FaultManagementCells) {
-    struct Case {
-        uint32_t flow, level, func;
-        uint8_t byte3;
-    };
-    const Case cases[] = {
+    const std::tuple<uint32_t, uint32_t, uint32_t, uint8_t> cases[] = {
         {1, 0, 16, 0x30}, {2, 0, 16, 0x40}, {1, 1, 17, 0x08}, {2, 1, 20, 0x0A}, {2, 0, 20, 0x40},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(testing::Message() << k.flow << "/" << k.level << "/" << k.func);
+    for (const auto &[flow, level, func, byte3] : cases) {
+        SCOPED_TRACE(testing::Message() << flow << "/" << level << "/" << func);
         Cell got;
         got.fill(0xEE);
-        ASSERT_EQ(VQ6192_ATM_FillInsOamCell(kChip, k.flow, k.level, k.func, got.data()), 0u);
-        Cell want{};
-        want[3] = k.byte3;
-        want[5] = static_cast<uint8_t>(k.func);
-        for (int i = 6; i <= 52; ++i) {
-            want[i] = 0x6A;
-        }
-        seal(want.data() + 5);
-        EXPECT_EQ(got, want);
+        ASSERT_EQ(VQ6192_ATM_FillInsOamCell(kChip, flow, level, func, got.data()), 0u);
+        EXPECT_EQ(got, oamCell(byte3, static_cast<uint8_t>(func)));
         uint8_t b3 = 0;
-        ASSERT_EQ(VQ6192_ATM_FillInsertCellHead(kChip, k.flow, k.level, &b3), 0u);
-        EXPECT_EQ(b3, k.byte3);
+        ASSERT_EQ(VQ6192_ATM_FillInsertCellHead(kChip, flow, level, &b3), 0u);
+        EXPECT_EQ(b3, byte3);
     }
     // The F4 end-to-end AIS cell: CRC-10 0x2DC in its last two bytes.
     Cell ais{};
     ASSERT_EQ(VQ6192_ATM_FillInsOamCell(kChip, 2, 0, 16, ais.data()), 0u);
-    EXPECT_EQ(ais[51], 0x6A);
-    EXPECT_EQ(ais[52], 0xDC);
+    EXPECT_EQ((V{ais[51], ais[52]}), (V{0x6A, 0xDC}));
     uint8_t b3 = 0x55;
-    EXPECT_EQ(VQ6192_ATM_FillInsertCellHead(kChip, 3, 0, &b3), kPara);
-    EXPECT_EQ(VQ6192_ATM_FillInsertCellHead(kChip, 1, 2, &b3), kPara);
+    EXPECT_EQ(
+        (V32{VQ6192_ATM_FillInsertCellHead(kChip, 3, 0, &b3), VQ6192_ATM_FillInsertCellHead(kChip, 1, 2, &b3),
+             VQ6192_ATM_FillInsOamCell(kChip, 1, 0, 18, ais.data())}),
+        V32(3, kPara));
     EXPECT_EQ(b3, 0x55);
-    EXPECT_EQ(VQ6192_ATM_FillInsOamCell(kChip, 1, 0, 18, ais.data()), kPara);
 }
 
 TEST_F(OamTest, EachCellKindIsPushedWordByWord) {
-    struct Case {
-        const char *name;
-        uint32_t (*insert)(uint32_t, uint32_t, uint32_t, uint32_t);
-        uint8_t func;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, decltype(&VQ6192_ATM_InsertAISCell), uint8_t> cases[] = {
         {"AIS", VQ6192_ATM_InsertAISCell, 0x10},
         {"RDI", VQ6192_ATM_InsertRDICell, 0x11},
-        {"CC", VQ6192_ATM_InsertCCCell, 0x14},
-    };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
+        {"CC", VQ6192_ATM_InsertCCCell, 0x14}};
+    for (const auto &[name, insert, func] : cases) {
+        SCOPED_TRACE(name);
         VQ6192_ATM_SetOamFifoClear(kChip, 1);
-        ASSERT_EQ(k.insert(kChip, 8191, 1, 1), 0u);
-        Cell want{};
-        want[3] = 0x08;
-        want[5] = k.func;
-        for (int i = 6; i <= 52; ++i) {
-            want[i] = 0x6A;
-        }
-        seal(want.data() + 5);
-        EXPECT_EQ(atm().inserted(), fifoWords(8191, want));
+        ASSERT_EQ(insert(kChip, 8191, 1, 1), 0u);
+        EXPECT_EQ(atm().inserted(), fifoWords(8191, oamCell(0x08, func)));
         model.clearTrace();
-        EXPECT_EQ(k.insert(kChip, 8192, 1, 1), kPara);
-        EXPECT_EQ(k.insert(kChip, 1, 0, 1), kPara);
+        EXPECT_EQ((V32{insert(kChip, 8192, 1, 1), insert(kChip, 1, 0, 1)}), V32(2, kPara));
         EXPECT_TRUE(model.trace().empty());
     }
     VQ6192_ATM_SetOamFifoClear(kChip, 1);
-    uint8_t llid[16];
-    uint8_t src[16];
-    for (int i = 0; i < 16; ++i) {
-        llid[i] = static_cast<uint8_t>(0xA0 + i);
-        src[i] = static_cast<uint8_t>(0x10 + i);
+    // Loopback: indication 1, correlation tag, location ID, source ID.
+    std::vector<uint8_t> body = {1, 1, 2, 3, 4};
+    for (int i = 0; i < 32; ++i) {
+        body.push_back(static_cast<uint8_t>(i < 16 ? 0xA0 + i : 0x10 + i - 16));
     }
-    ASSERT_EQ(VQ6192_ATM_InsertLBCell(kChip, 77, llid, src, 0x01020304, 2, 0, 1), 0u);
-    Cell want{};
-    want[3] = 0x40;
-    want[5] = 0x18;
-    want[6] = 1;
-    want[7] = 1, want[8] = 2, want[9] = 3, want[10] = 4;
-    for (int i = 0; i < 16; ++i) {
-        want[11 + i] = llid[i];
-        want[27 + i] = src[i];
-    }
-    for (int i = 43; i < 53; ++i) {
-        want[i] = 0x6A;
-    }
-    seal(want.data() + 5);
+    ASSERT_EQ(VQ6192_ATM_InsertLBCell(kChip, 77, body.data() + 5, body.data() + 21, 0x01020304, 2, 0, 1), 0u);
+    const Cell want = oamCell(0x40, 0x18, 43, body);
     EXPECT_EQ(atm().inserted(), fifoWords(77, want));
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_InsertLBCell(kChip, 77, llid, src, 1, 2, 0, 2), kPara);
-    EXPECT_EQ(VQ6192_ATM_InsertLBCell(kChip, 77, nullptr, src, 1, 2, 0, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_InsertOamCell(kChip, 8192, want.data()), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_InsertLBCell(kChip, 77, body.data(), body.data(), 1, 2, 0, 2),
+                   VQ6192_ATM_InsertLBCell(kChip, 77, nullptr, body.data(), 1, 2, 0, 1),
+                   VQ6192_ATM_InsertOamCell(kChip, 8192, want.data())}),
+              V32(3, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
@@ -199,8 +172,7 @@ TEST_F(OamTest, ReportedCellsAreReadBack) {
         vcx = 5;
         got.fill(9);
         EXPECT_EQ(get(kChip, &vcx, got.data()), kPara);
-        EXPECT_EQ(vcx, 5);
-        EXPECT_EQ(got[0], 9);
+        EXPECT_EQ((V{vcx, got[0]}), (V{5, 9}));
         EXPECT_TRUE(capture.traceTexts().empty());
 
         // No start of cell within 17 words.
@@ -214,8 +186,9 @@ TEST_F(OamTest, ReportedCellsAreReadBack) {
     }
     uint16_t vcx = 0;
     Cell got{};
-    EXPECT_EQ(VQ6192_ATM_GetOamCell(kChip, nullptr, got.data()), kPara);
-    EXPECT_EQ(VQ6192_ATM_GetOamCellTest(kChip, &vcx, nullptr), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_GetOamCell(kChip, nullptr, got.data()),
+                   VQ6192_ATM_GetOamCellTest(kChip, &vcx, nullptr)}),
+              V32(2, kPara));
 }
 
 TEST_F(OamTest, GuardedReadOfTheReportFlag) {
@@ -249,50 +222,44 @@ TEST_F(OamTest, LocationId) {
         id[i] = static_cast<uint8_t>(i);
     }
     ASSERT_EQ(VQ6192_ATM_SetOamLLID(kChip, id), 0u);
-    const auto w = vqtest::writes(model.trace());
-    ASSERT_EQ(w.size(), 10u);
-    EXPECT_EQ(w.front().addr, 0xA284u);
-    EXPECT_EQ(w.front().value, 0xFFFEu) << "invalid while rewritten";
-    EXPECT_EQ(w.back().addr, 0xA284u);
-    EXPECT_EQ(w.back().value, 0xFFFFu);
-    for (int i = 0; i < 8; ++i) {
-        EXPECT_EQ(w[1 + i].addr, 0xA274u + 2 * (7 - i));
-        EXPECT_EQ(model.peek(0xA282 - 2 * i), (2 * i) << 8 | (2 * i + 1)) << "ID bytes " << 2 * i;
+    // Invalid while rewritten, ID bytes 0 and 1 in 0xA282 down to bytes 14 and 15 in 0xA274, valid again.
+    V want = {0xA284, 0xFFFE}, got;
+    for (const auto &a : vqtest::writes(model.trace())) {
+        got.insert(got.end(), {a.addr, a.value});
     }
+    for (uint32_t i = 0; i < 8; ++i) {
+        want.insert(want.end(), {0xA282 - 2 * i, (2 * i) << 8 | (2 * i + 1)});
+    }
+    want.insert(want.end(), {0xA284, 0xFFFF});
+    EXPECT_EQ(got, want);
     uint8_t back[16] = {};
     ASSERT_EQ(VQ6192_ATM_GetOamLLID(kChip, back), 0u);
     EXPECT_TRUE(std::equal(id, id + 16, back));
 }
 
 TEST_F(OamTest, ContinuityCheckFlags) {
-    struct Case {
-        uint32_t start, flowType, action, bits4649, state;
-    };
-    const Case cases[] = {
+    const std::tuple<uint32_t, uint32_t, uint32_t, uint32_t, uint32_t> cases[] = {
         {0x0, 1, 1, 0xA, 1}, {0x0, 1, 2, 0x5, 2}, {0x0, 1, 3, 0xF, 3}, {0x0, 2, 3, 0xC, 3},
         {0xF, 1, 0, 0x0, 0}, {0xF, 0, 4, 0x5, 2}, {0xF, 0, 5, 0xA, 1}, {0x5, 0, 1, 0xD, 3},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(testing::Message() << "action " << k.action << " type " << k.flowType);
+    // Start flags 46..49, flow type, action, flags after, reported state.
+    for (const auto &[start, flowType, action, bits4649, wantState] : cases) {
+        SCOPED_TRACE(testing::Message() << "action " << action << " type " << flowType);
         setBits(kVct, 8191, 0, 69, ~0ull);
         setBits(kVct, 8191, 64, 5, 0x1F);
-        setBits(kVct, 8191, 46, 4, k.start);
-        ASSERT_EQ(VQ6192_ATM_SetOamLinkCC(kChip, 8191, k.flowType, k.action), 0u);
-        EXPECT_EQ(bits(kVct, 8191, 46, 4), k.bits4649);
-        EXPECT_EQ(bits(kVct, 8191, 0, 46), (1ull << 46) - 1);
-        EXPECT_EQ(bits(kVct, 8191, 50, 19), 0x7FFFFu);
-        uint8_t src = 9;
-        uint8_t sink = 9;
+        setBits(kVct, 8191, 46, 4, start);
+        ASSERT_EQ(VQ6192_ATM_SetOamLinkCC(kChip, 8191, flowType, action), 0u);
+        EXPECT_EQ((fields(kVct, 8191, {{46, 4}, {0, 46}, {50, 19}})),
+                  (V{bits4649, (1ull << 46) - 1, 0x7FFFF}));
+        uint8_t src = 9, sink = 9;
         uint32_t state = 9;
         ASSERT_EQ(VQ6192_ATM_GetOamLinkCC(kChip, 8191, &src, &sink, &state), 0u);
-        EXPECT_EQ(state, k.state);
-        EXPECT_EQ(src, k.bits4649 >> 1 & 1u);
-        EXPECT_EQ(sink, k.bits4649 & 1u);
+        EXPECT_EQ((V{state, src, sink}), (V{wantState, bits4649 >> 1 & 1u, bits4649 & 1u}));
     }
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_SetOamLinkCC(kChip, 8192, 1, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetOamLinkCC(kChip, 1, 3, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetOamLinkCC(kChip, 1, 1, 6), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_SetOamLinkCC(kChip, 8192, 1, 1), VQ6192_ATM_SetOamLinkCC(kChip, 1, 3, 1),
+                   VQ6192_ATM_SetOamLinkCC(kChip, 1, 1, 6)}),
+              V32(3, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
@@ -301,9 +268,9 @@ TEST_F(OamTest, SegmentEndPointsAndAutomaticInsertion) {
         setBits(kVct, 9, 0, 69, ~0ull);
         setBits(kVct, 9, 64, 5, 0x1F);
         ASSERT_EQ(VQ6192_ATM_SetOamSegEnd(kChip, 9, type), 0u);
-        EXPECT_EQ(bits(kVct, 9, 51, 1), type & 1u) << "segment point";
-        EXPECT_EQ(bits(kVct, 9, 50, 1), type >> 1) << "end point";
-        EXPECT_EQ(bits(kVct, 9, 0, 50), (1ull << 50) - 1);
+        // Segment point 51, end point 50.
+        EXPECT_EQ((fields(kVct, 9, {{51, 1}, {50, 1}, {0, 50}})),
+                  (V{type & 1u, type >> 1, (1ull << 50) - 1}));
         uint32_t back = 9;
         ASSERT_EQ(VQ6192_ATM_GetOamSegEnd(kChip, 9, &back), 0u);
         EXPECT_EQ(back, type);
@@ -318,9 +285,9 @@ TEST_F(OamTest, SegmentEndPointsAndAutomaticInsertion) {
         EXPECT_EQ(en, 1);
     }
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_SetOamSegEnd(kChip, 9, 4), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetOamAutoInsertEn(kChip, 9, 4, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetOamAutoInsertEn(kChip, 9, 0, 2), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_SetOamSegEnd(kChip, 9, 4), VQ6192_ATM_SetOamAutoInsertEn(kChip, 9, 4, 1),
+                   VQ6192_ATM_SetOamAutoInsertEn(kChip, 9, 0, 2)}),
+              V32(3, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
@@ -335,21 +302,18 @@ TEST_F(OamTest, LossOfContinuityVcxFifoAndCrcCheck) {
     EXPECT_EQ(loc, 1);
     const auto w = vqtest::writes(model.trace());
     ASSERT_GE(w.size(), 2u);
-    EXPECT_EQ(w.front().addr, 0xA008u);
-    EXPECT_EQ(w.front().value, 0xFFF0u);
-    EXPECT_EQ(w.back().addr, 0xA008u);
-    EXPECT_EQ(w.back().value, 0xFFFFu);
+    EXPECT_EQ((V{w.front().addr, w.front().value, w.back().addr, w.back().value}),
+              (V{0xA008, 0xFFF0, 0xA008, 0xFFFF}));
     atm().setCcloc(100, false);
     ASSERT_EQ(VQ6192_ATM_GetOamCcloc(kChip, 100, &loc), 0u);
     EXPECT_EQ(loc, 0);
 
     atm().pushVcx(0x1ABC);
     atm().pushVcx(7);
-    uint16_t vcx = 0;
-    ASSERT_EQ(VQ6192_ATM_GetOamVcxFifo(kChip, &vcx), 0u);
-    EXPECT_EQ(vcx, 0x1ABC);
-    ASSERT_EQ(VQ6192_ATM_GetOamVcxFifo(kChip, &vcx), 0u);
-    EXPECT_EQ(vcx, 7);
+    uint16_t vcx = 0, vcx2 = 0;
+    EXPECT_EQ((V32{VQ6192_ATM_GetOamVcxFifo(kChip, &vcx), VQ6192_ATM_GetOamVcxFifo(kChip, &vcx2)}),
+              (V32{0, 0}));
+    EXPECT_EQ((V{vcx, vcx2}), (V{0x1ABC, 7}));
 
     model.poke(0xA2C0, 0xFFFE);
     ASSERT_EQ(VQ6192_ATM_SetOamCrcEn(kChip, 1), 0u);

@@ -1,6 +1,7 @@
 // ATM ports, queues and module start: transparent ports, the line-port loop, the queue-delete
 // handshake, the port queue rate, the table and FIFO clears and the start sequence.
 #include <chrono>
+#include <tuple>
 
 #include "atm/atm_fixture.h"
 #include "vq6192/platform.h"
@@ -26,14 +27,12 @@ class PortTest : public AtmTest {
         return out;
     }
     void prefillPort(uint32_t line, uint32_t sys) {
-        fillEntryWide(kLinkQm, 8192 + line, 46);
-        fillEntryWide(kBmFifo, line, 64);
+        fillEntry(kLinkQm, 8192 + line, 46);
+        fillEntry(kBmFifo, line, 64);
         fillEntry(kLpct, line, 15);
         fillEntry(kSpct, sys, 12);
     }
 };
-
-using RegWrite = std::pair<uint32_t, uint32_t>;
 
 TEST_F(PortTest, TransparentPortMapsLineAndSystemPort) {
     prefillPort(335, 2047);
@@ -41,29 +40,25 @@ TEST_F(PortTest, TransparentPortMapsLineAndSystemPort) {
     ASSERT_EQ(VQ6192_ATM_AddAtmTransConn(kChip, 335, 2047, th), 0u);
     EXPECT_EQ(bits(kLinkQm, 8192 + 335, 0, 46), (((1ull << 46) - 1) & ~(0x3FFull << 16)) | 335ull << 16)
         << "port bound, not deleted";
-    EXPECT_EQ(bits(kBmFifo, 335, 0, 19), 0x1u) << "drop";
-    EXPECT_EQ(bits(kBmFifo, 335, 19, 19), 0x12345u) << "pause cancel";
-    EXPECT_EQ(bits(kBmFifo, 335, 38, 19), 0x7FFFFu) << "pause";
-    EXPECT_EQ(bits(kBmFifo, 335, 57, 7), 0x7Fu) << "kept";
+    // Drop, pause cancel, pause; the bits above kept.
+    EXPECT_EQ((fields(kBmFifo, 335, {{0, 19}, {19, 19}, {38, 19}, {57, 7}})),
+              (V{0x1, 0x12345, 0x7FFFF, 0x7F}));
     EXPECT_EQ(bits(kLpct, 335, 0, 15), 2047u << 4 | 0xDu);  // transparent, no loop, NNI kept, enabled
     EXPECT_EQ(bits(kSpct, 2047, 0, 12), 335u << 3 | 0x7u);
-    uint8_t map = 0;
-    uint16_t peer = 0;
-    EXPECT_EQ(VQ6192_ATM_GetAtmTransConnSingle(kChip, 335, 0, &map, &peer), 0u);
-    EXPECT_EQ(map, 1);
-    EXPECT_EQ(peer, 2047);
-    EXPECT_EQ(VQ6192_ATM_GetAtmTransConnSingle(kChip, 2047, 1, &map, &peer), 0u);
-    EXPECT_EQ(peer, 335);
+    uint8_t map = 0, map2 = 0;
+    uint16_t peer = 0, peer2 = 0;
     uint32_t back[3] = {};
-    EXPECT_EQ(VQ6192_ATM_GetAtmTransFiFo(kChip, 335, back), 0u);
-    EXPECT_EQ(back[0], 0x7FFFFu);
-    EXPECT_EQ(back[1], 0x12345u);
-    EXPECT_EQ(back[2], 0x1u);
+    EXPECT_EQ((V32{VQ6192_ATM_GetAtmTransConnSingle(kChip, 335, 0, &map, &peer),
+                   VQ6192_ATM_GetAtmTransConnSingle(kChip, 2047, 1, &map2, &peer2),
+                   VQ6192_ATM_GetAtmTransFiFo(kChip, 335, back)}),
+              (V32{0, 0, 0}));
+    EXPECT_EQ((V{map, peer, map2, peer2, back[0], back[1], back[2]}),
+              (V{1, 2047, 1, 335, 0x7FFFF, 0x12345, 0x1}));
 
     ASSERT_EQ(VQ6192_ATM_DelAtmTransConn(kChip, 335, 2047), 0u);
-    EXPECT_EQ(bits(kLpct, 335, 0, 15), 0x4u) << "attribute kept";
-    EXPECT_EQ(bits(kSpct, 2047, 0, 12), 0x2u) << "attribute kept";
-    EXPECT_EQ(bits(kBmFifo, 335, 0, 64), 0x7Full << 57);
+    // Attributes kept, thresholds cleared.
+    EXPECT_EQ((V{bits(kLpct, 335, 0, 15), bits(kSpct, 2047, 0, 12), bits(kBmFifo, 335, 0, 64)}),
+              (V{0x4, 0x2, 0x7Full << 57}));
     EXPECT_EQ(atm().deletes(), (std::vector<AtmBlock::QueueDelete>{{335, true}}));
     EXPECT_EQ(bits(kLinkQm, 8192 + 335, 0, 25), 0u);
 }
@@ -71,30 +66,26 @@ TEST_F(PortTest, TransparentPortMapsLineAndSystemPort) {
 TEST_F(PortTest, TransparentPortRefusals) {
     const uint32_t good[3] = {1, 2, 3};
     const uint32_t over[3][3] = {{0x80000, 0, 0}, {0, 0x80000, 0}, {0, 0, 0x80000}};
-    struct Case {
-        const char *name;
-        uint32_t line, sys;
-        const uint32_t *th;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, uint32_t, uint32_t, const uint32_t *> cases[] = {
         {"line port 336", 336, 0, good},  {"system port 2048", 0, 2048, good},
         {"no thresholds", 0, 0, nullptr}, {"pause", 0, 0, over[0]},
         {"cancel", 0, 0, over[1]},        {"drop", 0, 0, over[2]},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
+    for (const auto &[name, line, sys, th] : cases) {
+        SCOPED_TRACE(name);
         model.clearTrace();
-        EXPECT_EQ(VQ6192_ATM_AddAtmTransConn(kChip, k.line, k.sys, k.th), kPara);
-        EXPECT_EQ(VQ6192_ATM_SetAtmPortLoopMode(kChip, k.line, k.sys == 2048 ? nullptr : k.th), kPara);
+        EXPECT_EQ(VQ6192_ATM_AddAtmTransConn(kChip, line, sys, th), kPara);
+        EXPECT_EQ(VQ6192_ATM_SetAtmPortLoopMode(kChip, line, sys == 2048 ? nullptr : th), kPara);
         EXPECT_TRUE(model.trace().empty());
     }
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 1, 2, 2, good), kPara);
-    EXPECT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 1, 2, 0, nullptr), kPara);
-    EXPECT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 2047, 336, 1, good), kPara);
-    EXPECT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 2047, 1, 1, over[2]), kPara);
-    EXPECT_EQ(VQ6192_ATM_DelAtmTransConnSingle(kChip, 336, 0), kPara);
-    EXPECT_EQ(VQ6192_ATM_DelAtmTransConn(kChip, 1, 2048), kPara);
+    EXPECT_EQ(
+        (V32{VQ6192_ATM_AddAtmTransConnSingle(kChip, 1, 2, 2, good),
+             VQ6192_ATM_AddAtmTransConnSingle(kChip, 1, 2, 0, nullptr),
+             VQ6192_ATM_AddAtmTransConnSingle(kChip, 2047, 336, 1, good),
+             VQ6192_ATM_AddAtmTransConnSingle(kChip, 2047, 1, 1, over[2]),
+             VQ6192_ATM_DelAtmTransConnSingle(kChip, 336, 0), VQ6192_ATM_DelAtmTransConn(kChip, 1, 2048)}),
+        V32(6, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
@@ -105,19 +96,16 @@ TEST_F(PortTest, OneSidedTransparentPorts) {
     EXPECT_EQ(bits(kLpct, 7, 0, 15), 900u << 4 | 0xDu);
     EXPECT_EQ(bits(kBmFifo, 7, 0, 57), (1ull << 57) - 1) << "line side leaves the thresholds";
     ASSERT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 900, 7, 1, th), 0u);
-    EXPECT_EQ(bits(kSpct, 900, 0, 12), 7u << 3 | 0x7u);
-    EXPECT_EQ(bits(kBmFifo, 7, 0, 57), 10ull << 38 | 20ull << 19 | 30u);
-    EXPECT_EQ(bits(kLinkQm, 8192 + 7, 16, 10), 7u) << "queue bound, not deleted";
+    // System side: thresholds written, the port queue bound and not deleted.
+    EXPECT_EQ((V{bits(kSpct, 900, 0, 12), bits(kBmFifo, 7, 0, 57), bits(kLinkQm, 8192 + 7, 16, 10)}),
+              (V{7u << 3 | 0x7u, 10ull << 38 | 20ull << 19 | 30u, 7}));
 
     ASSERT_EQ(VQ6192_ATM_DelAtmTransConnSingle(kChip, 900, 1), 0u);
-    EXPECT_EQ(bits(kSpct, 900, 0, 12), 0x2u);
-    EXPECT_EQ(bits(kBmFifo, 7, 0, 57), 0u);
+    EXPECT_EQ((V{bits(kSpct, 900, 0, 12), bits(kBmFifo, 7, 0, 57)}), (V{0x2, 0}));
     EXPECT_EQ(atm().deletes(), (std::vector<AtmBlock::QueueDelete>{{7, true}}));
     ASSERT_EQ(VQ6192_ATM_DelAtmTransConnSingle(kChip, 7, 0), 0u);
     EXPECT_EQ(bits(kLpct, 7, 0, 15), 0x4u);
-}
-
-TEST_F(PortTest, AFailedFlushKeepsTheThresholds) {
+    // A flush that is never acknowledged keeps the thresholds.
     prefillPort(3, 4);
     atm().setDeleteAckPolls(AtmBlock::kForever);
     EXPECT_EQ(VQ6192_ATM_DelAtmTransConn(kChip, 3, 4), kPara);
@@ -130,78 +118,67 @@ TEST_F(PortTest, LinePortLoop) {
     setBits(kLpct, 20, 3, 1, 0);
     const uint32_t th[3] = {1, 2, 3};
     ASSERT_EQ(VQ6192_ATM_SetAtmPortLoopMode(kChip, 20, th), 0u);
-    EXPECT_EQ(bits(kLpct, 20, 0, 15), 0x7FFFu);
-    EXPECT_EQ(bits(kBmFifo, 20, 0, 57), 1ull << 38 | 2ull << 19 | 3u);
+    EXPECT_EQ((V{bits(kLpct, 20, 0, 15), bits(kBmFifo, 20, 0, 57)}),
+              (V{0x7FFF, 1ull << 38 | 2ull << 19 | 3u}));
     uint8_t loop = 0;
     EXPECT_EQ(VQ6192_ATM_GetAtmPortLoopMode(kChip, 20, &loop), 0u);
     EXPECT_EQ(loop, 1);
     ASSERT_EQ(VQ6192_ATM_DelAtmPortLoopMode(kChip, 20), 0u);
-    EXPECT_EQ(bits(kLpct, 20, 0, 15), 0x7FF5u);
-    EXPECT_EQ(bits(kBmFifo, 20, 0, 57), 0u);
+    EXPECT_EQ((V{bits(kLpct, 20, 0, 15), bits(kBmFifo, 20, 0, 57)}), (V{0x7FF5, 0}));
     EXPECT_EQ(atm().deletes(), (std::vector<AtmBlock::QueueDelete>{{20, true}}));
 }
 
 TEST_F(PortTest, PortEnablesAndAttributes) {
     fillEntry(kLpct, 335, 15);
     fillEntry(kSpct, 2047, 12);
-    struct Case {
-        uint32_t port, side, bit;
-        uint32_t sel;
-        uint64_t all;
-    };
-    for (const Case &k : {Case{335, 0, 3, kLpct, 0x7FFF}, Case{2047, 1, 2, kSpct, 0xFFF}}) {
-        ASSERT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, k.port, k.side, 0), 0u);
-        EXPECT_EQ(bits(k.sel, k.port, 0, 16), k.all & ~(1ull << k.bit));
+    using Case = std::tuple<uint32_t, uint32_t, uint32_t, uint32_t, uint64_t>;
+    for (const auto &[port, side, bit, sel, all] :
+         {Case{335, 0, 3, kLpct, 0x7FFF}, Case{2047, 1, 2, kSpct, 0xFFF}}) {
+        ASSERT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, port, side, 0), 0u);
+        EXPECT_EQ(bits(sel, port, 0, 16), all & ~(1ull << bit));
         uint8_t en = 1;
-        EXPECT_EQ(VQ6192_ATM_GetAtmPortEnStat(kChip, k.port, k.side, &en), 0u);
+        EXPECT_EQ(VQ6192_ATM_GetAtmPortEnStat(kChip, port, side, &en), 0u);
         EXPECT_EQ(en, 0);
-        ASSERT_EQ(VQ6192_ATM_SetAtmPortType(kChip, k.port, k.side, 0), 0u);
-        const uint32_t attr = k.side == 0 ? 2 : 1;
-        EXPECT_EQ(bits(k.sel, k.port, 0, 16), k.all & ~(1ull << k.bit) & ~(1ull << attr));
+        ASSERT_EQ(VQ6192_ATM_SetAtmPortType(kChip, port, side, 0), 0u);
+        const uint32_t attr = side == 0 ? 2 : 1;
+        EXPECT_EQ(bits(sel, port, 0, 16), all & ~(1ull << bit) & ~(1ull << attr));
     }
     model.clearTrace();
     capture.clear();
     EXPECT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, 1, 2, 1), kPara);
     EXPECT_TRUE(capture.traceTexts().empty()) << "side 2 is refused without a trace";
-    EXPECT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, 336, 0, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmPortEn(kChip, 1, 3, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmPortType(kChip, 2048, 1, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmPortType(kChip, 1, 2, 1), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_SetAtmPortEn(kChip, 336, 0, 1), VQ6192_ATM_SetAtmPortEn(kChip, 1, 3, 1),
+                   VQ6192_ATM_SetAtmPortType(kChip, 2048, 1, 1), VQ6192_ATM_SetAtmPortType(kChip, 1, 2, 1)}),
+              V32(4, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
 TEST_F(PortTest, QueueDeleteHandshake) {
-    struct Case {
-        const char *name;
-        uint32_t index, kind, entry, ackPolls;
-        uint32_t status;
-        uint64_t waitedUs;
-        bool rewritten;
-    };
-    const Case cases[] = {
-        {"port queue, at once", 5, 0, 8197, 0, 0, 2, true},
-        {"connection queue after 9 polls", 8191, 1, 8191, 9, 0, 20, true},
-        {"never acknowledged", 12, 1, 12, AtmBlock::kForever, kPara, 2000, false},
-    };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
-        fillEntryWide(kLinkQm, k.entry, 46);
+    const std::tuple<const char *, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t, uint64_t, bool> cases[] =
+        {
+            {"port queue, at once", 5, 0, 8197, 0, 0, 2, true},
+            {"connection queue after 9 polls", 8191, 1, 8191, 9, 0, 20, true},
+            {"never acknowledged", 12, 1, 12, AtmBlock::kForever, kPara, 2000, false},
+        };
+    for (const auto &[name, index, kind, entry, ackPolls, status, waitedUs, rewritten] : cases) {
+        SCOPED_TRACE(name);
+        fillEntry(kLinkQm, entry, 46);
         model.poke(0xA860, 0);
-        atm().setDeleteAckPolls(k.ackPolls);
+        atm().setDeleteAckPolls(ackPolls);
         model.clearTrace();
         VQ6192_Platform_ResetVirtualTime();
-        EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, k.index, k.kind), k.status);
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), k.waitedUs);
-        const uint32_t queue = k.index & 0x1FFFu;
-        const uint32_t kindBit = k.kind == 0 ? 0x2000u : 0u;
+        EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, index, kind), status);
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), waitedUs);
+        const uint32_t queue = index & 0x1FFFu;
+        const uint32_t kindBit = kind == 0 ? 0x2000u : 0u;
         std::vector<RegWrite> expect = {
             {0xA860, 0}, {0xA860, queue}, {0xA860, queue | kindBit}, {0xA860, 0xC000u | queue | kindBit}};
-        if (k.rewritten) {
+        if (rewritten) {
             expect.push_back({0xA860, queue | kindBit});
         }
         EXPECT_EQ(regWrites(), expect);
-        EXPECT_EQ(bits(kLinkQm, k.entry, 0, 25), k.rewritten ? 0u : 0x1FFFFFFu);
-        EXPECT_EQ(bits(kLinkQm, k.entry, 25, 21), 0x1FFFFFu) << "state, busy bit and length kept";
+        EXPECT_EQ(bits(kLinkQm, entry, 0, 25), rewritten ? 0u : 0x1FFFFFFu);
+        EXPECT_EQ(bits(kLinkQm, entry, 25, 21), 0x1FFFFFu) << "state, busy bit and length kept";
     }
     model.clearTrace();
     capture.clear();
@@ -209,18 +186,13 @@ TEST_F(PortTest, QueueDeleteHandshake) {
     EXPECT_TRUE(traced("Err. VQ6192_ATM_DelAtmBwdQm: Config is error! ChipID: 0x3\r\n"));
     EXPECT_EQ(regWrites(), (std::vector<RegWrite>{{0xA860, 0x000C}})) << "the standing command is cleared";
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, 336, 0), kPara);
-    EXPECT_EQ(VQ6192_ATM_DelAtmBwdQm(kChip, 8193, 1), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_DelAtmBwdQm(kChip, 336, 0), VQ6192_ATM_DelAtmBwdQm(kChip, 8193, 1)}),
+              V32(2, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
 TEST_F(PortTest, PortQueueRates) {
-    struct Case {
-        const char *name;
-        uint32_t links, ts, lenCode, mode;
-        uint32_t period, threshold;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t> cases[] = {
         {"VC-4 transparent", 0, 1, 0, 1, 64, 168},
         {"UNI, 31 timeslots", 0, 0xFFFFFFFE, 0, 2, 4857, 3},
         {"UNI, 1 timeslot", 0, 0x10, 3, 2, 150568, 3},
@@ -228,46 +200,41 @@ TEST_F(PortTest, PortQueueRates) {
         {"IMA of 100 links, frame 32, 1 timeslot", 100, 1, 0, 3, 155500, 44},
         {"IMA, frame 256, 24 timeslots", 4, 0x00FFFFFF, 3, 3, 6301, 12},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
-        fillEntryWide(kPortQm, 9, 38);
-        ASSERT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, k.links, k.ts, k.lenCode, k.mode), 0u);
-        EXPECT_EQ(bits(kPortQm, 9, 0, 18), k.period);
-        EXPECT_EQ(bits(kPortQm, 9, 18, 8), k.threshold);
-        EXPECT_EQ(bits(kPortQm, 9, 26, 12), 0xFFFu);
+    for (const auto &[name, links, ts, lenCode, mode, period, threshold] : cases) {
+        SCOPED_TRACE(name);
+        fillEntry(kPortQm, 9, 38);
+        ASSERT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, links, ts, lenCode, mode), 0u);
+        EXPECT_EQ((fields(kPortQm, 9, {{0, 18}, {18, 8}, {26, 12}})), (V{period, threshold, 0xFFF}));
         uint16_t th = 0;
-        uint32_t period = 0;
-        EXPECT_EQ(VQ6192_ATM_GetAtmImaQm(kChip, 9, &th, &period), 0u);
-        EXPECT_EQ(th, k.threshold);
-        EXPECT_EQ(period, k.period);
+        uint32_t back = 0;
+        EXPECT_EQ(VQ6192_ATM_GetAtmImaQm(kChip, 9, &th, &back), 0u);
+        EXPECT_EQ((V{th, back}), (V{threshold, period}));
     }
     model.clearTrace();
     capture.clear();
     EXPECT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 0, 0, 2), kPara);
     EXPECT_TRUE(capture.traceTexts().empty()) << "no timeslot: no trace";
-    EXPECT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 1, 0, 0), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 1, 4, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmImaQmTm(kChip, 336, 1, 1, 0, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmImaQm(kChip, 9, 1024, 1), kPara);
+    EXPECT_EQ(
+        (V32{VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 1, 0, 0), VQ6192_ATM_SetAtmImaQmTm(kChip, 9, 1, 1, 4, 1),
+             VQ6192_ATM_SetAtmImaQmTm(kChip, 336, 1, 1, 0, 1), VQ6192_ATM_SetAtmImaQm(kChip, 9, 1024, 1)}),
+        V32(4, kPara));
     EXPECT_TRUE(model.trace().empty());
     ASSERT_EQ(VQ6192_ATM_SetAtmImaQm(kChip, 9, 1023, 0x7FFFF), 0u);
     EXPECT_EQ(bits(kPortQm, 9, 0, 26), 0xFFull << 18 | 0x3FFFFu);
 }
 
 TEST_F(PortTest, TableAndFifoClears) {
+    // Selector, enable, register after: one bit per table, 5 all five.
+    const uint32_t clears[][3] = {{1, 1, 0xFFE7}, {2, 0, 0xFFE3}, {5, 1, 0xFFFF}, {5, 0, 0xFFE0}};
     model.poke(0xA008, 0xFFE5);
-    ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 1, 1), 0u);
-    EXPECT_EQ(model.peek(0xA008), 0xFFE7);
-    ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 2, 0), 0u);
-    EXPECT_EQ(model.peek(0xA008), 0xFFE3);
-    ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 5, 1), 0u);
-    EXPECT_EQ(model.peek(0xA008), 0xFFFF);
-    ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 5, 0), 0u);
-    EXPECT_EQ(model.peek(0xA008), 0xFFE0);
+    for (const auto &c : clears) {
+        ASSERT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, c[0], c[1]), 0u);
+        EXPECT_EQ(model.peek(0xA008), c[2]) << c[0] << "/" << c[1];
+    }
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 6, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmTabClr(kChip, 0, 2), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetOamFifoClear(kChip, 2), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_SetAtmTabClr(kChip, 6, 1), VQ6192_ATM_SetAtmTabClr(kChip, 0, 2),
+                   VQ6192_ATM_SetOamFifoClear(kChip, 2)}),
+              V32(3, kPara));
     EXPECT_TRUE(model.trace().empty());
 
     model.poke(0xA2CA, 0xF000);
@@ -311,14 +278,10 @@ TEST_F(PortTest, ModuleStart) {
               }));
     uint32_t limits[7] = {};
     ASSERT_EQ(VQ6192_ATM_GetAtmBmReg(kChip, limits), 0u);
-    const uint32_t expected[7] = {0x7FC00, 0x20000, 0x10000, 0x10000, 0x10000, 0xEBFF, 0x1001};
-    for (int i = 0; i < 7; ++i) {
-        EXPECT_EQ(limits[i], expected[i]) << i;
-    }
+    EXPECT_EQ(V32(limits, limits + 7), (V32{0x7FC00, 0x20000, 0x10000, 0x10000, 0x10000, 0xEBFF, 0x1001}));
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 2), 0u);
-    EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 0), kPara);
-    EXPECT_EQ(VQ6192_ATM_InitAtm(kChip, 3), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_InitAtm(kChip, 2), VQ6192_ATM_InitAtm(kChip, 0), VQ6192_ATM_InitAtm(kChip, 3)}),
+              (V32{0, kPara, kPara}));
     EXPECT_TRUE(model.trace().empty());
 }
 

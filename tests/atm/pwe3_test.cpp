@@ -1,5 +1,7 @@
 // ATM pseudowires: creation and removal with their table entries and labels, the delete handshake,
 // the per-PW fields, counters, FIFO flags and the PW packet capture.
+#include <tuple>
+
 #include "atm/atm_fixture.h"
 #include "vq6192/eth.h"
 #include "vq6192/sim/atm_pwe3.h"
@@ -10,15 +12,8 @@ using namespace atmtest;
 using vq6192::sim::AtmPwe3Block;
 using vq6192::sim::BusAccess;
 
-enum PwSel : uint32_t {
-    kPwCfg = 32,
-    kPwTxMng = 33,
-    kPwTxSt = 34,
-    kPwRxMng = 35,
-    kPwRxSt = 36,
-    kPktBuf = 37,
-    kPri = 38
-};
+constexpr uint32_t kPwCfg = 32, kPwTxMng = 33, kPwTxSt = 34, kPwRxMng = 35, kPwRxSt = 36, kPktBuf = 37,
+                   kPri = 38;
 constexpr uint32_t kStep = 0x03020004;  // chip 3, ATM, error 4
 
 using RegWrite = std::pair<uint32_t, uint32_t>;
@@ -41,113 +36,86 @@ class Pwe3Test : public AtmTest {
     }
     void prefill(uint32_t pw) {
         fillEntry(kPwCfg, pw, 4);
-        fillEntryWide(kPwRxMng, pw, 38);
+        fillEntry(kPwRxMng, pw, 38);
         fillEntry(kPwTxMng, pw, 30);
     }
     uint64_t tick() { return VQ6192_Platform_GetTickUs(); }
 };
 
 TEST_F(Pwe3Test, CreateWritesEntriesLabelsAndEnable) {
-    struct Case {
-        const char *name;
-        uint32_t pw;
-        ATM_PW_CFG cfg;
-        uint64_t rx;  // bits 0..37 of the receive management entry, pre-filled with ones
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, uint32_t, ATM_PW_CFG, uint64_t> cases[] = {
         {"N:1, VPI and VCI cut", 7, {0xFFFFF, 0x1FFFF, 0x100, 0x345, 0, 1, 0, 0, 1}, 0x3FFFFFFFFFull},
         {"VPC 1:1, VPI 4095", 2047, {4095, 0, 0xFFFFF, 0xFFF, 1, 0, 1, 1, 1}, 0xFFFull << 26 | 0x3FD},
         {"VCC 1:1", 300, {0x12, 0xABCD, 0x55, 0x77, 1, 1, 1, 2, 1}, 0x12ull << 26 | 0xABCDull << 10 | 0x3FF},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
-        prefill(k.pw);
-        ASSERT_EQ(VQ6192_ATM_CreateAtmPw(kChip, k.pw, &k.cfg), 0u);
-        EXPECT_EQ(bits(kPwCfg, k.pw, 0, 4), k.cfg.byEncpMode << 2 | k.cfg.byCwEn << 1 | 1u);
-        EXPECT_EQ(bits(kPwRxMng, k.pw, 0, 38), k.rx);
-        EXPECT_EQ(bits(kPwTxMng, k.pw, 0, 30), 0x3FFFFFFEu | k.cfg.bySnAddEn);
+    for (const auto &[name, pw, cfg, rx] : cases) {
+        SCOPED_TRACE(name);
+        prefill(pw);
+        ASSERT_EQ(VQ6192_ATM_CreateAtmPw(kChip, pw, &cfg), 0u);
+        // Mode, control word and enable; receive and transmit management; PW label; in-label to ATM (2).
+        EXPECT_EQ((V{bits(kPwCfg, pw, 0, 4), bits(kPwRxMng, pw, 0, 38), bits(kPwTxMng, pw, 0, 30)}),
+                  (V{cfg.byEncpMode << 2 | cfg.byCwEn << 1 | 1u, rx, 0x3FFFFFFEu | cfg.bySnAddEn}));
         VQ6192_ETH_PSN_INFO_S info{};
-        ASSERT_EQ(VQ6192_ETH_GetPSNEthInfo(kChip, k.pw, VQ6192_ETH_SRV_ATM, &info), 0u);
-        EXPECT_EQ(info.dwLblPwLable, k.cfg.dwPwLabel);
         uint32_t srv = 9, ch = 9, valid = 9;
-        ASSERT_EQ(VQ6192_ETH_GetAtmCesEgChnl2Mpls(kChip, 0, k.cfg.dwInLabel, &srv, &ch, &valid), 0u);
-        EXPECT_EQ(valid, 1u);
-        EXPECT_EQ(srv, 2u);
-        EXPECT_EQ(ch, k.pw);
+        ASSERT_EQ((V32{VQ6192_ETH_GetPSNEthInfo(kChip, pw, VQ6192_ETH_SRV_ATM, &info),
+                       VQ6192_ETH_GetAtmCesEgChnl2Mpls(kChip, 0, cfg.dwInLabel, &srv, &ch, &valid)}),
+                  (V32{0, 0}));
+        EXPECT_EQ((V{info.dwLblPwLable, valid, srv, ch}), (V{cfg.dwPwLabel, 1, 2, pw}));
     }
 }
 
 TEST_F(Pwe3Test, CreateRefusalsTouchNothing) {
-    struct Case {
-        const char *name;
-        uint32_t pw;
-        ATM_PW_CFG cfg;
-        uint32_t status;
-        const char *trace;
+    const std::string cw =
+        "Err.chipid 3 VQ6192_ATM_CreateAtmPw VPC1:1 or VCC1:1 , CW must be enabled! "
+        "EnType[0x2], CWEn[0]      ErrCode[0x3020004]\r\n";
+    const std::tuple<const char *, uint32_t, ATM_PW_CFG> cases[] = {
+        {"PW 2048", 2048, {0, 0, 1, 1, 1, 0, 0, 0, 1}},
+        {"control word 2", 1, {0, 0, 1, 1, 2, 0, 0, 0, 1}},
+        {"sequence check 2", 1, {0, 0, 1, 1, 1, 2, 0, 0, 1}},
+        {"sequence add 2", 1, {0, 0, 1, 1, 1, 0, 2, 0, 1}},
+        {"mode 4", 1, {0, 0, 1, 1, 1, 0, 0, 4, 1}},
+        {"VPC VPI 4096", 1, {4096, 0, 1, 1, 1, 0, 0, 1, 1}},
+        {"VCC VCI 65536", 1, {0, 65536, 1, 1, 1, 0, 0, 2, 1}},
+        {"PW label", 1, {0, 0, 0x100000, 1, 1, 0, 0, 0, 1}},
+        {"in-label", 1, {0, 0, 1, 0x100000, 1, 0, 0, 0, 1}},
+        {"VCC without control word", 5, {1, 2, 3, 4, 0, 0, 0, 2, 1}},
     };
-    const char *para = "ParaErr. \r\n";
-    const Case cases[] = {
-        {"PW 2048", 2048, {0, 0, 1, 1, 1, 0, 0, 0, 1}, kPara, para},
-        {"control word 2", 1, {0, 0, 1, 1, 2, 0, 0, 0, 1}, kPara, para},
-        {"sequence check 2", 1, {0, 0, 1, 1, 1, 2, 0, 0, 1}, kPara, para},
-        {"sequence add 2", 1, {0, 0, 1, 1, 1, 0, 2, 0, 1}, kPara, para},
-        {"mode 4", 1, {0, 0, 1, 1, 1, 0, 0, 4, 1}, kPara, para},
-        {"VPC VPI 4096", 1, {4096, 0, 1, 1, 1, 0, 0, 1, 1}, kPara, para},
-        {"VCC VCI 65536", 1, {0, 65536, 1, 1, 1, 0, 0, 2, 1}, kPara, para},
-        {"PW label", 1, {0, 0, 0x100000, 1, 1, 0, 0, 0, 1}, kPara, para},
-        {"in-label", 1, {0, 0, 1, 0x100000, 1, 0, 0, 0, 1}, kPara, para},
-        {"VCC without control word",
-         5,
-         {1, 2, 3, 4, 0, 0, 0, 2, 1},
-         kStep,
-         "Err.chipid 3 VQ6192_ATM_CreateAtmPw VPC1:1 or VCC1:1 , CW must be enabled! EnType[0x2], CWEn[0]    "
-         "  "
-         "ErrCode[0x3020004]\r\n"},
-    };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
+    for (const auto &[name, pw, cfg] : cases) {
+        SCOPED_TRACE(name);
         model.clearTrace();
         capture.clear();
-        EXPECT_EQ(VQ6192_ATM_CreateAtmPw(kChip, k.pw, &k.cfg), k.status);
+        const bool rule = cfg.byCwEn == 0;  // the control-word rule: error 4 and its own text
+        EXPECT_EQ(VQ6192_ATM_CreateAtmPw(kChip, pw, &cfg), rule ? kStep : kPara);
         EXPECT_TRUE(vqtest::writes(model.trace()).empty());
-        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{k.trace});
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{rule ? cw : "ParaErr. \r\n"});
     }
     EXPECT_EQ(VQ6192_ATM_CreateAtmPw(kChip, 1, nullptr), kPara);
 }
 
 TEST_F(Pwe3Test, DisableRunsTheDeleteHandshake) {
-    struct Case {
-        const char *name;
-        uint32_t pw;
-        uint32_t polls;
-        uint32_t status;
-        uint64_t waitedUs;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, uint32_t, uint32_t, uint32_t, uint64_t> cases[] = {
         {"done at the first poll", 0x7FF, 1, 0, 2},
         {"done at poll 1000", 5, 1000, 0, 2000},
         {"never done", 6, AtmPwe3Block::kForever, kStep, 2000},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
-        setBits(kPwCfg, k.pw, 0, 4, 0xF);
+    for (const auto &[name, pw, polls, status, waitedUs] : cases) {
+        SCOPED_TRACE(name);
+        setBits(kPwCfg, pw, 0, 4, 0xF);
         model.poke(0xA740, 0xE000);  // bits above the handshake kept
-        pwe3().setDeletePolls(k.polls);
+        pwe3().setDeletePolls(polls);
         model.clearTrace();
         capture.clear();
         VQ6192_Platform_ResetVirtualTime();
-        EXPECT_EQ(VQ6192_ATM_SetPwEnable(kChip, k.pw, 0), k.status);
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), k.waitedUs);
-        EXPECT_EQ(bits(kPwCfg, k.pw, 0, 4), 0xEu);
+        EXPECT_EQ(VQ6192_ATM_SetPwEnable(kChip, pw, 0), status);
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), waitedUs);
+        EXPECT_EQ(bits(kPwCfg, pw, 0, 4), 0xEu);
         // The last write puts back what it read: the done bit when the chip raised it.
-        const uint32_t done = k.status == 0 ? 0x1000 : 0;
-        const std::vector<RegWrite> expect = {{0xA740, 0xE000},
-                                              {0xA740, 0xE000 | k.pw},
-                                              {0xA740, 0xE800 | k.pw},
-                                              {0xA740, 0xE000 | done | k.pw}};
+        const uint32_t done = status == 0 ? 0x1000 : 0;
+        const std::vector<RegWrite> expect = {
+            {0xA740, 0xE000}, {0xA740, 0xE000 | pw}, {0xA740, 0xE800 | pw}, {0xA740, 0xE000 | done | pw}};
         EXPECT_EQ(regWrites(0xA740), expect);
-        EXPECT_GE(g_ulVq6192AtmPwe3EnableCnt, k.polls == AtmPwe3Block::kForever ? 1000u : k.polls);
-        if (k.status != 0) {
+        EXPECT_GE(g_ulVq6192AtmPwe3EnableCnt, polls == AtmPwe3Block::kForever ? 1000u : polls);
+        if (status != 0) {
             EXPECT_TRUE(
                 traced("Err. VQ6192_ATM_SetPwEnable ATMPWE3DRV_RemoveAtmPw. Delete don't finish. "
                        "ChipID[0x3],     ErrCode[0x3020004]\r\n"));
@@ -178,9 +146,9 @@ TEST_F(Pwe3Test, RemoveClearsEntriesAndLabelEvenWhenDeleteHangs) {
         capture.clear();
         const uint32_t status = polls == 3 ? 0u : kStep;
         EXPECT_EQ(VQ6192_ATM_RemoveAtmPw(kChip, 40, 0x777), status);
-        EXPECT_EQ(bits(kPwCfg, 40, 0, 4), 0u);
-        EXPECT_EQ(bits(kPwRxMng, 40, 0, 38), 0x3FDu) << "packet drop and reset range kept";
-        EXPECT_EQ(bits(kPwTxMng, 40, 0, 30), 0x3FFFFFFEu);
+        EXPECT_EQ((V{bits(kPwCfg, 40, 0, 4), bits(kPwRxMng, 40, 0, 38), bits(kPwTxMng, 40, 0, 30)}),
+                  (V{0, 0x3FD, 0x3FFFFFFE}))
+            << "packet drop and reset range kept";
         uint32_t srv = 0, ch = 0, valid = 9;
         EXPECT_EQ(VQ6192_ETH_GetAtmCesEgChnl2Mpls(kChip, 0, 0x777, &srv, &ch, &valid), 0u);
         EXPECT_EQ(valid, 0u);
@@ -190,21 +158,14 @@ TEST_F(Pwe3Test, RemoveClearsEntriesAndLabelEvenWhenDeleteHangs) {
             status != 0);
     }
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_RemoveAtmPw(kChip, 40, 0x100000), kPara);
-    EXPECT_EQ(VQ6192_ATM_RemoveAtmPw(kChip, 2048, 1), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_RemoveAtmPw(kChip, 40, 0x100000), VQ6192_ATM_RemoveAtmPw(kChip, 2048, 1)}),
+              V32(2, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
 TEST_F(Pwe3Test, FieldSettersChangeOnlyTheirField) {
-    struct Case {
-        const char *name;
-        uint32_t (*set)(uint32_t chip);
-        uint32_t sel;
-        uint32_t index;
-        uint32_t width;   // entry width, pre-filled with ones
-        uint64_t expect;  // entry after the write
-    };
-    const Case cases[] = {
+    // The setter, the entry it changes, its width (pre-filled with ones) and its bits after the write.
+    const std::tuple<const char *, uint32_t (*)(uint32_t), uint32_t, uint32_t, uint32_t, uint64_t> cases[] = {
         {"mode 1", [](uint32_t c) { return VQ6192_ATM_SetAtmPwEncpMode(c, 3, 1); }, kPwCfg, 3, 4, 0x7},
         {"control word off in N:1 mode 3", [](uint32_t c) { return VQ6192_ATM_SetAtmPwCWEn(c, 3, 0); },
          kPwCfg, 3, 4, 0xD},
@@ -233,28 +194,25 @@ TEST_F(Pwe3Test, FieldSettersChangeOnlyTheirField) {
         {"UBR priority", [](uint32_t c) { return VQ6192_ATM_SetPwPriTemplate(c, 31, 5, 6); }, kPri, 31, 15,
          0x7FFE},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
-        fillEntryWide(k.sel, k.index, k.width);
+    for (const auto &[name, set, sel, index, width, after] : cases) {
+        SCOPED_TRACE(name);
+        fillEntry(sel, index, width);
         fillEntry(kPwTxMng, 3, 30);
-        ASSERT_EQ(k.set(kChip), 0u);
-        EXPECT_EQ(bits(k.sel, k.index, 0, k.width), k.expect);
+        ASSERT_EQ(set(kChip), 0u);
+        EXPECT_EQ(bits(sel, index, 0, width), after);
     }
 }
 
 TEST_F(Pwe3Test, ControlWordRuleOfTheOneToOneModes) {
-    struct Case {
-        uint32_t cfg;  // bits 0..3 of the configuration entry
-        uint8_t reported;
-    };
     // mode in bits 2..3, control word bit 1, enable bit 0
-    const Case cases[] = {{0x4 | 0x1, 1}, {0x8 | 0x1, 1}, {0x0 | 0x1, 0}, {0xC | 0x3, 1}, {0xC, 0}};
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.cfg);
-        setBits(kPwCfg, 12, 0, 4, k.cfg);
+    const std::tuple<uint32_t, uint8_t> cases[] = {
+        {0x4 | 0x1, 1}, {0x8 | 0x1, 1}, {0x0 | 0x1, 0}, {0xC | 0x3, 1}, {0xC, 0}};
+    for (const auto &[cfg, reported] : cases) {
+        SCOPED_TRACE(cfg);
+        setBits(kPwCfg, 12, 0, 4, cfg);
         uint8_t cw = 9;
         EXPECT_EQ(VQ6192_ATM_GetAtmPwCWEn(kChip, 12, &cw), 0u);
-        EXPECT_EQ(cw, k.reported);
+        EXPECT_EQ(cw, reported);
     }
     setBits(kPwCfg, 12, 0, 4, 0x7);  // VPC one-to-one, control word on
     capture.clear();
@@ -267,21 +225,12 @@ TEST_F(Pwe3Test, ControlWordRuleOfTheOneToOneModes) {
 
 TEST_F(Pwe3Test, StatisticsRecordAndReadClear) {
     // Transmit entry: sn 0x1234, length 0x1ABCD, relay 0x15, delayed 0x7777, packets 0x89ABCDEF.
-    setBits(kPwTxSt, 100, 0, 32, 0x89ABCDEF);
-    setBits(kPwTxSt, 100, 32, 16, 0x7777);
-    setBits(kPwTxSt, 100, 48, 5, 0x15);
-    setBits(kPwTxSt, 100, 53, 17, 0x1ABCD);
-    setBits(kPwTxSt, 100, 70, 16, 0x1234);
+    setFields(kPwTxSt, 100,
+              {{0, 32, 0x89ABCDEF}, {32, 16, 0x7777}, {48, 5, 0x15}, {53, 17, 0x1ABCD}, {70, 16, 0x1234}});
     // Receive entry: fraction 0x11, disorder 0x22, loss 0x33, packets 0x44556677, error 1, reset 0x88,
     // last 0x99AA, expected 0xBBCC.
-    setBits(kPwRxSt, 100, 0, 16, 0x11);
-    setBits(kPwRxSt, 100, 16, 16, 0x22);
-    setBits(kPwRxSt, 100, 32, 16, 0x33);
-    setBits(kPwRxSt, 100, 48, 32, 0x44556677);
-    setBits(kPwRxSt, 100, 80, 1, 1);
-    setBits(kPwRxSt, 100, 81, 8, 0x88);
-    setBits(kPwRxSt, 100, 89, 16, 0x99AA);
-    setBits(kPwRxSt, 100, 105, 16, 0xBBCC);
+    setFields(kPwRxSt, 100, {{0, 16, 0x11}, {16, 16, 0x22}, {32, 16, 0x33}, {48, 32, 0x44556677}});
+    setFields(kPwRxSt, 100, {{80, 1, 1}, {81, 8, 0x88}, {89, 16, 0x99AA}, {105, 16, 0xBBCC}});
     model.poke(0xA6E0, 0x0102);
     model.poke(0xA6E2, 0x0304);
     model.poke(0xA008, 0xFFE0);
@@ -293,9 +242,7 @@ TEST_F(Pwe3Test, StatisticsRecordAndReadClear) {
     EXPECT_EQ(std::vector<uint32_t>(out, out + 14), std::vector<uint32_t>(expect, expect + 14));
     EXPECT_EQ(regWrites(0xA008), (std::vector<RegWrite>{{0xA008, 0xFFEF}, {0xA008, 0xFFFF}}));
     ASSERT_EQ(VQ6192_ATM_GetAtmPwe3Per(kChip, 100, out), 0u);
-    EXPECT_EQ(out[4], 0u) << "packet counters clear when read";
-    EXPECT_EQ(out[5], 0u);
-    EXPECT_EQ(out[12], 0u);
+    EXPECT_EQ((V{out[4], out[5], out[12]}), (V{0, 0, 0})) << "packet counters clear when read";
 
     model.poke(0xA008, 0xFFE0);
     model.clearTrace();
@@ -309,14 +256,13 @@ TEST_F(Pwe3Test, StatisticsRecordAndReadClear) {
 }
 
 TEST_F(Pwe3Test, FifoFlagsAndResets) {
-    model.poke(0xA680, 0xFFFE);  // rx Ethernet: empty 1, full 0
-    model.poke(0xA682, 0x0001);  // rx switch: empty 0, full 1
-    model.poke(0xA684, 0x0003);
-    model.poke(0xA686, 0x0000);
-    model.poke(0xA68A, 0xFFA5);  // 1010 0101
-    model.poke(0xA6A0, 0xFFF6);  // 0110
-    model.poke(0xA6C0, 0x0001);
-    model.poke(0xA6C2, 0xFFFE);
+    // rx Ethernet: empty 1, full 0; rx switch: empty 0, full 1; 0xA68A 1010 0101; 0xA6A0 0110.
+    const std::pair<uint32_t, uint16_t> regs[] = {{0xA680, 0xFFFE}, {0xA682, 0x0001}, {0xA684, 0x0003},
+                                                  {0xA686, 0x0000}, {0xA68A, 0xFFA5}, {0xA6A0, 0xFFF6},
+                                                  {0xA6C0, 0x0001}, {0xA6C2, 0xFFFE}};
+    for (const auto &[reg, value] : regs) {
+        model.poke(reg, value);
+    }
     uint8_t out[22] = {};
     ASSERT_EQ(VQ6192_ATM_GetPw3FIFOStats(kChip, out), 0u);
     const uint8_t expect[22] = {1, 0, 0, 1, 1, 1, 0, 0, 1, 0, 1, 0, 0, 1, 0, 1, 0, 1, 1, 0, 1, 0};
@@ -328,8 +274,8 @@ TEST_F(Pwe3Test, FifoFlagsAndResets) {
         EXPECT_EQ(model.peek(0xA6A0), 0xFFFF & ~bitOf[which]);
     }
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_SetPw3FIFOStats(kChip, 4, 0), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetPw3FIFOStats(kChip, 0, 2), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_SetPw3FIFOStats(kChip, 4, 0), VQ6192_ATM_SetPw3FIFOStats(kChip, 0, 2)}),
+              V32(2, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
@@ -350,14 +296,13 @@ TEST_F(Pwe3Test, LoopbacksTimeAndInit) {
     ASSERT_EQ(VQ6192_ATM_InitAtm(kChip, 1), 0u);
     EXPECT_EQ(model.peek(0xA2E8), 32) << "start value";
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_SetPWE3Loop(kChip, 2, 1), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetSendPwe3Time(kChip, 0x10000), kPara);
-    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 1), 0u);
-    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 2), 0u);
-    EXPECT_TRUE(model.trace().empty()) << "nothing to do at start";
-    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 0), kPara);
-    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(kChip, 3), kPara);
-    EXPECT_EQ(VQ6192_ATM_AtmPwe3Init(264, 1), 0x08020001u);
+    // The start of the PW block has nothing to do.
+    EXPECT_EQ((V32{VQ6192_ATM_SetPWE3Loop(kChip, 2, 1), VQ6192_ATM_SetSendPwe3Time(kChip, 0x10000),
+                   VQ6192_ATM_AtmPwe3Init(kChip, 1), VQ6192_ATM_AtmPwe3Init(kChip, 2),
+                   VQ6192_ATM_AtmPwe3Init(kChip, 0), VQ6192_ATM_AtmPwe3Init(kChip, 3),
+                   VQ6192_ATM_AtmPwe3Init(264, 1)}),
+              (V32{kPara, kPara, 0, 0, kPara, kPara, 0x08020001u}));
+    EXPECT_TRUE(model.trace().empty());
 }
 
 TEST_F(Pwe3Test, PacketCaptureCopiesTheFirstPacket) {
@@ -392,11 +337,7 @@ TEST_F(Pwe3Test, PacketCaptureCopiesTheFirstPacket) {
     uint16_t count = 0;
     capture.clear();
     ASSERT_EQ(VQ6192_ATM_GetAtmPWE3CapData(kChip, data.data(), ends.data(), &count), 0u);
-    EXPECT_EQ(count, 2);
-    EXPECT_EQ(ends[0], 53);
-    EXPECT_EQ(ends[1], 60);
-    EXPECT_EQ(data[57], 5);
-    EXPECT_EQ(data[59], 7);
+    EXPECT_EQ((V{count, ends[0], ends[1], data[57], data[59]}), (V{2, 53, 60, 5, 7}));
     EXPECT_TRUE(traced("Err. VQ6192_ATM_GetAtmPWE3CapData OK! ErrorCode: 0\r\n"));
 }
 
@@ -436,9 +377,10 @@ TEST_F(Pwe3Test, PacketCaptureFailures) {
     EXPECT_EQ(cell[0], 0x5A);
 
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 2048, 0, cell, &length), kPara);
-    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 1, 2, cell, &length), kPara);
-    EXPECT_EQ(VQ6192_ATM_GetAtmPWE3CapCell(kChip, 1, 0, nullptr, &length), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_GetAtmPWE3CapCell(kChip, 2048, 0, cell, &length),
+                   VQ6192_ATM_GetAtmPWE3CapCell(kChip, 1, 2, cell, &length),
+                   VQ6192_ATM_GetAtmPWE3CapCell(kChip, 1, 0, nullptr, &length)}),
+              V32(3, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 

@@ -1,5 +1,7 @@
 // ATM counters, alarms and cell capture: which counter sits where, read-clear, the capture match
 // registers, the capture polls and the FIFO drain.
+#include <tuple>
+
 #include "atm/atm_fixture.h"
 #include "vq6192/sim/atm_pwe3.h"
 
@@ -8,7 +10,7 @@ namespace {
 using namespace atmtest;
 using vq6192::sim::AtmPwe3Block;
 
-enum StatSel : uint32_t { kTrcc = 1, kTtcc = 2, kLpcc = 6, kSpcc = 8, kBmPvcSta = 18, kBmFifoSta = 20 };
+constexpr uint32_t kTrcc = 1, kTtcc = 2, kLpcc = 6, kSpcc = 8, kBmPvcSta = 18, kBmFifoSta = 20;
 
 class StatsTest : public AtmTest {
   protected:
@@ -34,18 +36,16 @@ class StatsTest : public AtmTest {
 };
 
 TEST_F(StatsTest, PortCountersClearWhenRead) {
-    struct Case {
-        uint32_t port, side, sel;
-    };
-    for (const Case &k : {Case{335, 0, kLpcc}, Case{0, 0, kLpcc}, Case{2047, 1, kSpcc}}) {
-        SCOPED_TRACE(k.port);
-        setBits(k.sel, k.port, 0, 32, 0x0BADCAFE);   // transmitted
-        setBits(k.sel, k.port, 32, 32, 0xFEEDF00D);  // received
+    using Case = std::tuple<uint32_t, uint32_t, uint32_t>;
+    for (const auto &[port, side, sel] : {Case{335, 0, kLpcc}, Case{0, 0, kLpcc}, Case{2047, 1, kSpcc}}) {
+        SCOPED_TRACE(port);
+        setBits(sel, port, 0, 32, 0x0BADCAFE);   // transmitted
+        setBits(sel, port, 32, 32, 0xFEEDF00D);  // received
         uint32_t rcc = 0, tcc = 0;
-        ASSERT_EQ(VQ6192_ATM_GetAtmPortStat(kChip, k.port, k.side, &rcc, &tcc), 0u);
+        ASSERT_EQ(VQ6192_ATM_GetAtmPortStat(kChip, port, side, &rcc, &tcc), 0u);
         EXPECT_EQ(rcc, 0xFEEDF00Du);
         EXPECT_EQ(tcc, 0x0BADCAFEu);
-        ASSERT_EQ(VQ6192_ATM_GetAtmPortStat(kChip, k.port, k.side, &rcc, &tcc), 0u);
+        ASSERT_EQ(VQ6192_ATM_GetAtmPortStat(kChip, port, side, &rcc, &tcc), 0u);
         EXPECT_EQ(rcc + tcc, 0u) << "second read";
     }
     setBits(kSpcc, 7, 32, 32, 9);
@@ -53,50 +53,42 @@ TEST_F(StatsTest, PortCountersClearWhenRead) {
     EXPECT_EQ(VQ6192_ATM_GetAtmPortStat_Pro(kChip, 7, 1, &rcc, &tcc), 0u);
     EXPECT_EQ(rcc, 9u);
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_GetAtmPortStat(kChip, 2048, 1, &rcc, &tcc), kPara);
-    EXPECT_EQ(VQ6192_ATM_GetAtmPortStat(kChip, 336, 0, &rcc, &tcc), kPara);
-    EXPECT_EQ(VQ6192_ATM_GetAtmPortStat(kChip, 0, 2, &rcc, &tcc), kPara);
-    EXPECT_EQ(VQ6192_ATM_GetAtmPortStat(kChip, 0, 0, nullptr, &tcc), kPara);
-    EXPECT_EQ(VQ6192_ATM_GetAtmPortStat_Pro(kChip, 0, 0, &rcc, &tcc), kPara) << "line side refused";
+    // The last: the line side is refused by the variant.
+    EXPECT_EQ((V32{VQ6192_ATM_GetAtmPortStat(kChip, 2048, 1, &rcc, &tcc),
+                   VQ6192_ATM_GetAtmPortStat(kChip, 336, 0, &rcc, &tcc),
+                   VQ6192_ATM_GetAtmPortStat(kChip, 0, 2, &rcc, &tcc),
+                   VQ6192_ATM_GetAtmPortStat(kChip, 0, 0, nullptr, &tcc),
+                   VQ6192_ATM_GetAtmPortStat_Pro(kChip, 0, 0, &rcc, &tcc)}),
+              V32(5, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
 TEST_F(StatsTest, ConnectionCounters) {
     setBits(kTtcc, 8191, 0, 32, 0x11112222);
     setBits(kTrcc, 8191, 0, 32, 0x33334444);
-    setBits(kBmPvcSta, 8191, 0, 64, ~0ull);
-    setBits(kBmPvcSta, 8191, 0, 16, 0x1234);
-    setBits(kBmPvcSta, 8191, 17, 1, 0);  // frame discard state off, the two others on
+    // Drop count 0x1234; frame discard state (17) off, the new-frame (16) and partial (18) states on.
+    setFields(kBmPvcSta, 8191, {{0, 64, ~0ull}, {0, 16, 0x1234}, {17, 1, 0}});
     setBits(kBmFifoSta, 335, 0, 16, 0xABCD);
-    setBits(kOamSt, 8191, 0, 27, 0x7FFFFFF);
-    setBits(kOamSt, 8191, 8, 8, 0x5A);
-    setBits(kOamSt, 8191, 16, 4, 0x9);
-    uint32_t tt = 0, tr = 0;
-    ASSERT_EQ(VQ6192_ATM_GetAtmVcsStat(kChip, 8191, &tt, &tr), 0u);
-    EXPECT_EQ(tt, 0x11112222u);
-    EXPECT_EQ(tr, 0x33334444u);
-    uint16_t drop = 0;
-    ASSERT_EQ(VQ6192_ATM_GetAtmVcxDropStat(kChip, 8191, &drop), 0u);
-    EXPECT_EQ(drop, 0x1234);
+    setFields(kOamSt, 8191, {{0, 27, 0x7FFFFFF}, {8, 8, 0x5A}, {16, 4, 0x9}});
+    uint32_t tt = 0, tr = 0, tt2 = 9, tr2 = 9;
+    uint16_t drop = 0, drop2 = 9, portDrop = 0, timer = 0, cc = 0;
     uint8_t all5 = 0, fd = 9, pfd = 0;
-    ASSERT_EQ(VQ6192_ATM_GetVcxDropInfo(kChip, 8191, &all5, &fd, &pfd), 0u);
-    EXPECT_EQ(all5, 1);
-    EXPECT_EQ(fd, 0);
-    EXPECT_EQ(pfd, 1);
-    ASSERT_EQ(VQ6192_ATM_GetAtmVcxDropStat(kChip, 8191, &drop), 0u);
-    EXPECT_EQ(drop, 0) << "drop counter clears when read";
-    ASSERT_EQ(VQ6192_ATM_GetAtmPortDropStat(kChip, 335, &drop), 0u);
-    EXPECT_EQ(drop, 0xABCD);
-    uint16_t timer = 0, cc = 0;
-    ASSERT_EQ(VQ6192_ATM_GetAtmCcSrcStat(kChip, 8191, &timer, &cc), 0u);
-    EXPECT_EQ(timer, 0x9);
-    EXPECT_EQ(cc, 0x5A);
-    ASSERT_EQ(VQ6192_ATM_GetAtmVcsStat(kChip, 8191, &tt, &tr), 0u);
-    EXPECT_EQ(tt + tr, 0u);
+    EXPECT_EQ((V32{VQ6192_ATM_GetAtmVcsStat(kChip, 8191, &tt, &tr),
+                   VQ6192_ATM_GetAtmVcxDropStat(kChip, 8191, &drop),
+                   VQ6192_ATM_GetVcxDropInfo(kChip, 8191, &all5, &fd, &pfd),
+                   VQ6192_ATM_GetAtmVcxDropStat(kChip, 8191, &drop2),
+                   VQ6192_ATM_GetAtmPortDropStat(kChip, 335, &portDrop),
+                   VQ6192_ATM_GetAtmCcSrcStat(kChip, 8191, &timer, &cc),
+                   VQ6192_ATM_GetAtmVcsStat(kChip, 8191, &tt2, &tr2)}),
+              V32(7, 0));
+    // The drop and connection counters clear when read.
+    EXPECT_EQ((V{tt, tr, drop, all5, fd, pfd, drop2, portDrop, timer, cc, tt2, tr2}),
+              (V{0x11112222, 0x33334444, 0x1234, 1, 0, 1, 0, 0xABCD, 0x9, 0x5A, 0, 0}));
     model.clearTrace();
-    EXPECT_EQ(VQ6192_ATM_GetAtmVcsStat(kChip, 8192, &tt, &tr), kPara);
-    EXPECT_EQ(VQ6192_ATM_GetAtmPortDropStat(kChip, 336, &drop), kPara);
-    EXPECT_EQ(VQ6192_ATM_GetAtmCcSrcStat(kChip, 8193, &timer, &cc), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_GetAtmVcsStat(kChip, 8192, &tt, &tr),
+                   VQ6192_ATM_GetAtmPortDropStat(kChip, 336, &drop),
+                   VQ6192_ATM_GetAtmCcSrcStat(kChip, 8193, &timer, &cc)}),
+              V32(3, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
@@ -122,12 +114,9 @@ TEST_F(StatsTest, ChipWideCountersInRecordOrder) {
     ATM_OAM_STAT o{};
     model.clearTrace();
     ASSERT_EQ(VQ6192_ATM_GetAtmOamStat(kChip, &o), 0u);
-    EXPECT_EQ(o.wOamMin, 0x204);
-    EXPECT_EQ(o.wOamInNum, 0x204) << "same register, read again";
-    EXPECT_EQ(o.wOamCapNum, 2);
-    EXPECT_EQ(o.wOamCapRx, 0x201);
-    EXPECT_EQ(o.wOamDrop, 0x207);
-    EXPECT_EQ(o.wCapltInc, 0x20C);
+    // wOamMin and wOamInNum: the same register, read again.
+    EXPECT_EQ((V{o.wOamMin, o.wOamInNum, o.wOamCapNum, o.wOamCapRx, o.wOamDrop, o.wCapltInc}),
+              (V{0x204, 0x204, 2, 0x201, 0x207, 0x20C}));
     EXPECT_EQ(model.trace().size(), 13u) << "thirteen reads";
     const uint32_t qmRegs[6][2] = {{0xA520, 0xA522}, {0xA540, 0xA542}, {0xA560, 0xA562},
                                    {0xA580, 0xA582}, {0xA5A0, 0xA5A2}, {0xA500, 0xA502}};
@@ -137,22 +126,19 @@ TEST_F(StatsTest, ChipWideCountersInRecordOrder) {
     }
     ATM_QM_DATA_STAT q{};
     ASSERT_EQ(VQ6192_ATM_GetAtmQmDataStat(kChip, &q), 0u);
-    EXPECT_EQ(q.dwCbrData, 0x00001u);
-    EXPECT_EQ(q.dwNrtVbrData, 0x22001u);
-    EXPECT_EQ(q.dwGlobalData, 0x55001u);
-    model.poke(0xA270, 1);
-    model.poke(0xA272, 2);
-    model.poke(0xA2F0, 3);
-    model.poke(0xA2EE, 4);
+    EXPECT_EQ((V{q.dwCbrData, q.dwNrtVbrData, q.dwGlobalData}), (V{0x00001, 0x22001, 0x55001}));
+    for (uint32_t reg : {0xA270, 0xA272, 0xA2F0, 0xA2EE}) {
+        model.poke(reg, reg == 0xA270 ? 1 : reg == 0xA272 ? 2 : reg == 0xA2F0 ? 3 : 4);
+    }
     ATM_POLICING_STAT p{};
     ASSERT_EQ(VQ6192_ATM_GetAtmPolicingStat(kChip, &p), 0u);
     EXPECT_EQ(p.wPolDropRx * 1000 + p.wPolDropTx * 100 + p.wPolTagRx * 10 + p.wPolTagTx, 1234);
 }
 
 TEST_F(StatsTest, AlarmsAndDeleteStatus) {
-    model.poke(0xA306, 0x1111);
-    model.poke(0xA30A, 0x2222);
-    model.poke(0xA30C, 0x3333);
+    for (uint32_t reg : {0xA306, 0xA30A, 0xA30C}) {
+        model.poke(reg, reg == 0xA306 ? 0x1111 : reg == 0xA30A ? 0x2222 : 0x3333);
+    }
     model.tables().holdBusy(kAtmBlock, 2);  // the table RAM busy bit, read by both alarms
     model.poke(0xA294, 0xFFFE);
     model.poke(0xA296, 0x0001);
@@ -166,23 +152,17 @@ TEST_F(StatsTest, AlarmsAndDeleteStatus) {
     ASSERT_EQ(VQ6192_ATM_GetAtmTabRamBusy(kChip, &busy), 0u);
     EXPECT_EQ(busy, 1);
     // The status field reads 3 once the chip has deleted the queue a delete command named.
-    struct Case {
-        uint16_t stored;
-        bool deleted;
-        uint8_t del, type;
-        uint16_t port;
-    };
-    for (const Case &k : {Case{0x1E00 | 0x1FF, true, 1, 0xF, 0x1FF}, Case{0x0200 | 5, false, 0, 1, 5},
-                          Case{0x0400 | 0x150, true, 1, 2, 0x150}, Case{0xC000, false, 0, 0, 0}}) {
-        SCOPED_TRACE(k.stored);
-        model.busWrite(0xA860, k.deleted ? 0xC000 : 0);
-        model.poke(0xA862, k.stored);
+    using Case = std::tuple<uint16_t, bool, uint8_t, uint8_t, uint16_t>;
+    for (const auto &[stored, deleted, wantDel, wantType, wantPort] :
+         {Case{0x1E00 | 0x1FF, true, 1, 0xF, 0x1FF}, Case{0x0200 | 5, false, 0, 1, 5},
+          Case{0x0400 | 0x150, true, 1, 2, 0x150}, Case{0xC000, false, 0, 0, 0}}) {
+        SCOPED_TRACE(stored);
+        model.busWrite(0xA860, deleted ? 0xC000 : 0);
+        model.poke(0xA862, stored);
         uint8_t del = 9, type = 99;
         uint16_t port = 999;
         ASSERT_EQ(VQ6192_ATM_GetVpcDelAck(kChip, &del, &type, &port), 0u);
-        EXPECT_EQ(del, k.del);
-        EXPECT_EQ(type, k.type);
-        EXPECT_EQ(port, k.port);
+        EXPECT_EQ((V{del, type, port}), (V{wantDel, wantType, wantPort}));
     }
 }
 
@@ -206,26 +186,16 @@ TEST_F(StatsTest, CellCaptureByModeLeavesStartBitsCleared) {
         // register, value after the capture
         std::vector<std::pair<uint32_t, uint16_t>> regs;
     };
+    // clang-format off
     const Case cases[] = {
         {"line by VCX", 0, 0x1ABC, 0, 0, 0, 0, {{0xA2DE, 0xC000 | 0x1ABC}, {0xA2DC, 0xFDFF}}},
-        {"line by port, VPI and VCI",
-         1,
-         335,
-         1,
-         4095,
-         0xBEEF,
-         0,
+        {"line by port, VPI and VCI", 1, 335, 1, 4095, 0xBEEF, 0,
          {{0xA2DC, 0xF800 | 0x400 | 335}, {0xA2D8, 0xFFFF}, {0xA2DA, 0xBEEF}, {0xA2DE, 0xDFFF}}},
         {"system by VCX", 2, 2047, 0, 0, 0, 1, {{0xA2E6, 0xC000 | 2047}, {0xA2E4, 0xF7FF}}},
-        {"system by PW, VPI only",
-         3,
-         1234,
-         0,
-         0x123,
-         7,
-         1,
+        {"system by PW, VPI only", 3, 1234, 0, 0x123, 7, 1,
          {{0xA2E4, 0xE000 | 1234}, {0xA2E0, 0xF123}, {0xA2E2, 7}, {0xA2E6, 0xDFFF}}},
     };
+    // clang-format on
     for (const Case &k : cases) {
         SCOPED_TRACE(k.name);
         for (uint32_t reg : {0xA2D8, 0xA2DA, 0xA2DC, 0xA2DE, 0xA2E0, 0xA2E2, 0xA2E4, 0xA2E6}) {
@@ -254,24 +224,21 @@ TEST_F(StatsTest, CellCaptureWithoutCellAndRefusals) {
     VQ6192_Platform_ResetVirtualTime();
     uint8_t out[64] = {};
     EXPECT_EQ(VQ6192_ATM_CaptureAtmCell(kChip, out, 3, 1, 0, 0, 0), kPara);
-    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 6 * 1000ull * VQ6192_Platform_GetTickUs());
-    EXPECT_EQ(model.peek(0xA2E4) & 0x0800, 0);
-    EXPECT_EQ(pwe3().fifoWords(0), 16u) << "the line FIFO is not touched";
+    // Six polls 1000 ticks apart, the start bit dropped, the line FIFO not touched.
+    EXPECT_EQ((V{VQ6192_Platform_GetVirtualTimeUs(), model.peek(0xA2E4) & 0x0800u, pwe3().fifoWords(0)}),
+              (V{6 * 1000ull * VQ6192_Platform_GetTickUs(), 0, 16}));
     ASSERT_EQ(VQ6192_ATM_CaptureAtmLcapCell(kChip, out), 0u);
-    EXPECT_EQ(out[0], 0x42);
-    EXPECT_EQ(pwe3().fifoWords(0), 0u);
+    EXPECT_EQ((V{out[0], pwe3().fifoWords(0)}), (V{0x42, 0}));
 
-    struct Case {
-        uint32_t mode, index, matchVci, vpi;
-        bool traced;
-    };
+    using Case = std::tuple<uint32_t, uint32_t, uint32_t, uint32_t, bool>;
     model.clearTrace();
-    for (const Case &k : {Case{0, 8193, 0, 0, true}, Case{1, 336, 0, 0, true}, Case{2, 2048, 0, 0, true},
-                          Case{3, 2048, 0, 0, true}, Case{1, 1, 1, 4096, true}, Case{3, 1, 2, 0, true},
-                          Case{4, 0, 0, 0, false}}) {
+    for (const auto &[mode, index, matchVci, vpi, paraErr] :
+         {Case{0, 8193, 0, 0, true}, Case{1, 336, 0, 0, true}, Case{2, 2048, 0, 0, true},
+          Case{3, 2048, 0, 0, true}, Case{1, 1, 1, 4096, true}, Case{3, 1, 2, 0, true},
+          Case{4, 0, 0, 0, false}}) {
         capture.clear();
-        EXPECT_EQ(VQ6192_ATM_CaptureAtmCell(kChip, out, k.mode, k.index, k.matchVci, k.vpi, 0), kPara);
-        EXPECT_EQ(traced("ParaErr. \r\n"), k.traced);
+        EXPECT_EQ(VQ6192_ATM_CaptureAtmCell(kChip, out, mode, index, matchVci, vpi, 0), kPara);
+        EXPECT_EQ(traced("ParaErr. \r\n"), paraErr);
     }
     EXPECT_EQ(VQ6192_ATM_CaptureAtmCell(kChip, nullptr, 0, 0, 0, 0, 0), kPara);
     EXPECT_TRUE(model.trace().empty());

@@ -1,6 +1,7 @@
 // ATM traffic parameters: descriptors of every type to bucket pairs, the mantissa/exponent codes,
 // policer and shaper entries, CBR rate classes, drop-threshold templates and excess-bandwidth weights.
 #include <cmath>
+#include <tuple>
 
 #include "atm/atm_fixture.h"
 
@@ -8,61 +9,41 @@ namespace {
 
 using namespace atmtest;
 
-struct Codes {
-    uint32_t modeA, incrA, limitA, modeB, incrB, limitB;
-};
-
-class TrafficTest : public AtmTest {
-  protected:
-    Codes policer(uint32_t id) {
-        return {static_cast<uint32_t>(bits(kPolCfg, id, 8, 3)),
-                static_cast<uint32_t>(bits(kPolCfg, id, 11, 15)),
-                static_cast<uint32_t>(bits(kPolCfg, id, 0, 8)),
-                static_cast<uint32_t>(bits(kPolCfg, id, 34, 3)),
-                static_cast<uint32_t>(bits(kPolCfg, id, 37, 15)),
-                static_cast<uint32_t>(bits(kPolCfg, id, 26, 8))};
-    }
-};
+class TrafficTest : public AtmTest {};
 
 TEST_F(TrafficTest, DescriptorsToBucketPairs) {
-    struct Case {
-        uint32_t type, pcr, scr, cdvt, mbs;
-        double rateA, tolA;
-        uint16_t modeA;
-        double rateB, tolB;
-        uint16_t modeB;
-    };
     // CDVT 5000 x 100 ns = 500 us.
-    const Case cases[] = {
-        {1, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
-        {8, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
-        {2, 100000, 0, 0, 0, 100000, 10000, 7, 0, 0, 0},
-        {3, 20000, 5000, 0, 0, 20000, 50000, 7, 5000, 200000, 5},
-        {4, 2000000, 5000, 0, 0, 2000000, 704, 7, 5000, 200000, 6},
-        {5, 100000, 50000, 0, 32, 50000, 742320, 7, 100000, 102400, 7},
-        {6, 100000, 50000, 0, 32, 50000, 742320, 5, 100000, 102400, 7},
-        {7, 100000, 50000, 0, 32, 100000, 102400, 7, 50000, 742320, 6},
-        {9, 3000, 0, 5000, 0, 3000, 900000, 7, 0, 0, 0},
-        {10, 200000, 1000, 5000, 100, 1000, 178209000, 7, 200000, 900000, 7},
-        {11, 3000, 0, 5000, 0, 3000, 900000, 7, 3000, 900000, 4},
-        {12, 100, 0, 5000, 0, 100, 10100000, 7, 0, 0, 0},
-        {13, 200000, 1000, 5000, 100, 1000, 178209000, 7, 200000, 900000, 7},
-        {14, 200000, 1000, 5000, 100, 1000, 178209000, 5, 200000, 900000, 7},
-        {15, 200000, 1000, 5000, 100, 200000, 900000, 7, 1000, 178209000, 6},
-        {0, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
-        {16, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
-    };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.type);
+    const std::tuple<uint32_t, uint32_t, uint32_t, uint32_t, uint32_t, double, double, double, double, double,
+                     double>
+        cases[] = {
+            {1, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
+            {8, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
+            {2, 100000, 0, 0, 0, 100000, 10000, 7, 0, 0, 0},
+            {3, 20000, 5000, 0, 0, 20000, 50000, 7, 5000, 200000, 5},
+            {4, 2000000, 5000, 0, 0, 2000000, 704, 7, 5000, 200000, 6},
+            {5, 100000, 50000, 0, 32, 50000, 742320, 7, 100000, 102400, 7},
+            {6, 100000, 50000, 0, 32, 50000, 742320, 5, 100000, 102400, 7},
+            {7, 100000, 50000, 0, 32, 100000, 102400, 7, 50000, 742320, 6},
+            {9, 3000, 0, 5000, 0, 3000, 900000, 7, 0, 0, 0},
+            {10, 200000, 1000, 5000, 100, 1000, 178209000, 7, 200000, 900000, 7},
+            {11, 3000, 0, 5000, 0, 3000, 900000, 7, 3000, 900000, 4},
+            {12, 100, 0, 5000, 0, 100, 10100000, 7, 0, 0, 0},
+            {13, 200000, 1000, 5000, 100, 1000, 178209000, 7, 200000, 900000, 7},
+            {14, 200000, 1000, 5000, 100, 1000, 178209000, 5, 200000, 900000, 7},
+            {15, 200000, 1000, 5000, 100, 200000, 900000, 7, 1000, 178209000, 6},
+            {0, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
+            {16, 1000, 0, 0, 0, 0, 0, 0, 0, 0, 0},
+        };
+    for (const auto &[type, pcr, scr, cdvt, mbs, rateA, tolA, modeA, rateB, tolB, modeB] : cases) {
+        SCOPED_TRACE(type);
         ATM_BUCKET_PAIR p{};
         p.dRateA = 99;  // whatever was there is replaced
-        VQ6192_ATM_ConvertPolicingPara(kChip, k.type, k.pcr, k.scr, k.cdvt, k.mbs, &p);
-        EXPECT_EQ(p.wModeA, k.modeA);
-        EXPECT_DOUBLE_EQ(p.dRateA, k.rateA);
-        EXPECT_NEAR(p.dTolA, k.tolA, 1e-6);
-        EXPECT_EQ(p.wModeB, k.modeB);
-        EXPECT_DOUBLE_EQ(p.dRateB, k.rateB);
-        EXPECT_NEAR(p.dTolB, k.tolB, 1e-6);
+        VQ6192_ATM_ConvertPolicingPara(kChip, type, pcr, scr, cdvt, mbs, &p);
+        const double got[6] = {p.dRateA, p.dTolA, double(p.wModeA), p.dRateB, p.dTolB, double(p.wModeB)};
+        const double want[6] = {rateA, tolA, modeA, rateB, tolB, modeB};
+        for (int i = 0; i < 6; ++i) {
+            EXPECT_NEAR(got[i], want[i], 1e-6) << "rate, tolerance, mode of A then B: " << i;
+        }
     }
     // Type 2 is clamped for shaping only; a missing pair and a type past 16 trace without a blank.
     ATM_BUCKET_PAIR p{};
@@ -78,22 +59,15 @@ TEST_F(TrafficTest, DescriptorsToBucketPairs) {
 }
 
 TEST_F(TrafficTest, ExponentAndMantissa) {
-    struct Case {
-        double value;
-        uint32_t base;
-        uint16_t mantissa, exponent;
-    };
-    const Case cases[] = {
+    // Value, base, mantissa, exponent.
+    const std::tuple<double, uint32_t, uint16_t, uint16_t> cases[] = {
         {2.0, 1024, 0, 1}, {1.5, 1024, 512, 0}, {1280.0, 8, 2, 10},
         {1.0, 1024, 0, 0}, {3.999, 8, 7, 1},    {0.5, 1024, static_cast<uint16_t>(-512), 0},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.value);
-        uint16_t m = 1;
-        uint16_t e = 1;
-        EXPECT_EQ(VQ6192_ATM_GetExponent(kChip, &m, &e, k.base, k.value), 0u);
-        EXPECT_EQ(m, k.mantissa);
-        EXPECT_EQ(e, k.exponent);
+    for (const auto &[value, base, mantissa, exponent] : cases) {
+        uint16_t m = 1, e = 1;
+        EXPECT_EQ(VQ6192_ATM_GetExponent(kChip, &m, &e, base, value), 0u);
+        EXPECT_EQ((V{m, e}), (V{mantissa, exponent})) << value;
     }
     uint16_t m = 0;
     EXPECT_EQ(VQ6192_ATM_GetExponent(kChip, nullptr, &m, 8, 1.0), kPara);
@@ -108,12 +82,7 @@ TEST_F(TrafficTest, ExponentAndMantissa) {
 }
 
 TEST_F(TrafficTest, PolicerEntries) {
-    struct Case {
-        const char *name;
-        ATM_TRAFFIC_DESC d;
-        Codes c;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, ATM_TRAFFIC_DESC, V> cases[] = {
         {"type 5 of the worked example", {100000, 50000, 0, 32, 5}, {7, 0x6344, 0x4A, 7, 0x6343, 0x27}},
         {"type 2, tolerance raised to 1280 ticks", {100000, 0, 0, 0, 2}, {7, 0x6343, 0x4A, 0, 0, 0}},
         {"type 2, 1000 cells/s", {1000, 0, 0, 0, 2}, {7, 0x318A, 0x6A, 0, 0, 0}},
@@ -126,31 +95,22 @@ TEST_F(TrafficTest, PolicerEntries) {
         // negative mantissa (value 0.71) reach the field.
         {"type 2 beyond the increment range", {2000000, 0, 0, 0, 2}, {7, 0x5B00, 0x4A, 0, 0, 0}},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.name);
+    for (const auto &[name, d, c] : cases) {
+        SCOPED_TRACE(name);
         setBits(kPolCfg, 8191, 0, 64, ~0ull);
-        ASSERT_EQ(VQ6192_ATM_SetAtmPolcfgQos(kChip, 8191, &k.d), 0u);
-        const Codes got = policer(8191);
-        EXPECT_EQ(got.modeA, k.c.modeA);
-        EXPECT_EQ(got.incrA, k.c.incrA);
-        EXPECT_EQ(got.limitA, k.c.limitA);
-        EXPECT_EQ(got.modeB, k.c.modeB);
-        EXPECT_EQ(got.incrB, k.c.incrB);
-        EXPECT_EQ(got.limitB, k.c.limitB);
+        ASSERT_EQ(VQ6192_ATM_SetAtmPolcfgQos(kChip, 8191, &d), 0u);
+        EXPECT_EQ((fields(kPolCfg, 8191, {{8, 3}, {11, 15}, {0, 8}, {34, 3}, {37, 15}, {26, 8}})), c);
         EXPECT_EQ(bits(kPolCfg, 8191, 52, 12), 0xFFFu) << "bits above the policer kept";
         ATM_POLICING_CFG raw{};
         ASSERT_EQ(VQ6192_ATM_GetAtmPolcfg(kChip, 8191, &raw), 0u);
-        EXPECT_EQ(raw.wIncrA, k.c.incrA);
-        EXPECT_EQ(raw.wLimitB, k.c.limitB);
+        EXPECT_EQ((V{raw.wIncrA, raw.wLimitB}), (V{c[1], c[5]}));
     }
     model.clearTrace();
-    ATM_TRAFFIC_DESC d{1000, 0, 0, 0, 16};
-    EXPECT_EQ(VQ6192_ATM_SetAtmPolcfgQos(kChip, 1, &d), kPara);
-    d.type = 0;
-    EXPECT_EQ(VQ6192_ATM_SetAtmPolcfgQos(kChip, 1, &d), kPara);
-    d.type = 2;
-    EXPECT_EQ(VQ6192_ATM_SetAtmPolcfgQos(kChip, 8192, &d), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmPolcfgQos(kChip, 1, nullptr), kPara);
+    ATM_TRAFFIC_DESC d16{1000, 0, 0, 0, 16}, d0{1000, 0, 0, 0, 0}, d{1000, 0, 0, 0, 2};
+    EXPECT_EQ(
+        (V32{VQ6192_ATM_SetAtmPolcfgQos(kChip, 1, &d16), VQ6192_ATM_SetAtmPolcfgQos(kChip, 1, &d0),
+             VQ6192_ATM_SetAtmPolcfgQos(kChip, 8192, &d), VQ6192_ATM_SetAtmPolcfgQos(kChip, 1, nullptr)}),
+        V32(4, kPara));
     EXPECT_TRUE(model.trace().empty());
 
     // A policer write that does not complete.
@@ -176,25 +136,17 @@ TEST_F(TrafficTest, RawPolicerRecords) {
 }
 
 TEST_F(TrafficTest, ShaperEntries) {
-    struct Case {
-        uint32_t cls, sel;
-        ATM_TRAFFIC_DESC d;
-        uint32_t incr, limit, mode;
-    };
-    const Case cases[] = {
+    const std::tuple<uint32_t, uint32_t, ATM_TRAFFIC_DESC, uint32_t, uint32_t, uint32_t> cases[] = {
         {2, kRtVbrShap, {100000, 50000, 0, 32, 5}, 25410, 8, 1},
         {3, kNrtVbrShap, {100000, 0, 0, 0, 2}, 25409, 193, 1},
         {4, kUbrPlusShap, {1000000, 0, 0, 0, 2}, 11648, 96, 1},
         {4, kUbrPlusShap, {1000000, 0, 0, 0, 1}, 0, 0, 0},
     };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.cls);
-        setBits(k.sel, 335, 0, 32, ~0ull);
-        ASSERT_EQ(VQ6192_ATM_SetAtmShapcfgQos(kChip, 335, k.cls, &k.d), 0u);
-        EXPECT_EQ(bits(k.sel, 335, 9, 15), k.incr);
-        EXPECT_EQ(bits(k.sel, 335, 0, 8), k.limit);
-        EXPECT_EQ(bits(k.sel, 335, 8, 1), k.mode);
-        EXPECT_EQ(bits(k.sel, 335, 24, 8), 0xFFu);
+    for (const auto &[cls, sel, d, incr, limit, mode] : cases) {
+        SCOPED_TRACE(cls);
+        setBits(sel, 335, 0, 32, ~0ull);
+        ASSERT_EQ(VQ6192_ATM_SetAtmShapcfgQos(kChip, 335, cls, &d), 0u);
+        EXPECT_EQ((fields(sel, 335, {{9, 15}, {0, 8}, {8, 1}, {24, 8}})), (V{incr, limit, mode, 0xFF}));
     }
     model.clearTrace();
     for (uint8_t type : {3, 4, 6, 7, 8, 11, 14, 15}) {
@@ -202,9 +154,9 @@ TEST_F(TrafficTest, ShaperEntries) {
         EXPECT_EQ(VQ6192_ATM_SetAtmShapcfgQos(kChip, 1, 2, &d), kPara) << int(type);
     }
     const ATM_TRAFFIC_DESC d{1000, 0, 0, 0, 2};
-    EXPECT_EQ(VQ6192_ATM_SetAtmShapcfgQos(kChip, 1, 1, &d), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmShapcfgQos(kChip, 1, 5, &d), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmShapcfgQos(kChip, 336, 2, &d), kPara);
+    EXPECT_EQ((V32{VQ6192_ATM_SetAtmShapcfgQos(kChip, 1, 1, &d), VQ6192_ATM_SetAtmShapcfgQos(kChip, 1, 5, &d),
+                   VQ6192_ATM_SetAtmShapcfgQos(kChip, 336, 2, &d)}),
+              V32(3, kPara));
     EXPECT_TRUE(model.trace().empty());
 
     // A shaper write that does not complete.
@@ -220,32 +172,23 @@ TEST_F(TrafficTest, ShaperEntries) {
     EXPECT_EQ(bits(kNrtVbrShap, 5, 0, 24), 0x1234u << 9 | 1u << 8 | 0xABu);
     ATM_POLICING_CFG back{};
     ASSERT_EQ(VQ6192_ATM_GetAtmShapcfg(kChip, 5, 3, &back), 0u);
-    EXPECT_EQ(back.wIncrA, 0x1234);
-    EXPECT_EQ(back.wPAMode, 1);
-    EXPECT_EQ(back.wLimitA, 0xAB);
+    EXPECT_EQ((V{back.wIncrA, back.wPAMode, back.wLimitA}), (V{0x1234, 1, 0xAB}));
 }
 
 TEST_F(TrafficTest, CbrRateClasses) {
-    struct Case {
-        uint32_t rate, period, cells;
-    };
-    const Case cases[] = {
-        {2976191, 6, 3401360},
-        {6, 3968252, 6},
-        // The quotient 2976190.476 rounds to 2976190.5 in single precision.
-        {8, 2976189, 8},
-        {0, 0, 0},
-    };
-    for (const Case &k : cases) {
-        SCOPED_TRACE(k.rate);
+    // 8: the quotient 2976190.476 rounds to 2976190.5 in single precision.
+    const std::tuple<uint32_t, uint32_t, uint32_t> cases[] = {
+        {2976191, 6, 3401360}, {6, 3968252, 6}, {8, 2976189, 8}, {0, 0, 0}};
+    for (const auto &[rate, period, cells] : cases) {
+        SCOPED_TRACE(rate);
         setBits(kShVc, 5375, 0, 87, ~0ull);
         setBits(kShVc, 5375, 64, 23, 0x7FFFFF);
-        ASSERT_EQ(VQ6192_ATM_SetAtmShVc(kChip, 335, 15, k.rate), 0u);
-        EXPECT_EQ(bits(kShVc, 5375, 0, 22), k.period);
+        ASSERT_EQ(VQ6192_ATM_SetAtmShVc(kChip, 335, 15, rate), 0u);
+        EXPECT_EQ(bits(kShVc, 5375, 0, 22), period);
         EXPECT_EQ(bits(kShVc, 5375, 22, 42), (1ull << 42) - 1) << "scheduler state kept";
-        uint32_t cells = 1;
-        ASSERT_EQ(VQ6192_ATM_GetAtmShVc(kChip, 335, 15, &cells), 0u);
-        EXPECT_EQ(cells, k.cells);
+        uint32_t back = 1;
+        ASSERT_EQ(VQ6192_ATM_GetAtmShVc(kChip, 335, 15, &back), 0u);
+        EXPECT_EQ(back, cells);
     }
     model.clearTrace();
     for (uint32_t rate : {1u, 5u, 2976192u}) {
@@ -267,52 +210,52 @@ TEST_F(TrafficTest, DropThresholdTemplatesAndExcessBandwidth) {
     setBits(kBmTh, 319, 151, 9, 0x1FF);
     const ATM_BM_TH th{0xBEEF, 0x1234, 31, 0x11111, 0x22222, 0x33333, 0x44444, 0x55555, 0x7FFFF};
     ASSERT_EQ(VQ6192_ATM_SetAtmBmTh(kChip, 63, 5, &th), 0u);
-    EXPECT_EQ(bits(kBmTh, 319, 0, 19), 0x7FFFFu);
-    EXPECT_EQ(bits(kBmTh, 319, 19, 19), 0x55555u);
-    EXPECT_EQ(bits(kBmTh, 319, 38, 19), 0x44444u);
-    EXPECT_EQ(bits(kBmTh, 319, 57, 19), 0x33333u);
-    EXPECT_EQ(bits(kBmTh, 319, 76, 19), 0x22222u);
-    EXPECT_EQ(bits(kBmTh, 319, 95, 19), 0x11111u);
-    EXPECT_EQ(bits(kBmTh, 319, 114, 5), 31u);
-    EXPECT_EQ(bits(kBmTh, 319, 119, 16), 0x1234u);
-    EXPECT_EQ(bits(kBmTh, 319, 135, 16), 0xBEEFu);
-    EXPECT_EQ(bits(kBmTh, 319, 151, 9), 0x1FFu);
+    EXPECT_EQ((fields(kBmTh, 319,
+                      {{0, 19},
+                       {19, 19},
+                       {38, 19},
+                       {57, 19},
+                       {76, 19},
+                       {95, 19},
+                       {114, 5},
+                       {119, 16},
+                       {135, 16},
+                       {151, 9}})),
+              (V{0x7FFFF, 0x55555, 0x44444, 0x33333, 0x22222, 0x11111, 31, 0x1234, 0xBEEF, 0x1FF}));
     ATM_BM_TH back{};
     ASSERT_EQ(VQ6192_ATM_GetAtmBmTh(kChip, 63, 5, &back), 0u);
-    EXPECT_EQ(back.dwBmClpTh1, 0x7FFFFu);
-    EXPECT_EQ(back.wBmClp0S0, 0xBEEF);
+    EXPECT_EQ((V{back.dwBmClpTh1, back.wBmClp0S0}), (V{0x7FFFF, 0xBEEF}));
     ASSERT_EQ(VQ6192_ATM_SetAtmBmTh(kChip, 0, 1, &th), 0u);
     EXPECT_EQ(bits(kBmTh, 0, 114, 5), 31u) << "CBR template 0 is entry 0";
 
     model.clearTrace();
-    ATM_BM_TH over = th;
-    over.bBmWeight = 32;
-    EXPECT_EQ(VQ6192_ATM_SetAtmBmTh(kChip, 0, 1, &over), kPara);
-    over = th;
-    over.dwBmRedMin = 0x80000;
-    EXPECT_EQ(VQ6192_ATM_SetAtmBmTh(kChip, 0, 1, &over), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmBmTh(kChip, 64, 1, &th), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmBmTh(kChip, 0, 0, &th), kPara);
-    EXPECT_EQ(VQ6192_ATM_SetAtmBmTh(kChip, 0, 6, &th), kPara);
+    ATM_BM_TH weight = th, red = th;
+    weight.bBmWeight = 32;
+    red.dwBmRedMin = 0x80000;
+    EXPECT_EQ((V32{VQ6192_ATM_SetAtmBmTh(kChip, 0, 1, &weight), VQ6192_ATM_SetAtmBmTh(kChip, 0, 1, &red),
+                   VQ6192_ATM_SetAtmBmTh(kChip, 64, 1, &th), VQ6192_ATM_SetAtmBmTh(kChip, 0, 0, &th),
+                   VQ6192_ATM_SetAtmBmTh(kChip, 0, 6, &th)}),
+              V32(5, kPara));
     EXPECT_TRUE(model.trace().empty());
 
     setBits(kEbs, 7, 66, 14, 0x3FFF);
     const ATM_EBS_CFG ebs{1, 0, 0xAAAA, 0xBBBB, 0xCCCC, 0xDDDD};
     ASSERT_EQ(VQ6192_ATM_SetAtmEbs(kChip, 7, &ebs), 0u);
-    EXPECT_EQ(bits(kEbs, 7, 0, 64), 0xAAAABBBBCCCCDDDDull);
-    EXPECT_EQ(bits(kEbs, 7, 64, 2), 2u);
-    EXPECT_EQ(bits(kEbs, 7, 66, 14), 0x3FFFu);
+    EXPECT_EQ((fields(kEbs, 7, {{0, 64}, {64, 2}, {66, 14}})), (V{0xAAAABBBBCCCCDDDDull, 2, 0x3FFF}));
     ATM_EBS_CFG bad = ebs;
     bad.byNvbrEn = 2;
     EXPECT_EQ(VQ6192_ATM_SetAtmEbs(kChip, 7, &bad), kPara);
 }
 
 TEST_F(TrafficTest, ToleranceHelpers) {
-    EXPECT_DOUBLE_EQ(VQ6192_ATM_ComputeAtmPolCdvt(kChip, 1000), 1000000.0);
-    EXPECT_NEAR(VQ6192_ATM_ComputeAtmPolCdvt(kChip, 100000), 52355.072, 1e-6);
-    EXPECT_DOUBLE_EQ(VQ6192_ATM_ComputeAtmPolCdvt(kChip, 2000000), 704.0);
-    EXPECT_NEAR(VQ6192_ATM_ComputeAtmPolMbs(kChip, 100000, 1e6), 1100000.0, 1e-6);
-    EXPECT_NEAR(VQ6192_ATM_ComputeAtmPolMbs(kChip, 100000, 10.0), 52355.072, 1e-6);
+    const double got[5] = {
+        VQ6192_ATM_ComputeAtmPolCdvt(kChip, 1000), VQ6192_ATM_ComputeAtmPolCdvt(kChip, 100000),
+        VQ6192_ATM_ComputeAtmPolCdvt(kChip, 2000000), VQ6192_ATM_ComputeAtmPolMbs(kChip, 100000, 1e6),
+        VQ6192_ATM_ComputeAtmPolMbs(kChip, 100000, 10.0)};
+    const double want[5] = {1000000.0, 52355.072, 704.0, 1100000.0, 52355.072};
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_NEAR(got[i], want[i], 1e-6) << i;
+    }
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // Group control commands, forced link deletion, interrupt events, state and counters, ICP cells, TC
 // links and cell capture.
+#include <array>
 #include <cstring>
+#include <tuple>
 
 #include "ima_fixture.h"
 #include "vq6192/sim/ddr.h"
@@ -14,12 +16,7 @@ class ControlTest : public ImaTest {};
 TEST_F(ControlTest, CommandWrappersSendTheirParameters) {
     const uint16_t rx[2] = {10, 47};
     const IMA_TX_LINK tx[2] = {{1, 0, 10}, {6, 0, 47}};
-    struct Case {
-        const char *what;
-        std::function<uint32_t()> op;
-        Proc::Command cmd;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, std::function<uint32_t()>, Proc::Command> cases[] = {
         {"inhibit", [] { return VQ6192_IMA_SetImaGrpStatus(kChip, 9, 1); }, {4, 9, 0, 0, 0}},
         {"not inhibit", [] { return VQ6192_IMA_SetImaGrpStatus(kChip, 9, 0); }, {5, 9, 0, 0, 0}},
         {"lasr", [&] { return VQ6192_IMA_Lasr(kChip, 9, 2, 2, rx, tx, 0); }, {8, 9, 0x42, 0x42, 0}},
@@ -38,108 +35,90 @@ TEST_F(ControlTest, CommandWrappersSendTheirParameters) {
         {"timing reference", [] { return VQ6192_IMA_UpdateTxTrl(kChip, 9, 6); }, {17, 9, 6, 0, 0}},
         {"restart", [] { return VQ6192_IMA_Restart(kChip, 9); }, {2, 9, 0, 0, 0}},
     };
-    setBits(Proc::kProcBlock, kGps, 9 * 8 + 1, 0, 64, 0x0000BFFF'FFFFFFFFull);
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
+    setBits(kPpB, kGps, 9 * 8 + 1, 0, 64, 0x0000BFFF'FFFFFFFFull);
+    for (const auto &[what, op, cmd] : cases) {
+        SCOPED_TRACE(what);
         proc().clearCommands();
-        EXPECT_EQ(c.op(), 0u);
-        EXPECT_EQ(proc().commands(), std::vector<Proc::Command>{c.cmd});
+        EXPECT_EQ(op(), 0u);
+        EXPECT_EQ(proc().commands(), std::vector<Proc::Command>{cmd});
     }
-    EXPECT_EQ(bits(Proc::kProcBlock, kGps, 9 * 8 + 1, 0, 64), 0x0000FFFF'FFFFFFFFull)
-        << "Txtrlchange (46) set";
+    EXPECT_EQ(bits(kPpB, kGps, 9 * 8 + 1, 0, 64), 0x0000FFFF'FFFFFFFFull) << "Txtrlchange (46) set";
     proc().refuse(1);
     EXPECT_EQ(VQ6192_IMA_SetImaGrpStatus(kChip, 9, 1), 0u) << "the answer is not looked at";
     EXPECT_EQ(VQ6192_IMA_RunCmd(kChip, 10, std::array<uint32_t, 4>{9, 0, 0, 0}.data()), kPara);
     const uint16_t bad[1] = {336};
     expectRefused(
-        "link 336", kPara, [&] { return VQ6192_IMA_SetImaLinkDefect(kChip, 9, 1, bad, tx, 0, 0); }, true);
+        "link 336", [&] { return VQ6192_IMA_SetImaLinkDefect(kChip, 9, 1, bad, tx, 0, 0); }, true);
     const IMA_TX_LINK lid33[1] = {{33, 0, 1}};
     expectRefused(
-        "LID 33", kPara, [&] { return VQ6192_IMA_SetImaLinkStatus(kChip, 9, 1, 0, rx, lid33, 1, 1, 0); },
-        true);
-    expectRefused("pattern 256", kPara, [] { return VQ6192_IMA_UpdateTestPtn(kChip, 9, 1, 256, 3, 1, 0); });
+        "LID 33", [&] { return VQ6192_IMA_SetImaLinkStatus(kChip, 9, 1, 0, rx, lid33, 1, 1, 0); }, true);
+    expectRefused("pattern 256", [] { return VQ6192_IMA_UpdateTestPtn(kChip, 9, 1, 256, 3, 1, 0); });
 }
 
 TEST_F(ControlTest, ForcedLinkDeletion) {
-    struct Case {
-        const char *what;
-        bool enabled;
-        uint32_t reads;
-        uint64_t ticks;
-        bool restart;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, bool, uint32_t, uint64_t, bool> cases[] = {
         {"already clear", false, 0, 10, false},
         {"processor keeps it for 3 reads", true, 3, 40, false},
         {"never lets go", true, Proc::kForever, 4000, true},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto &[what, enabled, reads, ticks, restart] : cases) {
+        SCOPED_TRACE(what);
         proc().clearCommands();
         VQ6192_Platform_ResetVirtualTime();
-        setBits(Proc::kProcBlock, kTxs, 50 * 2, 0, 32, c.enabled ? 0xFFFFFFFF : 0x7FFFFFFF);
-        setBits(Proc::kProcBlock, kRxs, 50 * 2, 0, 32, c.enabled ? 0xFFFFFFFF : 0x7FFFFFFF);
-        setBits(Proc::kProcBlock, kGps, 4 * 8 + 2, 32, 32, 0xFFFFFFFF);
-        proc().setDeleteReads(c.reads);
+        setBits(kPpB, kTxs, 50 * 2, 0, 32, enabled ? 0xFFFFFFFF : 0x7FFFFFFF);
+        setBits(kPpB, kRxs, 50 * 2, 0, 32, enabled ? 0xFFFFFFFF : 0x7FFFFFFF);
+        setBits(kPpB, kGps, 4 * 8 + 2, 32, 32, 0xFFFFFFFF);
+        proc().setDeleteReads(reads);
         EXPECT_EQ(VQ6192_IMA_ForceLinkDeleted(kChip, 50, 4, 7), 0u);
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs() / kTickUs, c.ticks);
-        if (c.enabled) {
-            EXPECT_EQ(bits(Proc::kProcBlock, kTxs, 100, 24, 7), 1u << 3) << "Netxlsm Deleted, Ferxlsm 0";
-            EXPECT_EQ(bits(Proc::kProcBlock, kRxs, 100, 25, 6), 2u) << "Nerxlsm Deleted";
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs() / kTickUs, ticks);
+        if (enabled) {
+            EXPECT_EQ(bits(kPpB, kTxs, 100, 24, 7), 1u << 3) << "Netxlsm Deleted, Ferxlsm 0";
+            EXPECT_EQ(bits(kPpB, kRxs, 100, 25, 6), 2u) << "Nerxlsm Deleted";
         }
-        EXPECT_EQ(bits(Proc::kProcBlock, kTxs, 100, 31, 1), 0u);
-        EXPECT_EQ(bits(Proc::kProcBlock, kGps, 34, 32, 32), c.restart ? 0xFFFFFF7Fu : 0xFFFFFFFFu);
-        EXPECT_EQ(proc().commands().size(), c.restart ? 1u : 0u);
+        EXPECT_EQ(bits(kPpB, kTxs, 100, 31, 1), 0u);
+        EXPECT_EQ(bits(kPpB, kGps, 34, 32, 32), restart ? 0xFFFFFF7Fu : 0xFFFFFFFFu);
+        EXPECT_EQ(proc().commands().size(), restart ? 1u : 0u);
     }
-    uint32_t deleted = 7;
-    setBits(Proc::kProcBlock, kRxs, 100, 31, 1, 1);
-    ASSERT_EQ(VQ6192_ImaLinkLinkDeleted(kChip, 50, &deleted), 0u);
-    EXPECT_EQ(deleted, 0u);
-    setBits(Proc::kProcBlock, kRxs, 100, 31, 1, 0);
-    ASSERT_EQ(VQ6192_ImaLinkLinkDeleted(kChip, 50, &deleted), 0u);
-    EXPECT_EQ(deleted, 1u);
-    deleted = 7;
-    setBits(Proc::kProcBlock, kTxs, 100, 31, 1, 1);
-    ASSERT_EQ(VQ6192_ImaLinkLinkDeleted(kChip, 50, &deleted), 0u);
-    EXPECT_EQ(deleted, 7u) << "only transmit enabled: left as it is";
+    // Receive enable, transmit enable, deleted; only transmit enabled leaves the output as it is.
+    for (const auto &l : {std::array<uint32_t, 3>{1, 0, 0}, {0, 0, 1}, {0, 1, 7}}) {
+        uint32_t deleted = 7;
+        setBits(kPpB, kRxs, 100, 31, 1, l[0]);
+        setBits(kPpB, kTxs, 100, 31, 1, l[1]);
+        ASSERT_EQ(VQ6192_ImaLinkLinkDeleted(kChip, 50, &deleted), 0u);
+        EXPECT_EQ(deleted, l[2]) << l[0] << l[1];
+    }
 }
 
 TEST_F(ControlTest, TimeTickLoopsAndInterruptEnables) {
     model.poke(0x4418, 250);
-    ASSERT_EQ(VQ6192_IMA_SetImaTimeTick(kChip, 0), 0u);
-    EXPECT_EQ(model.peek(0x4418), 500u);
-    ASSERT_EQ(VQ6192_IMA_SetImaTimeTick(kChip, 0xFFFFFFFF), 0u);
-    EXPECT_EQ(model.peek(0x4418), 250u);
-    ASSERT_EQ(VQ6192_IMA_SetImaTimeTick(kChip, 77), 0u);
-    EXPECT_EQ(model.peek(0x4418), 77u);
-    model.poke(0x4002, 0xFFF8);
-    model.poke(0x5026, 0xFFFE);
+    for (const auto &t : {std::pair<uint32_t, uint32_t>{0, 500}, {0xFFFFFFFF, 250}, {77, 77}}) {
+        ASSERT_EQ(VQ6192_IMA_SetImaTimeTick(kChip, t.first), 0u);
+        EXPECT_EQ(model.peek(0x4418), t.second) << t.first;
+    }
+    pokes({{0x4002, 0xFFF8}, {0x5026, 0xFFFE}});
     ASSERT_EQ(VQ6192_IMA_SetImaLoop(kChip, 0xA, 1), 0u);
-    EXPECT_EQ(model.peek(0x4002), 0xFFFAu);
-    EXPECT_EQ(model.peek(0x5026), 0xFFFFu);
+    EXPECT_EQ(peeks({0x4002, 0x5026}), (std::vector<uint32_t>{0xFFFA, 0xFFFF}));
     uint32_t loop = 0;
     ASSERT_EQ(VQ6192_IMA_GetImaLoop(kChip, &loop), 0u);
     EXPECT_EQ(loop, 0xAu);
-    struct Level {
-        uint32_t level;
-        uint32_t addr;
-        uint16_t after;
-    };
-    for (const Level &l : {Level{1, 0x442C, 0xFC03}, Level{2, 0x4426, 0xFFFF}, Level{4, 0x4428, 0xFC0F},
-                           Level{8, 0x442A, 0xFFFF}}) {
-        model.poke(l.addr, 0xFC00);
-        ASSERT_EQ(VQ6192_IMA_SetImaIntEnable(kChip, l.level, 0xFFFF, 1), 0u);
-        EXPECT_EQ(model.peek(l.addr), l.level == 2 || l.level == 8 ? 0xFFFFu : l.after) << l.level;
+    // Level, enable register, its value after enabling every source.
+    for (const auto &l : {std::array<uint32_t, 3>{1, 0x442C, 0xFC03},
+                          {2, 0x4426, 0xFFFF},
+                          {4, 0x4428, 0xFC0F},
+                          {8, 0x442A, 0xFFFF}}) {
+        model.poke(l[1], 0xFC00);
+        ASSERT_EQ(VQ6192_IMA_SetImaIntEnable(kChip, l[0], 0xFFFF, 1), 0u);
+        EXPECT_EQ(model.peek(l[1]), l[2]) << l[0];
     }
-    expectRefused("empty mask", kPara, [] { return VQ6192_IMA_SetImaIntEnable(kChip, 1, 0, 1); });
+    expectRefused("empty mask", [] { return VQ6192_IMA_SetImaIntEnable(kChip, 1, 0, 1); });
     expectRefused(
-        "level 3", kPara, [] { return VQ6192_IMA_SetImaIntEnable(kChip, 3, 1, 1); }, true);
-    setBits(Proc::kProcBlock, kGpc, 12 * 16, 0, 32, 0xFFFFFC00);
+        "level 3", [] { return VQ6192_IMA_SetImaIntEnable(kChip, 3, 1, 1); }, true);
+    setBits(kPpB, kGpc, 12 * 16, 0, 32, 0xFFFFFC00);
     ASSERT_EQ(VQ6192_IMA_SetImaGrpInt(kChip, 12, 0x201, 1), 0u);
-    EXPECT_EQ(word(Proc::kProcBlock, kGpc, 12 * 16), 0xFFFFFE01u);
-    setBits(Proc::kProcBlock, kRxc, 12, 0, 32, 0xFFFFFFFF);
+    EXPECT_EQ(word(kPpB, kGpc, 12 * 16), 0xFFFFFE01u);
+    setBits(kPpB, kRxc, 12, 0, 32, 0xFFFFFFFF);
     ASSERT_EQ(VQ6192_IMA_SetImaLinkInt(kChip, 12, 2, 0x3FF, 0), 0u);
-    EXPECT_EQ(word(Proc::kProcBlock, kRxc, 12), 0xFFFFFC00u);
+    EXPECT_EQ(word(kPpB, kRxc, 12), 0xFFFFFC00u);
 }
 
 TEST_F(ControlTest, InterruptEvents) {
@@ -148,30 +127,23 @@ TEST_F(ControlTest, InterruptEvents) {
     ev.wFeRestartInt = 0x55;
     uint8_t flags[23][32] = {};
     ASSERT_EQ(VQ6192_IMA_GetImaIntInfo(kChip, &grp, &ev, flags, &valid), 0u);
-    EXPECT_EQ(valid, 0u);
-    EXPECT_EQ(grp, 99u) << "outputs untouched without an event";
-    EXPECT_EQ(ev.wFeRestartInt, 0x55u);
+    EXPECT_EQ((std::vector<uint32_t>{valid, grp, ev.wFeRestartInt}), (std::vector<uint32_t>{0, 99, 0x55}))
+        << "outputs untouched without an event";
 
     proc().raiseEvent(21, true);
-    setBits(Proc::kProcBlock, kEvent, 34, 0, 64, (1ull << 25) | (1ull << 16) | (0xAull << 4) | 0x8);
-    setBits(Proc::kProcBlock, kEvent, 32, 0, 32, 0x0000000F);
-    setBits(Proc::kProcBlock, kEvent, 33, 0, 32, 0x000000F0);
-    setBits(Proc::kProcBlock, kEvent, 5, 0, 64, (1ull << 56) | (0x1Full << 32) | (7ull << 3) | (3ull << 6));
+    setBits(kPpB, kEvent, 34, 0, 64, (1ull << 25) | (1ull << 16) | (0xAull << 4) | 0x8);
+    setBits(kPpB, kEvent, 32, 0, 32, 0x0000000F);
+    setBits(kPpB, kEvent, 33, 0, 32, 0x000000F0);
+    setBits(kPpB, kEvent, 5, 0, 64, (1ull << 56) | (0x1Full << 32) | (7ull << 3) | (3ull << 6));
     ASSERT_EQ(VQ6192_IMA_GetImaIntInfo(kChip, &grp, &ev, flags, &valid), 0u);
-    EXPECT_EQ(valid, 1u);
-    EXPECT_EQ(grp, 21u);
     EXPECT_EQ(proc().commands(), (std::vector<Proc::Command>{{24, 21, 0, 0, 0}}));
-    EXPECT_EQ(ev.wFeRestartInt, 1u);
-    EXPECT_EQ(ev.wNeGsmInt, 1u);
-    EXPECT_EQ(ev.wFeGsmSt, 0xAu);
-    EXPECT_EQ(ev.wNeGsmSt, 0x8u);
-    EXPECT_EQ(ev.dwTxPhyValid, 0xFu);
-    EXPECT_EQ(ev.dwRxPhyValid, 0xF0u);
-    EXPECT_EQ(flags[0][5], 1u) << "Autolasrint of LID 5";
-    EXPECT_EQ(flags[19][5], 0x1Fu) << "Rxlid";
-    EXPECT_EQ(flags[20][5], 3u) << "Ferxdefect";
-    EXPECT_EQ(flags[21][5], 7u) << "Ferxlsm";
-    EXPECT_EQ(model.peek(0x4424) & (1u << 11), 0u) << "request released";
+    EXPECT_EQ((std::vector<uint32_t>{valid, grp, ev.wFeRestartInt, ev.wNeGsmInt, ev.wFeGsmSt, ev.wNeGsmSt,
+                                     ev.dwTxPhyValid, ev.dwRxPhyValid}),
+              (std::vector<uint32_t>{1, 21, 1, 1, 0xA, 0x8, 0xF, 0xF0}));
+    // LID 5: Autolasrint, Rxlid, Ferxdefect, Ferxlsm; the request released.
+    EXPECT_EQ((std::vector<uint32_t>{flags[0][5], flags[19][5], flags[20][5], flags[21][5]}),
+              (std::vector<uint32_t>{1, 0x1F, 3, 7}));
+    EXPECT_EQ(model.peek(0x4424) & (1u << 11), 0u);
 
     uint16_t fe = 0;
     ASSERT_EQ(VQ6192_IMA_GetImaIntFeRestart(kChip, &grp, &fe, &valid), 0u);
@@ -181,11 +153,11 @@ TEST_F(ControlTest, InterruptEvents) {
 }
 
 TEST_F(ControlTest, StateDecodingAndAccumulator) {
-    setBits(Proc::kProcBlock, kGps, 3 * 8, 0, 64,
+    setBits(kPpB, kGps, 3 * 8, 0, 64,
             (3ull << 62) | (0xAull << 58) | (1ull << 55) | (2ull << 53) | (0x9ull << 44) | (5ull << 38) |
                 (4ull << 32) | (1ull << 14) | (1ull << 11));
-    setBits(Proc::kProcBlock, kGps, 3 * 8 + 3, 32, 32, (2u << 26) | 0x77);
-    setBits(Proc::kProcBlock, kGps, 3 * 8 + 5, 0, 32, (100u << 5) | 6);
+    setBits(kPpB, kGps, 3 * 8 + 3, 32, 32, (2u << 26) | 0x77);
+    setBits(kPpB, kGps, 3 * 8 + 5, 0, 32, (100u << 5) | 6);
     IMA_GRP_STATUS g{};
     ASSERT_EQ(VQ6192_IMA_GetImaGrpStatus(kChip, 3, &g), 0u);
     EXPECT_EQ(
@@ -194,33 +166,33 @@ TEST_F(ControlTest, StateDecodingAndAccumulator) {
                                g.wNumTxLinks, g.wNumTxLinksActv, g.wNumRxLinks, g.wNumRxLinksActv}),
         (std::vector<uint32_t>{0xA, 0x9, 1, 1, 0x77, 2, 6, 2, 1, 100, 5, 5, 4, 4}));
 
-    setBits(Proc::kProcBlock, kTxs, 60 * 2, 0, 32, (0xEu << 27) | (6u << 24) | (1u << 23) | (3u << 20));
-    setBits(Proc::kProcBlock, kTxs, 60 * 2 + 1, 4, 2, 2);
-    setBits(Proc::kProcBlock, kRxs, 60 * 2, 0, 32, (0x38u << 25) | (9u << 13) | (7u << 4) | (1u << 3) | 5u);
-    setBits(Proc::kProcBlock, kRxs, 60 * 2 + 1, 8, 4, 0xB);
-    setBits(Proc::kRxBlock, kIcpVld, 60, 8, 8, 0x44);
-    setBits(Proc::kTcBlock, kRxSta2, 60, 0, 40, (1ull << 37) | 1000);
+    setBits(kPpB, kTxs, 60 * 2, 0, 32, (0xEu << 27) | (6u << 24) | (1u << 23) | (3u << 20));
+    setBits(kPpB, kTxs, 60 * 2 + 1, 4, 2, 2);
+    setBits(kPpB, kRxs, 60 * 2, 0, 32, (0x38u << 25) | (9u << 13) | (7u << 4) | (1u << 3) | 5u);
+    setBits(kPpB, kRxs, 60 * 2 + 1, 8, 4, 0xB);
+    setBits(kRxB, kIcpVld, 60, 8, 8, 0x44);
+    setBits(kTcB, kRxSta2, 60, 0, 40, (1ull << 37) | 1000);
     IMA_LINK_STATUS l{};
     ASSERT_EQ(VQ6192_IMA_GetImaLinkStatus(kChip, 60, &l, 3), 0u);
     uint8_t raw[17];
     std::memcpy(raw, &l, sizeof raw);
     EXPECT_EQ(std::vector<uint8_t>(raw, raw + 17),
               (std::vector<uint8_t>{0xE, 6, 2, 0x38, 7, 9, 0x44, 1, 0, 1, 0, 1, 1, 1, 5, 1, 3}));
-    setBits(Proc::kTcBlock, kRxSta2, 60, 0, 32, 234);
+    setBits(kTcB, kRxSta2, 60, 0, 32, 234);
     uint32_t rx2[9] = {};
     ASSERT_EQ(VQ6192_IMA_GetTcLinkStatus(kChip, 60, nullptr, nullptr, rx2, nullptr), 0u);
-    EXPECT_EQ(rx2[8], 1234u) << "cell counter plus what the link status read took";
-    EXPECT_EQ(rx2[5], 1u) << "LCD warning";
+    EXPECT_EQ((std::vector<uint32_t>{rx2[8], rx2[5]}), (std::vector<uint32_t>{1234, 1}))
+        << "cell counter plus what the link status read took; LCD warning";
     ASSERT_EQ(VQ6192_IMA_GetTcLinkStatus(kChip, 60, nullptr, nullptr, rx2, nullptr), 0u);
     EXPECT_EQ(rx2[8], 0u) << "read-clear, accumulator emptied";
 }
 
 TEST_F(ControlTest, ReadClearCounters) {
-    setBits(Proc::kRxBlock, kLkCnt, 7 * 4 + 0, 0, 32, 0x00110022);
-    setBits(Proc::kRxBlock, kLkCnt, 7 * 4 + 1, 0, 32, 0x00330044);
-    setBits(Proc::kRxBlock, kLkCnt, 7 * 4 + 2, 0, 32, 123456);
-    setBits(Proc::kRxBlock, kLkCnt, 7 * 4 + 3, 0, 32, 0x00550066);
-    setBits(Proc::kTxBlock, kTxLks, 7 * 2 + 1, 0, 32, 0x00080009);
+    const uint32_t lkcnt[4] = {0x00110022, 0x00330044, 123456, 0x00550066};
+    for (uint32_t w = 0; w < 4; ++w) {
+        setBits(kRxB, kLkCnt, 7 * 4 + w, 0, 32, lkcnt[w]);
+    }
+    setBits(kTxB, kTxLks, 7 * 2 + 1, 0, 32, 0x00080009);
     IMA_LINK_STAT s{};
     ASSERT_EQ(VQ6192_IMA_GetImaLinkStat(kChip, 7, &s, 3), 0u);
     EXPECT_EQ((std::vector<uint32_t>{s.dwTxUserCells, s.dwTxStuffCells, s.dwRxUserCells, s.dwRxStuffCells,
@@ -229,11 +201,11 @@ TEST_F(ControlTest, ReadClearCounters) {
               (std::vector<uint32_t>{9, 8, 123456, 0x11, 0x55, 0x22, 0x33, 0x44, 0x66}));
     ASSERT_EQ(VQ6192_IMA_GetImaLinkStat(kChip, 7, &s, 3), 0u);
     EXPECT_EQ(s.dwRxUserCells, 0u);
-    setBits(Proc::kTxBlock, kTxGps, 2 * 8 + 1, 0, 32, 11);
-    setBits(Proc::kTxBlock, kTxGps, 2 * 8 + 2, 0, 32, 22);
-    setBits(Proc::kTxBlock, kTxGps, 2 * 8 + 3, 0, 32, 33);
-    setBits(Proc::kRxBlock, kGpCnt, 2 * 2, 0, 32, 44);
-    setBits(Proc::kRxBlock, kGpCnt, 2 * 2 + 1, 0, 32, 55);
+    for (uint32_t w = 1; w <= 3; ++w) {
+        setBits(kTxB, kTxGps, 2 * 8 + w, 0, 32, 11 * w);
+    }
+    setBits(kRxB, kGpCnt, 2 * 2, 0, 32, 44);
+    setBits(kRxB, kGpCnt, 2 * 2 + 1, 0, 32, 55);
     IMA_GRP_STAT g{};
     ASSERT_EQ(VQ6192_IMA_GetImaGrpStat(kChip, 2, &g), 0u);
     EXPECT_EQ((std::vector<uint32_t>{g.dwTxDiscardCells, g.dwTxUserCells, g.dwTxFillerCells, g.dwRxUserCells,
@@ -243,27 +215,28 @@ TEST_F(ControlTest, ReadClearCounters) {
 
 TEST_F(ControlTest, IcpCellsAndTestPatterns) {
     for (uint32_t w = 0; w < 11; ++w) {
-        setBits(Proc::kTxBlock, kTxIcp, 4 * 16 + w, 0, 32, 0xA0B0C0D0u + w);
+        setBits(kTxB, kTxIcp, 4 * 16 + w, 0, 32, 0xA0B0C0D0u + w);
     }
     uint8_t sent[41] = {};
     ASSERT_EQ(VQ6192_IMA_GetImaIcpCell(kChip, 4, sent, 1), 0u);
     EXPECT_EQ((std::vector<uint8_t>(sent, sent + 7)),
               (std::vector<uint8_t>{0xB0, 0xC0, 0xD0, 0xA0, 0xB0, 0xC0, 0xD1}));
-    EXPECT_EQ(sent[39], 0xA0u) << "word 10 gives its top two bytes";
-    EXPECT_EQ(sent[40], 0xB0u);
+    EXPECT_EQ((std::vector<uint8_t>{sent[39], sent[40]}), (std::vector<uint8_t>{0xA0, 0xB0}))
+        << "word 10 gives its top two bytes";
     for (uint32_t w = 0; w < 12; ++w) {
-        setBits(Proc::kRxBlock, kIcpBuf, 9 * 16 + w, 0, 32, 0x04030201u + 0x04040404u * w);
+        setBits(kRxB, kIcpBuf, 9 * 16 + w, 0, 32, 0x04030201u + 0x04040404u * w);
     }
-    uint8_t got[48] = {};
-    ASSERT_EQ(VQ6192_IMA_GetImaIcpCell(kChip, 9, got, 0), 0u);
+    uint8_t got[48] = {}, want[48];
     for (uint32_t i = 0; i < 48; ++i) {
-        EXPECT_EQ(got[i], i + 1) << "octet " << i + 6;
+        want[i] = static_cast<uint8_t>(i + 1);  // octets 6..53 of the cell
     }
+    ASSERT_EQ(VQ6192_IMA_GetImaIcpCell(kChip, 9, got, 0), 0u);
+    EXPECT_EQ(std::vector<uint8_t>(got, got + 48), std::vector<uint8_t>(want, want + 48));
     uint8_t ptn[1] = {};
     const uint16_t link[1] = {9};
     ASSERT_EQ(VQ6192_IMA_GetRxTestPtn(kChip, 0, 1, link, ptn), 0u);
     EXPECT_EQ(ptn[0], 12u) << "top byte of word 2";
-    setBits(Proc::kProcBlock, kGps, 6 * 8 + 1, 0, 64,
+    setBits(kPpB, kGps, 6 * 8 + 1, 0, 64,
             (1ull << 47) | (0x3Cull << 48) | (1ull << 15) | (0x1Full << 8) | 0xC3);
     uint16_t rxEn = 0, rxPtn = 0, txLid = 0, txEn = 0, txPtn = 0;
     ASSERT_EQ(VQ6192_IMA_GetTestPtn(kChip, 6, &rxEn, &rxPtn, &txLid, &txEn, &txPtn), 0u);
@@ -272,59 +245,51 @@ TEST_F(ControlTest, IcpCellsAndTestPatterns) {
 }
 
 TEST_F(ControlTest, TcLinkConfigurationAndFifo) {
-    setBits(Proc::kTcBlock, kTxCfg, 30, 0, 96, ~0ull);
-    setBits(Proc::kTcBlock, kTxCfg, 30, 64, 32, 0xFFFFFFFF);
+    setBits(kTcB, kTxCfg, 30, 0, 96, ~0ull);
+    setBits(kTcB, kTxCfg, 30, 64, 32, 0xFFFFFFFF);
     TC_TX_CFG tx{1, 0, 1, 0, 1, 3, 0xAB, 0x11, 0x22, 0x33, 0x44};
     TC_RX_CFG rx{0xDEADBEEF, 0x0F0F0F0F, 1, 0, 1, 0, 1, 1, 0, 1, 0, 7, 9, 6, 2, 8};
     const uint16_t link[1] = {30};
     ASSERT_EQ(VQ6192_IMA_SetTcLinkParam(kChip, 1, link, &tx, &rx), 0u);
-    EXPECT_EQ(bits(Proc::kTcBlock, kTxCfg, 30, 47, 49), (1ull << 49) - 1) << "bits 47..95 kept";
-    EXPECT_EQ(bits(Proc::kTcBlock, kTxCfg, 30, 0, 47),
+    EXPECT_EQ(bits(kTcB, kTxCfg, 30, 47, 49), (1ull << 49) - 1) << "bits 47..95 kept";
+    EXPECT_EQ(bits(kTcB, kTxCfg, 30, 0, 47),
               (1ull << 46) | (1ull << 44) | (1ull << 42) | (3ull << 40) | (0xABull << 32) | 0x11223344ull);
-    EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, 30, 0, 64), 0xDEADBEEF'0F0F0F0Full);
-    EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, 30, 64, 32), (1u << 31) | (1u << 29) | (1u << 26) | (1u << 24) |
-                                                            (7u << 19) | (6u << 15) | (2u << 13) | (8u << 7))
+    EXPECT_EQ(bits(kTcB, kRxCfg, 30, 0, 64), 0xDEADBEEF'0F0F0F0Full);
+    EXPECT_EQ(bits(kTcB, kRxCfg, 30, 64, 32), (1u << 31) | (1u << 29) | (1u << 26) | (1u << 24) | (7u << 19) |
+                                                  (6u << 15) | (2u << 13) | (8u << 7))
         << "HEC check has no bit; bits 64..70 and 91 are 0";
     TC_TX_CFG txb{};
     TC_RX_CFG rxb{};
     ASSERT_EQ(VQ6192_IMA_GetTcLinkParam(kChip, 1, link, &txb, &rxb), 0u);
     EXPECT_EQ(std::memcmp(&txb, &tx, sizeof tx), 0);
-    EXPECT_EQ(rxb.byRxCdfsmBeta, 6u) << "beta reads back as delta";
-    EXPECT_EQ(rxb.dwRxHeader, 0xDEADBEEFu);
-    expectRefused("no record", kPara,
-                  [&] { return VQ6192_IMA_SetTcLinkParam(kChip, 1, link, nullptr, nullptr); });
+    EXPECT_EQ((std::vector<uint32_t>{rxb.byRxCdfsmBeta, rxb.dwRxHeader}),
+              (std::vector<uint32_t>{6, 0xDEADBEEF}))
+        << "beta reads back as delta";
+    expectRefused("no record", [&] { return VQ6192_IMA_SetTcLinkParam(kChip, 1, link, nullptr, nullptr); });
 
     uint16_t ts[4], ima[5];
-    setBits(Proc::kTcBlock, kTxCfg, 31, 46, 1, 0);
-    setBits(Proc::kTcBlock, kRxCfg, 31, 95, 1, 0);
+    setBits(kTcB, kTxCfg, 31, 46, 1, 0);
+    setBits(kTcB, kRxCfg, 31, 95, 1, 0);
     capture.clear();
     EXPECT_EQ(VQ6192_IMA_GetTcLinkFifoStatus(kChip, 31, nullptr, nullptr, ts, ima), 0x000D000Bu);
     EXPECT_EQ(capture.traceTexts(),
               std::vector<std::string>{"VQ6192_IDX_TC_TX_IMAIF_LNK_STA_PRI Can't not be read  "
                                        "CHIPID[3] ErrCode[0xd000b]\r\n"});
-    setBits(Proc::kTcBlock, kTxImaif, 30, 0, 32, (0x1234u << 18) | (0x2Au << 12) | (0x155u << 2) | 1u);
+    setBits(kTcB, kTxImaif, 30, 0, 32, (0x1234u << 18) | (0x2Au << 12) | (0x155u << 2) | 1u);
     ASSERT_EQ(VQ6192_IMA_GetTcLinkFifoStatus(kChip, 30, nullptr, nullptr, ts, ima), 0u);
     EXPECT_EQ((std::vector<uint16_t>(ima, ima + 5)), (std::vector<uint16_t>{0x1234, 0x155, 0, 1, 0x2A}));
 }
 
 TEST_F(ControlTest, CaptureFiltersAndReadout) {
     IMA_CAP_FILTER f{};
-    f.wCapMode = 5;
-    f.wSelect = 1024;
-    f.wSubMode = 6;
-    f.wValueA = 3;
-    f.wValueB = 4;
-    f.wFilterNum = 1;
+    f.wCapMode = 5, f.wSelect = 1024, f.wSubMode = 6, f.wValueA = 3, f.wValueB = 4, f.wFilterNum = 1,
     f.awLink[0] = 77;
-    model.poke(0x4C3C, 0x0FFF);
-    model.poke(0x4C40 + 10, 0xFFFF);  // block 1: enable and link reset, the rest kept
-    model.poke(0x4C40 + 6, 0xFC00);
+    pokes({{0x4C3C, 0x0FFF}, {0x4C40 + 10, 0xFFFF}, {0x4C40 + 6, 0xFC00}});
     ASSERT_EQ(VQ6192_IMA_SetImaCapture(kChip, &f), 0u);
-    EXPECT_EQ(model.peek(0x4C3C), 0x5FFFu);
-    EXPECT_EQ(model.peek(0x4C40), 0x1000u | 77u);
-    EXPECT_EQ(model.peek(0x4C42), (1024u << 4) | 6u);
-    EXPECT_EQ(model.peek(0x4C46), 0xFC00u | (4u << 5) | 3u);
-    EXPECT_EQ(model.peek(0x4C40 + 10), 0xEFFFu) << "unused block: disabled, no link";
+    // Block 0 programmed; block 1 unused: disabled, no link, the rest kept.
+    EXPECT_EQ(
+        peeks({0x4C3C, 0x4C40, 0x4C42, 0x4C46, 0x4C40 + 10}),
+        (std::vector<uint32_t>{0x5FFF, 0x1000u | 77u, (1024u << 4) | 6u, 0xFC00u | (4u << 5) | 3u, 0xEFFF}));
     f.wSubMode = 5;
     EXPECT_EQ(VQ6192_IMA_SetImaCapture(kChip, &f), kPara);
     proc().holdCaptureBusy(Proc::kForever);

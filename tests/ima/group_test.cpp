@@ -1,6 +1,7 @@
 // IMA groups: the group check and its messages, the tables a group add lays, the mailbox command it
 // ends with, link addition around a running start-up or LASR, link and group deletion, the read-back.
 #include <cstring>
+#include <tuple>
 
 #include "ima_fixture.h"
 
@@ -10,27 +11,13 @@ using namespace imatest;
 
 constexpr uint32_t kGrp = 5;
 
+// Symmetric, version 1.1, label 3, ids 0x21/0x42, M 15/1, minimums 2, delay 500, 4-ahead stuffing,
+// reference link 47; links 10 (LID 0, ICP offset 3) and 47 (LID 2, offset 7).
 IMA_GRP_CFG groupCfg() {
     IMA_GRP_CFG c{};
-    c.byClockMd = 0;
-    c.bySymmetryMd = 0;
-    c.byImaVersion = 1;
-    c.byImaOamLabel = 3;
-    c.byRxImaIdCfgEn = 1;
-    c.byRxImaId = 0x21;
-    c.byTxImaId = 0x42;
-    c.wTxVphy = kGrp;
-    c.wRxVphy = kGrp;
-    c.byRxM = 0xF;
-    c.byPRx = 2;
-    c.byTxM = 1;
-    c.byPTx = 2;
-    c.wMaxDelay = 500;
-    c.byStuffMd = 0;
-    c.byStuffAdvMd = 4;
-    c.wTxTrlPhy = 47;
-    c.wNumRxLinks = 2;
-    c.wNumTxLinks = 2;
+    c.byImaVersion = 1, c.byImaOamLabel = 3, c.byRxImaIdCfgEn = 1, c.byRxImaId = 0x21, c.byTxImaId = 0x42;
+    c.wTxVphy = kGrp, c.wRxVphy = kGrp, c.byRxM = 0xF, c.byPRx = 2, c.byTxM = 1, c.byPTx = 2;
+    c.wMaxDelay = 500, c.byStuffAdvMd = 4, c.wTxTrlPhy = 47, c.wNumRxLinks = 2, c.wNumTxLinks = 2;
     const uint16_t rx[2] = {10, 47};
     const IMA_TX_LINK tx[2] = {{0, 3, 10}, {2, 7, 47}};
     std::memcpy(reinterpret_cast<uint8_t *>(&c) + offsetof(IMA_GRP_CFG, pusRxLinks), rx, sizeof rx);
@@ -43,64 +30,63 @@ class GroupTest : public ImaTest {};
 TEST_F(GroupTest, AddGroupLaysEveryTable) {
     // Neighbour bits set everywhere the add must keep them.
     for (uint32_t link : {10u, 47u}) {
-        setBits(Proc::kTcBlock, kRxCfg, link, 0, 96, ~0ull);
-        setBits(Proc::kTcBlock, kRxCfg, link, 64, 32, 0xFFFFFFFF);
-        setBits(Proc::kTcBlock, kTxCfg, link, 0, 64, ~0ull);
+        setBits(kTcB, kRxCfg, link, 0, 96, ~0ull);
+        setBits(kTcB, kRxCfg, link, 64, 32, 0xFFFFFFFF);
+        setBits(kTcB, kTxCfg, link, 0, 64, ~0ull);
     }
-    setBits(Proc::kRxBlock, kRxGpc, kGrp, 0, 32, 0xFAB00000);
+    setBits(kRxB, kRxGpc, kGrp, 0, 32, 0xFAB00000);
     for (uint32_t w = 0; w < 5; ++w) {
-        setBits(Proc::kTxBlock, kTxGps, kGrp * 8 + w, 0, 32, 0x12345678);
+        setBits(kTxB, kTxGps, kGrp * 8 + w, 0, 32, 0x12345678);
     }
-    setBits(Proc::kTxBlock, kInGrp, kGrp, 0, 64, 0x3);  // stale members are cleared
+    setBits(kTxB, kInGrp, kGrp, 0, 64, 0x3);  // stale members are cleared
     const IMA_GRP_CFG cfg = groupCfg();
     ASSERT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), 0u);
 
     // Transmit side: LID map, group config, ICP offsets, link set, depth, counters cleared.
+    std::vector<uint64_t> got, want;
     for (uint32_t lid = 0; lid < 32; ++lid) {
-        const uint32_t expect = lid == 0 ? 10 : lid == 2 ? 47 : 511;
-        EXPECT_EQ(bits(Proc::kTxBlock, kMap, kGrp * 32 + lid, 0, 9), expect) << "LID " << lid;
+        got.push_back(bits(kTxB, kMap, kGrp * 32 + lid, 0, 9));
+        want.push_back(lid == 0 ? 10 : lid == 2 ? 47 : 511);
     }
-    EXPECT_EQ(word(Proc::kTxBlock, kTxGpc, kGrp), 0x4903u)
-        << "reference LID 2, Txm 1, 4-ahead = bit 0, stuff, label 3";
-    EXPECT_EQ(bits(Proc::kTxBlock, kTxLkc, 10, 0, 8), 3u);
-    EXPECT_EQ(bits(Proc::kTxBlock, kTxLkc, 47, 0, 8), 7u);
-    EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, kGrp, 0, 64), (1ull << 10) | (1ull << 47));
-    EXPECT_EQ(bits(Proc::kTxBlock, kDepth, kGrp, 0, 11), 2047u);
     for (uint32_t w = 0; w < 5; ++w) {
-        EXPECT_EQ(word(Proc::kTxBlock, kTxGps, kGrp * 8 + w), 0u) << "Imatxgps" << w;
+        got.push_back(word(kTxB, kTxGps, kGrp * 8 + w));
+        want.push_back(0);
     }
-    EXPECT_EQ(model.peek(0x48AE) & 1u, 1u);
+    EXPECT_EQ(got, want) << "LID map, then Imatxgps0..4";
+    // Reference LID 2, Txm 1, 4-ahead = bit 0, stuff, label 3; ICP offsets; link set; depth.
+    EXPECT_EQ((std::vector<uint64_t>{word(kTxB, kTxGpc, kGrp), bits(kTxB, kTxLkc, 10, 0, 8),
+                                     bits(kTxB, kTxLkc, 47, 0, 8), bits(kTxB, kInGrp, kGrp, 0, 64),
+                                     bits(kTxB, kDepth, kGrp, 0, 11), model.peek(0x48AE) & 1u}),
+              (std::vector<uint64_t>{0x4903, 3, 7, (1ull << 10) | (1ull << 47), 2047, 1}));
 
     // Processor group words 0..2 at group * 16 + word, receive link table in words 5..15.
-    EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 0), 0x03080000u);
-    EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 1), 0x42420000u);
-    EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 2), 0x9085F132u);
-    EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 5), 10u | (511u << 9) | (47u << 18));
-    for (uint32_t w = 6; w < 16; ++w) {
-        EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + w), 0x7FFFFFFu) << "word " << w;
+    std::vector<uint32_t> gpc;
+    for (uint32_t w : {0, 1, 2, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}) {
+        gpc.push_back(word(kPpB, kGpc, kGrp * 16 + w));
     }
-    EXPECT_EQ(word(Proc::kProcBlock, kTxc, 10), 0xC0050000u);
-    EXPECT_EQ(word(Proc::kProcBlock, kTxc, 47), 0xC0051000u);
-    EXPECT_EQ(word(Proc::kProcBlock, kRxc, 10), 0xC0050000u);
-    EXPECT_EQ(word(Proc::kProcBlock, kRxc, 47), 0xC0050000u);
+    EXPECT_EQ(gpc, (std::vector<uint32_t>{0x03080000, 0x42420000, 0x9085F132, 10u | (511u << 9) | (47u << 18),
+                                          0x7FFFFFF, 0x7FFFFFF, 0x7FFFFFF, 0x7FFFFFF, 0x7FFFFFF, 0x7FFFFFF,
+                                          0x7FFFFFF, 0x7FFFFFF, 0x7FFFFFF, 0x7FFFFFF}));
+    EXPECT_EQ((std::vector<uint32_t>{word(kPpB, kTxc, 10), word(kPpB, kTxc, 47), word(kPpB, kRxc, 10),
+                                     word(kPpB, kRxc, 47)}),
+              (std::vector<uint32_t>{0xC0050000, 0xC0051000, 0xC0050000, 0xC0050000}));
 
     // Receive side: delay tolerance with Scvcthresh kept, SCVC entries at (link % 84) * 4 + link / 84.
-    EXPECT_EQ(word(Proc::kRxBlock, kRxGpc, kGrp), 0xFABFFDF4u);
-    EXPECT_EQ(bits(Proc::kRxBlock, kScvc, 40, 0, 10), 0x205u);
-    EXPECT_EQ(bits(Proc::kRxBlock, kScvc, 188, 0, 10), 0x205u);
+    EXPECT_EQ((std::vector<uint64_t>{word(kRxB, kRxGpc, kGrp), bits(kRxB, kScvc, 40, 0, 10),
+                                     bits(kRxB, kScvc, 188, 0, 10)}),
+              (std::vector<uint64_t>{0xFABFFDF4, 0x205, 0x205}));
 
     // TC links: idle filter off on the receive links, the transmit link enabled again, neighbours kept.
     for (uint32_t link : {10u, 47u}) {
-        EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, link, 64, 32), 0xFDFFFFFFu) << "only bit 89 cleared";
-        EXPECT_EQ(bits(Proc::kTcBlock, kTxCfg, link, 0, 64), ~0ull);
+        EXPECT_EQ(bits(kTcB, kRxCfg, link, 64, 32), 0xFDFFFFFFu) << "only bit 89 cleared";
+        EXPECT_EQ(bits(kTcB, kTxCfg, link, 0, 64), ~0ull);
     }
-    ASSERT_EQ(proc().commands().size(), 1u);
-    EXPECT_EQ(proc().commands()[0], (Proc::Command{0, kGrp, 0x5, 0x5, 0}));
+    EXPECT_EQ(proc().commands(), (std::vector<Proc::Command>{{0, kGrp, 0x5, 0x5, 0}}));
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 1u) << "the mailbox sleeps 1 us after the command";
 }
 
 TEST_F(GroupTest, GroupInUseWritesNothing) {
-    setBits(Proc::kProcBlock, kGps, kGrp * 8, 62, 2, 2);
+    setBits(kPpB, kGps, kGrp * 8, 62, 2, 2);
     const IMA_GRP_CFG cfg = groupCfg();
     const uint64_t before = tableWrites();
     EXPECT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), kInUse);
@@ -109,12 +95,7 @@ TEST_F(GroupTest, GroupInUseWritesNothing) {
 }
 
 TEST_F(GroupTest, GroupCheckMessages) {
-    struct Case {
-        const char *what;
-        std::function<void(IMA_GRP_CFG &)> change;
-        const char *message;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, std::function<void(IMA_GRP_CFG &)>, const char *> cases[] = {
         {"clock", [](IMA_GRP_CFG &c) { c.byClockMd = 2; },
          "Err. VQ6192_IMA_checkGrpParams(3,5)---byClockMd >= VQ6192_IMA_GRP_CLK_MD_CTC---   "
          "pstCfg->byClockMd = 2\r\n"},
@@ -166,26 +147,26 @@ TEST_F(GroupTest, GroupCheckMessages) {
          "Err. VQ6192_IMA_checkGrpParams(3,5,)   ---bySymmetryMd != VQ6192_IMA_GRP_ASYM and wNumRxLinks == "
          "usNumTxLinks---   pstCfg->bySymmetryMd = 0; pstCfg->wNumRxLinks = 0; pstCfg->wNumTxLinks = 2\n"},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto &[what, change, message] : cases) {
+        SCOPED_TRACE(what);
         IMA_GRP_CFG cfg = groupCfg();
-        c.change(cfg);
+        change(cfg);
         capture.clear();
         const auto t = traced([&] { EXPECT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), kPara); });
         EXPECT_TRUE(t.empty());
-        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{c.message});
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{message});
     }
     IMA_GRP_CFG asym = groupCfg();
     asym.bySymmetryMd = 2;
     asym.wNumRxLinks = 0;
     EXPECT_EQ(VQ6192_IMA_checkGrpParams(kChip, kGrp, &asym), 0u) << "asymmetric: any receive count";
-    expectRefused("null record", kPara, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, nullptr); });
-    expectRefused("group 336", kPara, [&] { return VQ6192_IMA_AddImaGrp(kChip, 336, &asym); });
+    expectRefused("null record", [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, nullptr); });
+    expectRefused("group 336", [&] { return VQ6192_IMA_AddImaGrp(kChip, 336, &asym); });
 }
 
 TEST_F(GroupTest, AddGroupDrainAndStepFailures) {
     const IMA_GRP_CFG cfg = groupCfg();
-    setBits(Proc::kTcBlock, kTxCfg, 10, 46, 1, 1);
+    setBits(kTcB, kTxCfg, 10, 46, 1, 1);
     proc().setDrainReads(Proc::kForever);
     EXPECT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), 0u) << "a drain that never ends does not stop the add";
     const auto texts = capture.traceTexts();
@@ -195,7 +176,7 @@ TEST_F(GroupTest, AddGroupDrainAndStepFailures) {
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 100u * 500u + 1u) << "100 polls 500 us apart";
 
     // The refused add_group command is the step's result.
-    setBits(Proc::kProcBlock, kGps, kGrp * 8, 62, 2, 0);
+    setBits(kPpB, kGps, kGrp * 8, 62, 2, 0);
     proc().setDrainReads(0);
     proc().refuse(1);
     capture.clear();
@@ -209,72 +190,64 @@ TEST_F(GroupTest, AddLinksAroundStartupAndLasr) {
     IMA_GRP_CFG cfg = groupCfg();
     const uint16_t rx[1] = {100};
     const IMA_TX_LINK tx[1] = {{4, 1, 100}};
-    struct Case {
-        uint32_t gwp;
-        uint32_t refusals;
-        uint32_t status;
-        size_t commands;
-        uint64_t ticks;
-    };
-    const Case cases[] = {
+    const std::tuple<uint32_t, uint32_t, uint32_t, size_t, uint64_t> cases[] = {
         {0, 0, 0, 1, 0},           {1, 0, 0, 1, 0}, {2, 0, 0, 1, 10},
         {2, 2, 0, 3, 10},           // refused twice: the later attempts find the LASR stopped
         {0, 3, kRefusedCmd, 3, 0},  // three refusals end it
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(testing::Message() << "Gwpactive " << c.gwp << " refusals " << c.refusals);
+    for (const auto &[gwp, refusals, status, commands, ticks] : cases) {
+        SCOPED_TRACE(testing::Message() << "Gwpactive " << gwp << " refusals " << refusals);
         proc().clearCommands();
         VQ6192_Platform_ResetVirtualTime();
-        setBits(Proc::kProcBlock, kGps, kGrp * 8, 53, 2, c.gwp);
-        setBits(Proc::kProcBlock, kGps, kGrp * 8 + 2, 0, 32, 0xFFFFFFFF);   // Txlasract
-        setBits(Proc::kProcBlock, kGps, kGrp * 8 + 4, 32, 32, 0xFFFFFFFF);  // Rxlasract
-        setBits(Proc::kProcBlock, kGpc, kGrp * 16 + 3, 0, 32, 0xFFFFFFFF);
-        proc().refuse(c.refusals);
-        EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 1, kGrp, 1, 1, rx, tx, &cfg), c.status);
-        ASSERT_EQ(proc().commands().size(), c.commands);
+        setBits(kPpB, kGps, kGrp * 8, 53, 2, gwp);
+        setBits(kPpB, kGps, kGrp * 8 + 2, 0, 32, 0xFFFFFFFF);   // Txlasract
+        setBits(kPpB, kGps, kGrp * 8 + 4, 32, 32, 0xFFFFFFFF);  // Rxlasract
+        setBits(kPpB, kGpc, kGrp * 16 + 3, 0, 32, 0xFFFFFFFF);
+        proc().refuse(refusals);
+        EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 1, kGrp, 1, 1, rx, tx, &cfg), status);
+        ASSERT_EQ(proc().commands().size(), commands);
         EXPECT_EQ(proc().commands().back(), (Proc::Command{8, kGrp, 1u << 4, 1u << 4, 0}));
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs() / kTickUs, c.ticks);
-        EXPECT_EQ(bits(Proc::kProcBlock, kGps, kGrp * 8, 53, 2), c.gwp == 1 ? 1u : 0u);
-        EXPECT_EQ(word(Proc::kProcBlock, kGpc, kGrp * 16 + 3), 0xFFFFFFFFu) << "Autolasren set again";
-        if (c.gwp == 2) {
-            EXPECT_EQ(bits(Proc::kProcBlock, kGps, kGrp * 8 + 2, 0, 32), 0u);
-            EXPECT_EQ(bits(Proc::kProcBlock, kGps, kGrp * 8 + 4, 32, 32), 0u);
-        }
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs() / kTickUs, ticks);
+        // Gwpactive, Autolasren set again, and Txlasract and Rxlasract cleared when a LASR was running.
+        const std::vector<uint64_t> got = {bits(kPpB, kGps, kGrp * 8, 53, 2), word(kPpB, kGpc, kGrp * 16 + 3),
+                                           bits(kPpB, kGps, kGrp * 8 + 2, 0, 32),
+                                           bits(kPpB, kGps, kGrp * 8 + 4, 32, 32)};
+        EXPECT_EQ(got, (std::vector<uint64_t>{gwp == 1 ? 1u : 0u, 0xFFFFFFFF, gwp == 2 ? 0u : 0xFFFFFFFFu,
+                                              gwp == 2 ? 0u : 0xFFFFFFFFu}));
     }
-    EXPECT_EQ(bits(Proc::kTxBlock, kMap, kGrp * 32 + 4, 0, 9), 100u);
-    EXPECT_EQ(word(Proc::kProcBlock, kTxc, 100), 0xC0052000u);
-    EXPECT_EQ(bits(Proc::kProcBlock, kGpc, kGrp * 16 + 5 + 1, 9, 9), 100u) << "position 4: word 6, slot 1";
+    // LID 4 maps link 100; position 4 of the receive table: word 6, slot 1.
+    EXPECT_EQ((std::vector<uint64_t>{bits(kTxB, kMap, kGrp * 32 + 4, 0, 9), word(kPpB, kTxc, 100),
+                                     bits(kPpB, kGpc, kGrp * 16 + 5 + 1, 9, 9)}),
+              (std::vector<uint64_t>{100, 0xC0052000, 100}));
 
-    expectRefused("no receive link", kPara,
+    expectRefused("no receive link",
                   [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 0, 1, rx, tx, &cfg); });
-    expectRefused("33 links", kPara,
-                  [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 33, 1, rx, tx, &cfg); });
+    expectRefused("33 links", [&] { return VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 33, 1, rx, tx, &cfg); });
     const IMA_TX_LINK badOffset[1] = {{4, 64, 100}};
     capture.clear();
     EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 1, 1, rx, badOffset, &cfg), kPara);
     EXPECT_EQ(capture.traceTexts(),
               std::vector<std::string>{"Err. VQ6192_checkTxLinkParams(3,1,1) "
                                        "pstTxLinks[i].ucIcpOffset[0x40]     ErrCode[0x30d0001]\r\n"});
-    setBits(Proc::kTcBlock, kTxCfg, 100, 46, 1, 1);
+    setBits(kTcB, kTxCfg, 100, 46, 1, 1);
     proc().setDrainReads(Proc::kForever);
     EXPECT_EQ(VQ6192_IMA_AddImaLink(kChip, 0, kGrp, 1, 1, rx, tx, &cfg), kNoEnd);
 }
 
 TEST_F(GroupTest, DeleteLinksAndGroup) {
-    setBits(Proc::kTxBlock, kInGrp, kGrp, 0, 64, (1ull << 10) | (1ull << 47) | (1ull << 63));
+    setBits(kTxB, kInGrp, kGrp, 0, 64, (1ull << 10) | (1ull << 47) | (1ull << 63));
     const uint16_t rx[1] = {47};
     const IMA_TX_LINK tx[1] = {{2, 7, 47}};
     ASSERT_EQ(VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 1, rx, tx, 0), 0u);
-    EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, kGrp, 0, 64), (1ull << 10) | (1ull << 63));
+    EXPECT_EQ(bits(kTxB, kInGrp, kGrp, 0, 64), (1ull << 10) | (1ull << 63));
     ASSERT_EQ(VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 0, rx, nullptr, 2), 0u)
         << "asymmetric: position = link number";
     ASSERT_EQ(VQ6192_IMA_DelImaGrp(kChip, kGrp), 0u);
     const std::vector<Proc::Command> expect = {
         {9, kGrp, 1u << 2, 1u << 2, 0}, {9, kGrp, 0, 0, 0}, {1, kGrp, 0, 0, 0}};
     EXPECT_EQ(proc().commands(), expect) << "link 47 has no position bit in an asymmetric group";
-    expectRefused("nothing to delete", kPara,
-                  [&] { return VQ6192_IMA_DelImaLink(kChip, kGrp, 0, 0, rx, tx, 0); });
-    expectRefused("receive link 336", kPara, [&] {
+    expectRefused("nothing to delete", [&] { return VQ6192_IMA_DelImaLink(kChip, kGrp, 0, 0, rx, tx, 0); });
+    expectRefused("receive link 336", [&] {
         const uint16_t bad[1] = {336};
         return VQ6192_IMA_DelImaLink(kChip, kGrp, 1, 1, bad, tx, 0);
     });
@@ -286,32 +259,20 @@ TEST_F(GroupTest, ConfigurationReadBack) {
     EXPECT_EQ(VQ6192_IMA_GetImaGrpCfg(kChip, kGrp, &out, &en), kInUse) << "a free group has no configuration";
     const IMA_GRP_CFG cfg = groupCfg();
     ASSERT_EQ(VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg), 0u);
-    setBits(Proc::kProcBlock, kGps, kGrp * 8 + 1, 32, 9, 47);  // Txtrlphyid reported by the processor
+    setBits(kPpB, kGps, kGrp * 8 + 1, 32, 9, 47);  // Txtrlphyid reported by the processor
     ASSERT_EQ(VQ6192_IMA_GetImaGrpCfg(kChip, kGrp, &out, &en), 0u);
-    EXPECT_EQ(en, 3u);
-    EXPECT_EQ(out.byImaOamLabel, 3u);
-    EXPECT_EQ(out.byTxImaId, 0x42u);
-    EXPECT_EQ(out.byRxImaId, 0x21u);
-    EXPECT_EQ(out.byRxM, 0xFu);
-    EXPECT_EQ(out.byTxM, 1u);
-    EXPECT_EQ(out.byPRx, 2u);
-    EXPECT_EQ(out.byPTx, 2u);
-    EXPECT_EQ(static_cast<uint32_t>(out.wMaxDelay), 500u);
-    EXPECT_EQ(out.byStuffAdvMd, 0u) << "4 is stored as bit 0 and read back as that bit";
-    EXPECT_EQ(static_cast<uint32_t>(out.wTxTrlPhy), 47u);
-    EXPECT_EQ(static_cast<uint32_t>(out.wTxVphy), kGrp);
-    EXPECT_EQ(out.byStuffMd, 2u);
-    EXPECT_EQ(static_cast<uint32_t>(out.wNumTxLinks), 2u);
-    EXPECT_EQ(static_cast<uint32_t>(out.wNumRxLinks), 2u);
     IMA_TX_LINK tx[2];
     uint16_t rx[2];
     std::memcpy(tx, reinterpret_cast<const uint8_t *>(&out) + offsetof(IMA_GRP_CFG, pstTxLinks), sizeof tx);
     std::memcpy(rx, reinterpret_cast<const uint8_t *>(&out) + offsetof(IMA_GRP_CFG, pusRxLinks), sizeof rx);
-    EXPECT_EQ(tx[1].ucLid, 2u);
-    EXPECT_EQ(tx[1].ucIcpOffset, 7u);
-    EXPECT_EQ(tx[1].usPhyLink, 47u);
-    EXPECT_EQ(rx[0], 10u);
-    EXPECT_EQ(rx[1], 47u);
+    // The stuff advance 4 is stored as bit 0 and read back as that bit.
+    EXPECT_EQ((std::vector<uint32_t>{en, out.byImaOamLabel, out.byTxImaId, out.byRxImaId, out.byRxM,
+                                     out.byTxM, out.byPRx, out.byPTx, out.wMaxDelay, out.byStuffAdvMd}),
+              (std::vector<uint32_t>{3, 3, 0x42, 0x21, 0xF, 1, 2, 2, 500, 0}));
+    EXPECT_EQ(
+        (std::vector<uint32_t>{out.wTxTrlPhy, out.wTxVphy, out.byStuffMd, out.wNumTxLinks, out.wNumRxLinks,
+                               tx[1].ucLid, tx[1].ucIcpOffset, tx[1].usPhyLink, rx[0], rx[1]}),
+        (std::vector<uint32_t>{47, kGrp, 2, 2, 2, 2, 7, 47, 10, 47}));
 }
 
 }  // namespace
@@ -323,29 +284,24 @@ using namespace imatest;
 class StepFailureTest : public ImaTest {};
 
 TEST_F(StepFailureTest, TableFailuresEndTheStepWithItsMessage) {
-    struct Case {
-        uint32_t block;
-        std::function<uint32_t()> op;
-        const char *message;
-    };
     static const IMA_GRP_CFG cfg = groupCfg();
-    const Case cases[] = {
-        {Proc::kTcBlock, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
+    const std::tuple<uint32_t, std::function<uint32_t()>, const char *> cases[] = {
+        {kTcB, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
          "Err. VQ6192_IMA_AddImaGrp.VQ6192_Read_Table(3,138,10) i=0     ErrCode[0x30c0003]\r\n"},
-        {Proc::kTxBlock, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
+        {kTxB, [] { return VQ6192_IMA_AddImaGrp(kChip, kGrp, &cfg); },
          "Err. VQ6192_imaAddGrp.VQ6192_clrTimaGrpParams(3,5)       ErrCode[0x30c0003]\r\n"},
-        {Proc::kProcBlock, [] { return VQ6192_IMA_ResetIma(kChip); },
+        {kPpB, [] { return VQ6192_IMA_ResetIma(kChip); },
          "Err. VQ6192_IMA_ResetIma.VQ6192_Write_Table(3,143,0)      ErrCode[0x30c0003]\r\n"},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.message);
-        model.tables().holdBusy(c.block, vq6192::sim::TableEngine::kForever);
+    for (const auto &[block, op, message] : cases) {
+        SCOPED_TRACE(message);
+        model.tables().holdBusy(block, vq6192::sim::TableEngine::kForever);
         capture.clear();
-        EXPECT_EQ(c.op(), 0x030C0003u) << "the table access's own code";
+        EXPECT_EQ(op(), 0x030C0003u) << "the table access's own code";
         const auto texts = capture.traceTexts();
         ASSERT_EQ(texts.size(), 2u) << "the table layer's line, then the step's";
-        EXPECT_EQ(texts[1], c.message);
-        model.tables().holdBusy(c.block, 0);
+        EXPECT_EQ(texts[1], message);
+        model.tables().holdBusy(block, 0);
     }
     EXPECT_TRUE(proc().commands().empty());
 }

@@ -1,5 +1,7 @@
 // Step helpers: entry indexes of the tables that share a select code, link vectors, capture filter
 // sub-modes, and the TC state records copied field by field.
+#include <tuple>
+
 #include "ima_fixture.h"
 #include "vq6192/table.h"
 
@@ -19,95 +21,71 @@ uint32_t idOf(const char *name) {
 }
 
 TEST_F(HelpersTest, EntryIndexesByNumberAndWord) {
-    struct Case {
-        const char *table;
-        uint32_t number, word, index;
-    };
     // Entries per group or link: 16 for the processor group configuration and the ICP buffers, 8 for
     // the group status words, 4 for the link counters and write pointers, 2 for link status pairs and
     // group counters, 32 for the LID map, 1 otherwise.
-    const Case cases[] = {
+    const std::tuple<const char *, uint32_t, uint32_t, uint32_t> cases[] = {
         {"Imappgpc3", 5, 3, 83},      {"Imappgpc5", 5, 15, 95},    {"Imapptxs1", 40, 1, 81},
         {"Imappgps7", 3, 7, 31},      {"Imatxgps4", 3, 4, 28},     {"Imarxlkcnt2", 10, 2, 42},
         {"Imarxgpwptr2", 10, 2, 42},  {"Imarxgpcnt1", 7, 1, 15},   {"Imarxunircnt0", 7, 0, 14},
         {"Imarxicpbuf12", 2, 12, 44}, {"Imatxicpbuf0", 2, 10, 42}, {"Imatxmaptbl0", 3, 31, 127},
         {"Imatxgpc", 9, 0, 9},        {"Imarxlks1", 4, 1, 9},      {"Tcrxlnkcfg", 335, 0, 335},
     };
-    for (const Case &c : cases) {
+    for (const auto &[table, number, w, want] : cases) {
         uint32_t index = 0;
-        ASSERT_EQ(VQ6192_utlTransIdxID(kChip, idOf(c.table), c.number, c.word, &index), 0u) << c.table;
-        EXPECT_EQ(index, c.index) << c.table;
+        ASSERT_EQ(VQ6192_utlTransIdxID(kChip, idOf(table), number, w, &index), 0u) << table;
+        EXPECT_EQ(index, want) << table;
     }
 }
 
 TEST_F(HelpersTest, LinkVectors) {
     const IMA_TX_LINK tx[3] = {{0, 0, 200}, {31, 0, 5}, {7, 0, 9}};
     const uint16_t rx[3] = {3, 40, 31};
-    uint32_t vec = 0;
-    ASSERT_EQ(VQ6192_setupTxLinksVec(kChip, 3, tx, &vec), 0u);
-    EXPECT_EQ(vec, 0x80000081u);
-    ASSERT_EQ(VQ6192_setupRxLinksVec(kChip, 3, rx, tx, 1, &vec), 0u);
-    EXPECT_EQ(vec, 0x80000081u) << "symmetric configuration: the LIDs of the transmit records";
-    ASSERT_EQ(VQ6192_setupRxLinksVec(kChip, 3, rx, tx, 2, &vec), 0u);
-    EXPECT_EQ(vec, 0x80000008u) << "asymmetric: link numbers, 40 sets no bit";
-    uint32_t lid = 9;
-    ASSERT_EQ(VQ6192_getLidFromPhy(kChip, 9, 3, tx, &lid), 0u);
-    EXPECT_EQ(lid, 7u);
-    ASSERT_EQ(VQ6192_getLidFromPhy(kChip, 10, 3, tx, &lid), 0u);
-    EXPECT_EQ(lid, 0u) << "not found: 0";
+    // Transmit LIDs; receive vector of a symmetric group (the LIDs of the transmit records) and of an
+    // asymmetric one (link numbers, 40 sets no bit); the LID of link 9, and 0 for a link not found.
+    uint32_t v[5] = {0, 0, 0, 9, 9};
+    EXPECT_EQ(
+        (std::vector<uint32_t>{
+            VQ6192_setupTxLinksVec(kChip, 3, tx, &v[0]), VQ6192_setupRxLinksVec(kChip, 3, rx, tx, 1, &v[1]),
+            VQ6192_setupRxLinksVec(kChip, 3, rx, tx, 2, &v[2]), VQ6192_getLidFromPhy(kChip, 9, 3, tx, &v[3]),
+            VQ6192_getLidFromPhy(kChip, 10, 3, tx, &v[4])}),
+        std::vector<uint32_t>(5, 0));
+    EXPECT_EQ(std::vector<uint32_t>(v, v + 5),
+              (std::vector<uint32_t>{0x80000081, 0x80000081, 0x80000008, 7, 0}));
 }
 
 TEST_F(HelpersTest, CaptureSubModes) {
-    struct Case {
-        uint16_t subMode;
-        uint32_t reg;  // R2 or R3 of block 0
-        uint16_t before, after;
-    };
-    const Case cases[] = {
+    const std::tuple<uint16_t, uint32_t, uint16_t, uint16_t> cases[] = {
         {0, 0x4C44, 0xFFFF, 0xC000 | (0x15 << 8) | 0x34},
         {2, 0x4C46, 0x03FF, 0x8000 | (0x1E << 10) | 0x3FF},
         {4, 0x4C46, 0x0000, 0x8000 | (0x1E << 10)},
         {3, 0x4C46, 0xFFE0, 0xFFE0 | 0x15},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.subMode);
+    for (const auto &[subMode, reg, before, after] : cases) {
+        SCOPED_TRACE(subMode);
         IMA_CAP_FILTER f{};
-        f.wFlag = 1;
-        f.wSelect = 1024;
-        f.wSubMode = c.subMode;
-        f.wValueA = 0x15;
-        f.wValueB = 0x1234;
-        f.wFilterNum = 1;
-        f.awValueC[0] = 0x1E;
-        model.poke(c.reg, c.before);
+        f.wFlag = 1, f.wSelect = 1024, f.wSubMode = subMode, f.wValueA = 0x15, f.wValueB = 0x1234;
+        f.wFilterNum = 1, f.awValueC[0] = 0x1E;
+        model.poke(reg, before);
         ASSERT_EQ(VQ6192_IMA_SetImaCapture(kChip, &f), 0u);
-        EXPECT_EQ(model.peek(c.reg), c.after);
+        EXPECT_EQ(model.peek(reg), after);
     }
 }
 
 TEST_F(HelpersTest, TcStateRecords) {
-    setBits(Proc::kTcBlock, kRxSta0, 11, 0, 96, 0);
-    setBits(Proc::kTcBlock, kRxSta0, 11, 80, 16, 0xBEEF);
-    setBits(Proc::kTcBlock, kRxSta0, 11, 60, 2, 2);
-    setBits(Proc::kTcBlock, kRxSta0, 11, 0, 8, 0x7A);
-    setBits(Proc::kTcBlock, kRxSta1, 11, 0, 16, 0x0101);
-    setBits(Proc::kTcBlock, kRxSta1, 11, 80, 16, 0xCAFE);
-    setBits(Proc::kTcBlock, kTxSta, 11, 54, 32, 0x12345678);
-    setBits(Proc::kTcBlock, kTxSta, 11, 88, 8, 0x9C);
+    setFields(kTcB, kRxSta0, 11, {{0, 96, 0}, {80, 16, 0xBEEF}, {60, 2, 2}, {0, 8, 0x7A}});
+    setFields(kTcB, kRxSta1, 11, {{0, 16, 0x0101}, {80, 16, 0xCAFE}});
+    setFields(kTcB, kTxSta, 11, {{54, 32, 0x12345678}, {88, 8, 0x9C}});
     uint16_t rx0[15] = {}, rx1[6] = {};
     uint32_t tx[11] = {};
     ASSERT_EQ(VQ6192_IMA_GetTcLinkStatus(kChip, 11, rx0, rx1, nullptr, tx), 0u);
-    EXPECT_EQ(rx0[0], 0xBEEFu) << "wRxScrambleByte0";
-    EXPECT_EQ(rx0[5], 2u) << "wRxCdfsmSt SYNC";
-    EXPECT_EQ(rx0[14], 0x7Au) << "wRxDinDff1";
-    EXPECT_EQ(rx1[0], 0xCAFEu);
-    EXPECT_EQ(rx1[5], 0x0101u) << "wRxOcdCellCnt";
-    EXPECT_EQ(tx[0], 0x9Cu) << "dwHecCrcOut";
-    EXPECT_EQ(tx[3], 0x12345678u) << "dwTxCellSentCnt";
+    // wRxScrambleByte0, wRxCdfsmSt SYNC, wRxDinDff1, the first receive word, wRxOcdCellCnt, dwHecCrcOut,
+    // dwTxCellSentCnt.
+    EXPECT_EQ((std::vector<uint32_t>{rx0[0], rx0[5], rx0[14], rx1[0], rx1[5], tx[0], tx[3]}),
+              (std::vector<uint32_t>{0xBEEF, 2, 0x7A, 0xCAFE, 0x0101, 0x9C, 0x12345678}));
     ASSERT_EQ(VQ6192_IMA_GetTcLinkStatus(kChip, 11, nullptr, rx1, nullptr, tx), 0u);
-    EXPECT_EQ(rx1[5], 0u) << "read-clear";
-    EXPECT_EQ(tx[3], 0u) << "read-clear";
-    expectRefused("no output", kPara,
+    EXPECT_EQ((std::vector<uint32_t>{rx1[5], tx[3]}), (std::vector<uint32_t>{0, 0})) << "read-clear";
+    expectRefused("no output",
                   [] { return VQ6192_IMA_GetTcLinkStatus(kChip, 11, nullptr, nullptr, nullptr, nullptr); });
 }
 

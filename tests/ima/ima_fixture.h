@@ -3,7 +3,9 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/test_support.h"
@@ -24,36 +26,16 @@ constexpr uint32_t kInUse = 0x030D0006;
 constexpr uint32_t kRefusedCmd = 0x030D0009;
 constexpr uint64_t kTickUs = 10000;
 
-// Select codes of the IMA tables in their access blocks.
-enum PpSel : uint32_t { kTxc = 0, kRxc = 1, kGpc = 2, kTxs = 3, kRxs = 4, kGps = 5, kEvent = 6, kIcpFwd = 7 };
-enum RxSel : uint32_t {
-    kLkCnt = 0,
-    kRxGpc = 2,
-    kIcpVld = 3,
-    kIcpBuf = 5,
-    kDelay = 9,
-    kGpCnt = 12,
-    kScvc = 13
-};
-enum TxSel : uint32_t {
-    kTxGps = 0,
-    kTxIcp = 1,
-    kTxGpc = 2,
-    kMap = 3,
-    kTxLks = 4,
-    kTxLkc = 5,
-    kInGrp = 6,
-    kDepth = 7
-};
-enum TcSel : uint32_t {
-    kRxCfg = 0,
-    kRxSta0 = 1,
-    kRxSta1 = 2,
-    kRxSta2 = 3,
-    kTxCfg = 6,
-    kTxSta = 7,
-    kTxImaif = 8
-};
+// The four access blocks of the IMA tables: processor, receive, transmit and TC.
+constexpr uint32_t kPpB = Proc::kProcBlock, kRxB = Proc::kRxBlock, kTxB = Proc::kTxBlock,
+                   kTcB = Proc::kTcBlock;
+
+// Select codes of the IMA tables, one line per access block: processor, receive, transmit, TC.
+constexpr uint32_t kTxc = 0, kRxc = 1, kGpc = 2, kTxs = 3, kRxs = 4, kGps = 5, kEvent = 6, kIcpFwd = 7;
+constexpr uint32_t kLkCnt = 0, kRxGpc = 2, kIcpVld = 3, kIcpBuf = 5, kDelay = 9, kGpCnt = 12, kScvc = 13;
+constexpr uint32_t kTxGps = 0, kTxIcp = 1, kTxGpc = 2, kMap = 3, kTxLks = 4, kTxLkc = 5, kInGrp = 6,
+                   kDepth = 7;
+constexpr uint32_t kRxCfg = 0, kRxSta0 = 1, kRxSta1 = 2, kRxSta2 = 3, kTxCfg = 6, kTxSta = 7, kTxImaif = 8;
 
 class ImaTest : public vqtest::ChipTest {
   protected:
@@ -65,12 +47,22 @@ class ImaTest : public vqtest::ChipTest {
     void setBits(uint32_t block, uint32_t sel, uint32_t addr, uint32_t bit, uint32_t width, uint64_t v) {
         proc().setEntryBits(block, sel, addr, bit, width, v);
     }
+    // Several fields of one entry: {bit, width, value} each.
+    struct FieldValue {
+        uint32_t bit, width;
+        uint64_t value;
+    };
+    void setFields(uint32_t block, uint32_t sel, uint32_t addr, std::initializer_list<FieldValue> fs) {
+        for (const FieldValue &f : fs) {
+            setBits(block, sel, addr, f.bit, f.width, f.value);
+        }
+    }
     uint32_t word(uint32_t block, uint32_t sel, uint32_t addr) {
         return static_cast<uint32_t>(bits(block, sel, addr, 0, 32));
     }
     uint64_t tableWrites() {
         uint64_t n = 0;
-        for (uint32_t b : {Proc::kProcBlock, Proc::kRxBlock, Proc::kTxBlock, Proc::kTcBlock}) {
+        for (uint32_t b : {kPpB, kRxB, kTxB, kTcB}) {
             n += model.tables().writesExecuted(b);
         }
         return n;
@@ -85,8 +77,8 @@ class ImaTest : public vqtest::ChipTest {
     }
 
     // Refused with `status`, "ParaErr.\r\n" traced (or nothing when quiet) and no register touched.
-    void expectRefused(const char *what, uint32_t status, const std::function<uint32_t()> &op,
-                       bool quiet = false) {
+    void expectRefused(const char *what, const std::function<uint32_t()> &op, bool quiet = false,
+                       uint32_t status = kPara) {
         SCOPED_TRACE(what);
         capture.clear();
         uint32_t rc = 0;
@@ -95,6 +87,20 @@ class ImaTest : public vqtest::ChipTest {
         EXPECT_TRUE(t.empty()) << t.size() << " bus accesses";
         EXPECT_EQ(capture.traceTexts(),
                   quiet ? std::vector<std::string>{} : std::vector<std::string>{"ParaErr.\r\n"});
+    }
+
+    // Several registers seeded, or read back, at once.
+    void pokes(std::initializer_list<std::pair<uint32_t, uint16_t>> regs) {
+        for (const auto &[addr, value] : regs) {
+            model.poke(addr, value);
+        }
+    }
+    std::vector<uint32_t> peeks(std::initializer_list<uint32_t> addrs) {
+        std::vector<uint32_t> v;
+        for (uint32_t a : addrs) {
+            v.push_back(model.peek(a));
+        }
+        return v;
     }
 
     void SetUp() override {

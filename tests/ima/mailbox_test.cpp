@@ -1,5 +1,8 @@
 // The IMA processor mailbox, the block start and reset, UNI links, VC-4 ports, TC resets and the link
 // parameters.
+#include <array>
+#include <tuple>
+
 #include "ima_fixture.h"
 
 namespace {
@@ -31,24 +34,18 @@ TEST_F(MailboxTest, RunCmdPassesOnlyKnownCodes) {
     for (uint32_t code : {3u, 7u, 10u, 11u, 14u, 15u, 18u, 23u, 27u, 31u}) {
         SCOPED_TRACE(code);
         expectRefused(
-            "unknown code", kPara, [&] { return VQ6192_IMA_RunCmd(kChip, code, para); }, true);
+            "unknown code", [&] { return VQ6192_IMA_RunCmd(kChip, code, para); }, true);
     }
     for (uint32_t code : {0u, 1u, 2u, 4u, 5u, 6u, 8u, 9u, 12u, 13u, 16u, 17u, 24u, 25u, 26u}) {
         EXPECT_EQ(VQ6192_IMA_RunCmd(kChip, code, para), 0u) << code;
     }
     EXPECT_EQ(proc().commands().size(), 15u);
     expectRefused(
-        "no parameters", kPara, [] { return VQ6192_IMA_RunCmd(kChip, 0, nullptr); }, true);
+        "no parameters", [] { return VQ6192_IMA_RunCmd(kChip, 0, nullptr); }, true);
 }
 
 TEST_F(MailboxTest, BusyRefusedAndWaits) {
-    struct Case {
-        const char *what;
-        std::function<void(Proc &)> fault;
-        uint32_t status;
-        uint64_t ticks;
-    };
-    const Case cases[] = {
+    const std::tuple<const char *, std::function<void(Proc &)>, uint32_t, uint64_t> cases[] = {
         {"idle", [](Proc &) {}, 0, 0},
         {"busy for 3 polls before", [](Proc &p) { p.holdBusy(3); }, 0, 300},
         {"busy for ever", [](Proc &p) { p.holdBusy(Proc::kForever); }, kTimeout, 1000 + 100},
@@ -57,50 +54,46 @@ TEST_F(MailboxTest, BusyRefusedAndWaits) {
         {"refused", [](Proc &p) { p.refuse(1); }, kRefusedCmd, 0},
     };
     const uint32_t para[4] = {9, 0, 0, 0};
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto &[what, fault, status, ticks] : cases) {
+        SCOPED_TRACE(what);
         proc().holdBusy(0);
         proc().setCommandBusy(0);
         proc().refuse(0);
         proc().clearCommands();
-        c.fault(proc());
+        fault(proc());
         VQ6192_Platform_ResetVirtualTime();
-        EXPECT_EQ(VQ6192_utlRippCmd(kChip, 2, para), c.status);
+        EXPECT_EQ(VQ6192_utlRippCmd(kChip, 2, para), status);
         EXPECT_EQ(proc().commands().size(), 1u) << "the command is written even after a busy time-out";
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), c.ticks * kTickUs + 1);
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), ticks * kTickUs + 1);
         EXPECT_EQ(model.peek(0x4440) & (1u << 13), 0u) << "start bit back to 0";
     }
 }
 
 TEST_F(MailboxTest, InitImaStartsTheBlock) {
-    model.poke(0x5030, 0xFFF8);
-    model.poke(0x4008, 0xFFFE);
-    model.poke(0x5024, 0xFFFE);
-    model.poke(0x4C20, 0xFFFF);
-    model.poke(0x5028, 0xFFFF);
-    model.poke(0x000A, 0x00FF);
-    setBits(Proc::kProcBlock, kTxc, 335, 0, 32, 0xC0050000);
+    pokes({{0x5030, 0xFFF8},
+           {0x4008, 0xFFFE},
+           {0x5024, 0xFFFE},
+           {0x4C20, 0xFFFF},
+           {0x5028, 0xFFFF},
+           {0x000A, 0x00FF}});
+    setBits(kPpB, kTxc, 335, 0, 32, 0xC0050000);
     ASSERT_EQ(VQ6192_IMA_InitIma(kChip, 1), 0u);
-    EXPECT_EQ(model.peek(0x5030), 0xFFFAu);
-    EXPECT_EQ(model.peek(0x4008), 0xFFFFu);
-    EXPECT_EQ(model.peek(0x5024), 0xFFFFu);
-    EXPECT_EQ(model.peek(0x4C20), 0xFC00u) << "group and enable cleared";
-    EXPECT_EQ(model.peek(0x5028), 0xFFF0u);
-    EXPECT_EQ(model.peek(0x000A), 0x00FFu) << "block reset pulsed and released";
-    EXPECT_EQ(word(Proc::kProcBlock, kTxc, 335), 0u);
+    // VC-4 group and enable cleared (0x4C20); the block reset pulsed and released (0x000A).
+    EXPECT_EQ(peeks({0x5030, 0x4008, 0x5024, 0x4C20, 0x5028, 0x000A}),
+              (std::vector<uint32_t>{0xFFFA, 0xFFFF, 0xFFFF, 0xFC00, 0xFFF0, 0x00FF}));
+    EXPECT_EQ(word(kPpB, kTxc, 335), 0u);
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 200 * kTickUs) << "reset pulse 100 ticks, settle 100 ticks";
     // TC defaults of every link.
     for (uint32_t link : {0u, 335u}) {
-        EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, link, 0, 32), 0u) << "header mask";
-        EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, link, 32, 32), 0xFFFFFFFFu) << "header";
+        EXPECT_EQ(bits(kTcB, kRxCfg, link, 0, 64), 0xFFFFFFFF'00000000ull) << "header, header mask 0";
         // 95 link, 93 coset, 90 correction, 89 idle, 88 HEC, 87 OCD; alpha 7, delta 6, LCD 8 ms
-        EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, link, 64, 32), (1u << 31) | (1u << 29) | (1u << 26) |
-                                                                  (1u << 25) | (1u << 24) | (1u << 23) |
-                                                                  (7u << 19) | (6u << 15) | (8u << 7));
-        EXPECT_EQ(bits(Proc::kTcBlock, kTxCfg, link, 0, 47),
+        EXPECT_EQ(bits(kTcB, kRxCfg, link, 64, 32), (1u << 31) | (1u << 29) | (1u << 26) | (1u << 25) |
+                                                        (1u << 24) | (1u << 23) | (7u << 19) | (6u << 15) |
+                                                        (8u << 7));
+        EXPECT_EQ(bits(kTcB, kTxCfg, link, 0, 47),
                   (1ull << 46) | (1ull << 44) | (1ull << 42) | (1ull << 40) | (1ull << 32) | (1ull << 24));
     }
-    expectRefused("mode 3", kPara, [] { return VQ6192_IMA_InitIma(kChip, 3); });
+    expectRefused("mode 3", [] { return VQ6192_IMA_InitIma(kChip, 3); });
     const auto t = traced([] { EXPECT_EQ(VQ6192_IMA_InitIma(kChip, 2), 0u); });
     EXPECT_TRUE(t.empty()) << "mode 2 does nothing";
 }
@@ -125,36 +118,35 @@ TEST_F(MailboxTest, LinkParametersAndAutoProcessing) {
     EXPECT_EQ((std::vector<uint16_t>{a, b, g}), (std::vector<uint16_t>{2, 3, 5}));
     for (auto args :
          {std::array<uint32_t, 3>{0, 1, 1}, {3, 1, 1}, {1, 0, 1}, {1, 6, 1}, {1, 1, 0}, {1, 1, 6}}) {
-        expectRefused("out of range", kPara,
+        expectRefused("out of range",
                       [&] { return VQ6192_IMA_SetImaLinkParam(kChip, args[0], args[1], args[2]); });
     }
     model.poke(0x4452, 0xF00F);
-    ASSERT_EQ(VQ6192_IMA_SetAutoProcEn(kChip, 0x0F0, 1), 0u);
-    EXPECT_EQ(model.peek(0x4452), 0xF0FFu);
-    ASSERT_EQ(VQ6192_IMA_SetAutoProcEn(kChip, 0x00F, 0), 0u);
-    EXPECT_EQ(model.peek(0x4452), 0xF0F0u);
-    expectRefused("mask past bit 10", kPara, [] { return VQ6192_IMA_SetAutoProcEn(kChip, 0x800, 1); });
+    for (const auto &p : {std::array<uint32_t, 3>{0x0F0, 1, 0xF0FF}, {0x00F, 0, 0xF0F0}}) {
+        ASSERT_EQ(VQ6192_IMA_SetAutoProcEn(kChip, p[0], p[1]), 0u);
+        EXPECT_EQ(model.peek(0x4452), p[2]);
+    }
+    expectRefused("mask past bit 10", [] { return VQ6192_IMA_SetAutoProcEn(kChip, 0x800, 1); });
 }
 
 TEST_F(MailboxTest, UniLinkAddAndDelete) {
-    setBits(Proc::kTxBlock, kInGrp, 20, 0, 64, 0xFF);
-    setBits(Proc::kTxBlock, kTxGpc, 20, 0, 32, 0xFFFF);
+    setBits(kTxB, kInGrp, 20, 0, 64, 0xFF);
+    setBits(kTxB, kTxGpc, 20, 0, 32, 0xFFFF);
     ASSERT_EQ(VQ6192_IMA_AddTcLink(kChip, 33, 20, 20), 0u);
-    EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, 33, 89, 1), 1u) << "idle filter on";
-    EXPECT_EQ(word(Proc::kTxBlock, kTxGpc, 20), 0u);
-    EXPECT_EQ(bits(Proc::kTxBlock, kMap, 20 * 32, 0, 9), 33u);
-    EXPECT_EQ(bits(Proc::kTxBlock, kMap, 20 * 32 + 1, 0, 9), 511u);
-    EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, 20, 0, 64), 1ull << 33) << "just this link";
-    EXPECT_EQ(word(Proc::kProcBlock, kTxc, 33), 0x80140000u) << "UNI link (2) of group 20";
-    EXPECT_EQ(word(Proc::kProcBlock, kRxc, 33), 0x80140000u);
-    EXPECT_EQ(bits(Proc::kRxBlock, kScvc, 33 * 4, 0, 10), 0x200u | 20u);
-    expectRefused("second group differs", kPara, [] { return VQ6192_IMA_AddTcLink(kChip, 33, 20, 21); });
+    // Idle filter on, group configuration cleared, LID 0 on link 33 and the rest unused, just this link in
+    // the group, a UNI link (2) of group 20 both ways, the SCVC entry.
+    EXPECT_EQ((std::vector<uint64_t>{bits(kTcB, kRxCfg, 33, 89, 1), word(kTxB, kTxGpc, 20),
+                                     bits(kTxB, kMap, 20 * 32, 0, 9), bits(kTxB, kMap, 20 * 32 + 1, 0, 9),
+                                     bits(kTxB, kInGrp, 20, 0, 64), word(kPpB, kTxc, 33),
+                                     word(kPpB, kRxc, 33), bits(kRxB, kScvc, 33 * 4, 0, 10)}),
+              (std::vector<uint64_t>{1, 0, 33, 511, 1ull << 33, 0x80140000, 0x80140000, 0x200u | 20u}));
+    expectRefused("second group differs", [] { return VQ6192_IMA_AddTcLink(kChip, 33, 20, 21); });
 
     ASSERT_EQ(VQ6192_IMA_DelTcLink(kChip, 33), 0u);
-    EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, 20, 0, 64), 0u);
+    EXPECT_EQ(bits(kTxB, kInGrp, 20, 0, 64), 0u);
     EXPECT_EQ(proc().commands(), (std::vector<Proc::Command>{{13, 20, 0, 0, 0}}));
 
-    setBits(Proc::kProcBlock, kTxc, 40, 30, 2, 3);
+    setBits(kPpB, kTxc, 40, 30, 2, 3);
     capture.clear();
     EXPECT_EQ(VQ6192_IMA_DelTcLink(kChip, 40), kInUse);
     EXPECT_EQ(capture.traceTexts(),
@@ -162,25 +154,23 @@ TEST_F(MailboxTest, UniLinkAddAndDelete) {
 }
 
 TEST_F(MailboxTest, Vc4TransparentPort) {
-    model.poke(0x4C22, 0xFC00);
-    model.poke(0x5028, 0xFFF0);
+    pokes({{0x4C22, 0xFC00}, {0x5028, 0xFFF0}});
     ASSERT_EQ(VQ6192_IMA_AddVc4(kChip, 1, 7), 0u);
-    EXPECT_EQ(model.peek(0x4C22), 0xFE07u) << "group 7, enable bit 9, bits 10..15 kept";
-    EXPECT_EQ(model.peek(0x5028), 0xFFF2u);
+    EXPECT_EQ(peeks({0x4C22, 0x5028}), (std::vector<uint32_t>{0xFE07, 0xFFF2}))
+        << "group 7, enable bit 9, 10..15 kept";
     uint16_t en = 0, port = 0, grp = 0;
     ASSERT_EQ(VQ6192_IMA_GetImaVC4Cfg(kChip, 1, &en, &port, &grp), 0u);
     EXPECT_EQ((std::vector<uint16_t>{en, port, grp}), (std::vector<uint16_t>{1, 1, 7}));
     for (uint32_t l : {84u, 167u}) {
-        EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, l, 89, 1), 1u);
-        EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, l, 95, 1), 1u);
-        EXPECT_EQ(bits(Proc::kTxBlock, kMap, l * 32, 0, 9), 84u);
-        EXPECT_EQ(word(Proc::kTxBlock, kTxGpc, l), (1u << 27) | (7u << 18) | (1u << 9) | (1u << 8) | 3u);
-        EXPECT_EQ(bits(Proc::kRxBlock, kRxGpc, l, 20, 8), 84u);
-        EXPECT_EQ(word(Proc::kProcBlock, kTxc, l), 0x80000000u | (l << 16));
+        EXPECT_EQ((std::vector<uint64_t>{bits(kTcB, kRxCfg, l, 89, 1), bits(kTcB, kRxCfg, l, 95, 1),
+                                         bits(kTxB, kMap, l * 32, 0, 9), word(kTxB, kTxGpc, l),
+                                         bits(kRxB, kRxGpc, l, 20, 8), word(kPpB, kTxc, l)}),
+                  (std::vector<uint64_t>{1, 1, 84, (1u << 27) | (7u << 18) | (1u << 9) | (1u << 8) | 3u, 84,
+                                         0x80000000u | (l << 16)}));
     }
     // 84 receive reset pulses of 10 + 10 ticks, and the wait after the receive enables.
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), (10 + 84 * 20) * kTickUs);
-    expectRefused("VC-4 4", kPara, [] { return VQ6192_IMA_AddVc4(kChip, 4, 7); });
+    expectRefused("VC-4 4", [] { return VQ6192_IMA_AddVc4(kChip, 4, 7); });
 }
 
 TEST_F(MailboxTest, TcResetDrainsTheTransmitLink) {
@@ -193,12 +183,12 @@ TEST_F(MailboxTest, TcResetDrainsTheTransmitLink) {
     }
     EXPECT_EQ(pulses, 8u) << "transmit and receive pulse, 1 then 0, per link";
     EXPECT_EQ(model.peek(0x5200), 0xFFFCu);
-    setBits(Proc::kTcBlock, kTxCfg, 4, 46, 1, 1);
+    setBits(kTcB, kTxCfg, 4, 46, 1, 1);
     proc().setDrainReads(Proc::kForever);
     EXPECT_EQ(VQ6192_IMA_ResetTc(kChip, 2, 2, links), 0x000D0004u) << "no chip bits";
-    expectRefused("which 0", kPara, [&] { return VQ6192_IMA_ResetTc(kChip, 0, 2, links); });
-    expectRefused("n 337", kPara, [&] { return VQ6192_IMA_ResetTc(kChip, 1, 337, links); });
-    expectRefused("no list", kPara, [] { return VQ6192_IMA_ResetTc(kChip, 1, 1, nullptr); });
+    expectRefused("which 0", [&] { return VQ6192_IMA_ResetTc(kChip, 0, 2, links); });
+    expectRefused("n 337", [&] { return VQ6192_IMA_ResetTc(kChip, 1, 337, links); });
+    expectRefused("no list", [] { return VQ6192_IMA_ResetTc(kChip, 1, 1, nullptr); });
     model.poke(0x000A, 0x1234);
     ASSERT_EQ(VQ6192_IMA_ResetVc(kChip), 0u);
     EXPECT_EQ(model.peek(0x000A), 0x1234u);

@@ -1,5 +1,7 @@
 // Running-group parameter changes, VC-4 port removal, UNI counters and the link configuration
 // read-back.
+#include <tuple>
+
 #include "ima_fixture.h"
 
 namespace {
@@ -28,82 +30,83 @@ IMA_GRP_PARAM param(std::initializer_list<uint32_t> v) {
 
 TEST_F(ParamsTest, RunningGroupParameters) {
     constexpr uint32_t g = 8;
-    setBits(Proc::kProcBlock, kGpc, g * 16 + 0, 0, 32, 0x01C80000);  // label 1, asymmetric, auto restart
-    setBits(Proc::kProcBlock, kGpc, g * 16 + 1, 0, 32, 0xFFFFFFFF);
-    setBits(Proc::kProcBlock, kGpc, g * 16 + 2, 0, 32, 0x00000000);
-    setBits(Proc::kTxBlock, kTxGpc, g, 0, 32, 0x0FFFFF01);
-    setBits(Proc::kRxBlock, kRxGpc, g, 0, 32, 0xFFFFFC00);
-    struct Case {
-        const char *what;
-        IMA_GRP_PARAM mask;
-        IMA_GRP_PARAM value;
-        uint32_t gpc0, gpc1, gpc2, txgpc, rxgpc;
+    setBits(kPpB, kGpc, g * 16 + 0, 0, 32, 0x01C80000);  // label 1, asymmetric, auto restart
+    setBits(kPpB, kGpc, g * 16 + 1, 0, 32, 0xFFFFFFFF);
+    setBits(kPpB, kGpc, g * 16 + 2, 0, 32, 0x00000000);
+    setBits(kTxB, kTxGpc, g, 0, 32, 0x0FFFFF01);
+    setBits(kRxB, kRxGpc, g, 0, 32, 0xFFFFFC00);
+    using W = std::vector<uint32_t>;
+    // Mask, value, then processor words 0..2, transmit and receive group configuration after the change.
+    const std::tuple<const char *, IMA_GRP_PARAM, IMA_GRP_PARAM, W> cases[] = {
+        {"third byte alone rewrites word 0 unchanged",
+         param({0, 0, 1}),
+         param({1, 1, 1, 1}),
+         {0x01C80000, 0xFFFFFFFF, 0, 0x0FFFFF01, 0xFFFFFC00}},
+        {"label",
+         param({0, 0, 0, 1}),
+         param({0, 0, 0, 3}),
+         {0x03C80000, 0xFFFFFFFF, 0, 0x0FFFFF03, 0xFFFFFC00}},
+        {"symmetry", param({0, 1}), param({0, 0}), {0x03080000, 0xFFFFFFFF, 0, 0x0FFFFF03, 0xFFFFFC00}},
+        {"transmit M and clock",
+         param({1, 0, 0, 0, 0, 0, 0, 0, 0, 1}),
+         param({0, 0, 0, 0, 0, 0, 0, 0, 0, 2}),
+         {0x03080000, 0xFFBFFFBF, 0, 0x0FFFF703, 0xFFFFFC00}},
+        {"receive id",
+         param({0, 0, 0, 0, 1, 0, 0, 1}),
+         param({0, 0, 0, 0, 1, 0x5A, 0, 9}),
+         {0x03080000, 0xFFBFFFBF, 0xAD012000, 0x0FFFF703, 0xFFFFFC00}},
+        {"delay",
+         param({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}),
+         param({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 700}),
+         {0x03080000, 0xFFBFFFBF, 0xAD012000, 0x0FFFF703, 0xFFFFFEBC}},
     };
-    const Case cases[] = {
-        {"third byte alone rewrites word 0 unchanged", param({0, 0, 1}), param({1, 1, 1, 1}), 0x01C80000,
-         0xFFFFFFFF, 0, 0x0FFFFF01, 0xFFFFFC00},
-        {"label", param({0, 0, 0, 1}), param({0, 0, 0, 3}), 0x03C80000, 0xFFFFFFFF, 0, 0x0FFFFF03,
-         0xFFFFFC00},
-        {"symmetry", param({0, 1}), param({0, 0}), 0x03080000, 0xFFFFFFFF, 0, 0x0FFFFF03, 0xFFFFFC00},
-        {"transmit M and clock", param({1, 0, 0, 0, 0, 0, 0, 0, 0, 1}), param({0, 0, 0, 0, 0, 0, 0, 0, 0, 2}),
-         0x03080000, 0xFFBFFFBF, 0, 0x0FFFF703, 0xFFFFFC00},
-        {"receive id", param({0, 0, 0, 0, 1, 0, 0, 1}), param({0, 0, 0, 0, 1, 0x5A, 0, 9}), 0x03080000,
-         0xFFBFFFBF, 0xAD012000, 0x0FFFF703, 0xFFFFFC00},
-        {"delay", param({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}), param({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 700}),
-         0x03080000, 0xFFBFFFBF, 0xAD012000, 0x0FFFF703, 0xFFFFFEBC},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
-        ASSERT_EQ(VQ6192_IMA_SetImaGrpParam(kChip, g, 0, &c.mask, &c.value), 0u);
-        EXPECT_EQ(word(Proc::kProcBlock, kGpc, g * 16 + 0), c.gpc0);
-        EXPECT_EQ(word(Proc::kProcBlock, kGpc, g * 16 + 1), c.gpc1);
-        EXPECT_EQ(word(Proc::kProcBlock, kGpc, g * 16 + 2), c.gpc2);
-        EXPECT_EQ(word(Proc::kTxBlock, kTxGpc, g), c.txgpc);
-        EXPECT_EQ(word(Proc::kRxBlock, kRxGpc, g), c.rxgpc);
+    for (const auto &[what, mask, value, after] : cases) {
+        SCOPED_TRACE(what);
+        ASSERT_EQ(VQ6192_IMA_SetImaGrpParam(kChip, g, 0, &mask, &value), 0u);
+        EXPECT_EQ((W{word(kPpB, kGpc, g * 16 + 0), word(kPpB, kGpc, g * 16 + 1), word(kPpB, kGpc, g * 16 + 2),
+                     word(kTxB, kTxGpc, g), word(kRxB, kRxGpc, g)}),
+                  after);
     }
     const IMA_GRP_PARAM none{};
-    expectRefused("no value record", kPara,
-                  [&] { return VQ6192_IMA_SetImaGrpParam(kChip, g, 0, &none, nullptr); });
+    expectRefused("no value record", [&] { return VQ6192_IMA_SetImaGrpParam(kChip, g, 0, &none, nullptr); });
 }
 
 TEST_F(ParamsTest, Vc4PortRemoval) {
-    model.poke(0x4C24, 0xFFFF);
-    model.poke(0x5028, 0xFFFF);
-    setBits(Proc::kTxBlock, kInGrp, 170, 0, 256, 0);
-    setBits(Proc::kTxBlock, kInGrp, 170, 168, 3, 7);
+    pokes({{0x4C24, 0xFFFF}, {0x5028, 0xFFFF}});
+    setBits(kTxB, kInGrp, 170, 0, 256, 0);
+    setBits(kTxB, kInGrp, 170, 168, 3, 7);
     ASSERT_EQ(VQ6192_IMA_DelVc4(kChip, 2, 9), 0u);
-    EXPECT_EQ(model.peek(0x4C24), 0xFDFFu) << "only the enable bit cleared";
-    EXPECT_EQ(model.peek(0x5028), 0xFFFBu);
-    EXPECT_EQ(bits(Proc::kTxBlock, kInGrp, 170, 168, 3), 3u)
-        << "link 170 (bit 2 of the three) leaves group 170";
+    EXPECT_EQ(peeks({0x4C24, 0x5028}), (std::vector<uint32_t>{0xFDFF, 0xFFFB}))
+        << "only the enable bits cleared";
+    EXPECT_EQ(bits(kTxB, kInGrp, 170, 168, 3), 3u) << "link 170 (bit 2 of the three) leaves group 170";
     ASSERT_EQ(proc().commands().size(), 84u);
     EXPECT_EQ(proc().commands().front(), (Proc::Command{13, 168, 0, 0, 0}));
     EXPECT_EQ(proc().commands().back(), (Proc::Command{13, 251, 0, 0, 0}));
-    EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, 200, 95, 1), 1u);
-    EXPECT_EQ(bits(Proc::kTcBlock, kRxCfg, 200, 89, 1), 0u) << "no idle filter on removal";
+    EXPECT_EQ(bits(kTcB, kRxCfg, 200, 95, 1), 1u);
+    EXPECT_EQ(bits(kTcB, kRxCfg, 200, 89, 1), 0u) << "no idle filter on removal";
     proc().refuse(1);
     EXPECT_EQ(VQ6192_IMA_DelVc4(kChip, 2, 9), kRefusedCmd);
     EXPECT_EQ(proc().commands().size(), 85u) << "the first failure ends it";
 }
 
 TEST_F(ParamsTest, UniCountersAndLinkConfiguration) {
-    setBits(Proc::kRxBlock, kGpCnt, 30 * 2, 0, 32, 0xFFFFFFFF);
-    setBits(Proc::kRxBlock, kGpCnt, 30 * 2 + 1, 0, 32, 0x11);
+    setBits(kRxB, kGpCnt, 30 * 2, 0, 32, 0xFFFFFFFF);
+    setBits(kRxB, kGpCnt, 30 * 2 + 1, 0, 32, 0x11);
     IMA_GRP_STAT g{1, 2, 3, 4, 5};
     ASSERT_EQ(VQ6192_IMA_GetUniGrpStat(kChip, 30, &g), 0u);
     EXPECT_EQ((std::vector<uint32_t>{g.dwTxDiscardCells, g.dwTxUserCells, g.dwTxFillerCells, g.dwRxUserCells,
                                      g.dwRxFillerCells}),
               (std::vector<uint32_t>{0, 0, 0, 0xFFFFFFFF, 0}));
-    setBits(Proc::kRxBlock, kLkCnt, 40 * 4 + 2, 0, 32, 1000);
-    setBits(Proc::kRxBlock, kLkCnt, 40 * 4 + 3, 0, 32, 7);
-    setBits(Proc::kTxBlock, kTxLks, 40 * 2 + 1, 0, 32, 0x00030004);
+    setBits(kRxB, kLkCnt, 40 * 4 + 2, 0, 32, 1000);
+    setBits(kRxB, kLkCnt, 40 * 4 + 3, 0, 32, 7);
+    setBits(kTxB, kTxLks, 40 * 2 + 1, 0, 32, 0x00030004);
     IMA_LINK_STAT l{};
     ASSERT_EQ(VQ6192_IMA_GetUniLinkStat(kChip, 40, &l), 0u);
     EXPECT_EQ((std::vector<uint32_t>{l.dwTxUserCells, l.dwTxStuffCells, l.dwRxUserCells, l.dwRxDroppedCells}),
               (std::vector<uint32_t>{4, 3, 1000, 7}));
-    setBits(Proc::kProcBlock, kTxc, 40, 0, 32, 0x8123F80F);
-    setBits(Proc::kProcBlock, kRxc, 40, 0, 32, 0xC0450FFF);
-    setBits(Proc::kTxBlock, kTxLkc, 40, 0, 8, 0x77);
+    setBits(kPpB, kTxc, 40, 0, 32, 0x8123F80F);
+    setBits(kPpB, kRxc, 40, 0, 32, 0xC0450FFF);
+    setBits(kTxB, kTxLkc, 40, 0, 8, 0x77);
     uint16_t cfg[5] = {};
     ASSERT_EQ(VQ6192_IMA_GetImaLinkCfg(kChip, 40, cfg), 0u);
     EXPECT_EQ((std::vector<uint16_t>(cfg, cfg + 5)), (std::vector<uint16_t>{2, 0x123, 0x1F, 3, 0x45}));
