@@ -141,7 +141,7 @@ TEST_F(SdhOverheadTest, LowOrderTransmitBytesThroughTheirPage) {
         {"vc12 K4", [](uint32_t x) { return VQ6192_SDH_SetTxLpK4(3, 2, 1, 27, 0, x); }, 256 + 59, 0x2DE4E},
         {"vc12 N2", [](uint32_t x) { return VQ6192_SDH_SetTxLpN2(3, 3, 2, 0, x); }, 384 + 64, 0x2DE50},
     };
-    uint32_t value = 0x21;
+    uint32_t value = 0xA1;  // bit 7 set: every byte is written eight bits wide
     for (const auto &c : cases) {
         ASSERT_EQ(c.set(value), 0u) << c.name;
         EXPECT_EQ(paths().paged(Page::TxLo, c.key, c.reg) & 0xFF, value) << c.name;
@@ -151,7 +151,7 @@ TEST_F(SdhOverheadTest, LowOrderTransmitBytesThroughTheirPage) {
     ASSERT_EQ(VQ6192_SDH_GetTxLpByte(kChip, 1, 2, 3, &m, &v), 0u);
     ASSERT_EQ(VQ6192_SDH_GetTxLpK4(kChip, 2, 1, 27, &m, &k), 0u);
     ASSERT_EQ(VQ6192_SDH_GetTxLpN2(kChip, 3, 2, 0, &n), 0u);
-    EXPECT_EQ(ints(v, k, n), ints(0x24, 0x2A, 0x2B));
+    EXPECT_EQ(ints(v, k, n), ints(0xA4, 0xAA, 0xAB));
 }
 
 TEST_F(SdhOverheadTest, SoftwareInsertionBits) {
