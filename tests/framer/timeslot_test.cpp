@@ -70,14 +70,16 @@ TEST_F(TimeslotTest, RoutesEveryTimeslotOfEveryTributaryInUnderASecond) {
 }
 
 TEST_F(TimeslotTest, AllTimeslotsAndDeletionBackToTheClearedEntry) {
-    ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 335, 100, 3, 0xFFFFFFFFu, 3), 0u);
+    const uint32_t next = entry(kIngressSelect, 335, 0);
+    ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 334, 100, 3, 0xFFFFFFFFu, 3), 0u);
+    EXPECT_EQ(entry(kIngressSelect, 335, 0), next) << "timeslot 31 is the last one written";
     for (uint32_t ts = 0; ts < 32; ++ts) {
-        EXPECT_EQ(ints(entry(kIngressSelect, 335, ts), entry(kEgressSelect, 335, ts)), ints(0x9864, 0x9864));
+        EXPECT_EQ(ints(entry(kIngressSelect, 334, ts), entry(kEgressSelect, 334, ts)), ints(0x9864, 0x9864));
     }
-    ASSERT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 1, 335, 0x0000FFFFu), 0u);
-    ASSERT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 3, 335, 0xFFFFFFFFu), 0u) << "direction 3 clears nothing";
+    ASSERT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 1, 334, 0x0000FFFFu), 0u);
+    ASSERT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 3, 334, 0xFFFFFFFFu), 0u) << "direction 3 clears nothing";
     for (uint32_t ts = 0; ts < 32; ++ts) {
-        EXPECT_EQ(ints(entry(kIngressSelect, 335, ts), entry(kEgressSelect, 335, ts)),
+        EXPECT_EQ(ints(entry(kIngressSelect, 334, ts), entry(kEgressSelect, 334, ts)),
                   ints(0x9864, ts < 16 ? 0x7800 : 0x9864));
     }
 }
