@@ -29,8 +29,8 @@ constexpr uint32_t kReaders = 2;
 constexpr uint32_t kSeed = 20261123;
 // Operations per chip, and the wall-time budget of the concurrent phase: a slow build (the thread
 // sanitizer on two cores) stops early and replays what was done.
-constexpr uint32_t kOpsPerChip = 400;
-constexpr auto kBudget = std::chrono::seconds(20);
+constexpr uint32_t kOpsPerChip = 250;
+constexpr auto kBudget = std::chrono::seconds(12);
 
 using TraceMap = std::map<uint32_t, std::vector<std::string>>;
 
@@ -125,6 +125,53 @@ TEST_F(Soak, OperationsOnDifferentChipsShareNothing) {
         EXPECT_EQ(VQ6192_UnInstall_SDK(c), 0u);
         models[c].reset();
     }
+    EXPECT_EQ(vqtest::outstandingAllocations(), baseline) << "allocations not given back";
+}
+
+// The platform log from 8 threads at once: each chip's bus arbitration refuses its first accesses, every
+// refusal logs two lines and counts once, and no line is lost or torn.
+TEST_F(Soak, LogLinesFromEightThreadsAllArrive) {
+    constexpr uint32_t kRefusals = 40;
+    constexpr uint32_t kReads = 60;
+    constexpr uint32_t kAddr = 0x2C008;
+    std::vector<std::unique_ptr<ChipModel>> models(kWorkers);
+    for (uint32_t c = 0; c < kWorkers; ++c) {
+        models[c] = install(c);
+        models[c]->poke(kAddr, 0x5A5A);
+        models[c]->refuseArbitration(kRefusals);
+    }
+    std::vector<std::thread> threads;
+    std::vector<uint32_t> zeros(kWorkers, 0);
+    for (uint32_t c = 0; c < kWorkers; ++c) {
+        threads.emplace_back([&, c] {
+            for (uint32_t n = 0; n < kReads; ++n) {
+                uint32_t v = VQ6192_ReadReg(c, kAddr);
+                zeros[c] += v == 0 ? 1 : 0;
+                EXPECT_TRUE(v == 0 || v == 0x5A5A) << std::hex << v;
+            }
+        });
+    }
+    for (auto &th : threads) {
+        th.join();
+    }
+    std::map<std::string, uint32_t> lines;
+    for (const auto &l : sinks.logs) {
+        lines[l]++;
+    }
+    for (uint32_t c = 0; c < kWorkers; ++c) {
+        const std::string id = std::to_string(c);
+        EXPECT_EQ(zeros[c], kRefusals) << "chip " << c;
+        EXPECT_EQ(lines["chip " + id + " pwe3 write reg get attrb fail,addr 0x2c008,val 0x0"], kRefusals);
+        EXPECT_EQ(lines["ReadRegdirect GetArbitrateFunc chip " + id +
+                        " pwe3 write reg get sem fail,addr 0x2c008,val 0x0"],
+                  kRefusals);
+        uint32_t counters[4] = {};
+        VQ6192_Get_RegFailInfo(c, counters);
+        EXPECT_EQ(counters[0], kRefusals) << "chip " << c;
+        EXPECT_EQ(VQ6192_UnInstall_SDK(c), 0u);
+        models[c].reset();
+    }
+    EXPECT_EQ(sinks.logs.size(), 2u * kRefusals * kWorkers);
     EXPECT_EQ(vqtest::outstandingAllocations(), baseline) << "allocations not given back";
 }
 
