@@ -70,6 +70,18 @@ void ChipModel::reset() {
     }
 }
 
+std::map<uint32_t, uint16_t> ChipModel::registers() const {
+    std::map<uint32_t, uint16_t> out;
+    for (const auto &[index, p] : pages_) {
+        for (uint32_t k = 0; k < kPageRegs; ++k) {
+            if (p->regs[k] != 0) {
+                out.emplace((index << kPageShift) | (k << 1), p->regs[k]);
+            }
+        }
+    }
+    return out;
+}
+
 uint16_t ChipModel::load(uint32_t addr) {
     Page *p = page(addr, true);
     uint16_t value = p->regs[(addr >> 1) & (kPageRegs - 1)];

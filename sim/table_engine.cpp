@@ -182,6 +182,16 @@ void TableEngine::addReadHooks(ReadHook before, ReadHook after) {
     }
 }
 
+std::map<uint64_t, TableEngine::Entry> TableEngine::contents() const {
+    std::map<uint64_t, Entry> out;
+    for (const auto &[key, e] : memory_) {
+        if (e != Entry{}) {
+            out.emplace(key, e);
+        }
+    }
+    return out;
+}
+
 void TableEngine::clear() {
     memory_.clear();
 }

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <typeindex>
 #include <unordered_map>
@@ -74,6 +75,10 @@ class TableEngine {
     // busy bit set for ever; 0 cancels.
     void failCommand(uint32_t block, uint32_t n);
 
+    // Every stored entry that is not all zeros, by its memory key (block, select code and address), to
+    // compare two models' tables.
+    std::map<uint64_t, Entry> contents() const;
+
     uint64_t writesExecuted(uint32_t block) const;
     uint64_t readsExecuted(uint32_t block) const;
 
@@ -126,6 +131,8 @@ class ChipModel {
     uint16_t peek(uint32_t addr) const;
     void poke(uint32_t addr, uint16_t value);
     void reset();  // all registers back to 0, behaviours and tables kept
+    // Every register that is not 0, by byte address, to compare two models' register files.
+    std::map<uint32_t, uint16_t> registers() const;
 
     // Bus-side accesses, as the host functions perform them (behaviours, stuck bits, trace, counters).
     uint16_t busRead(uint32_t addr);

@@ -1,5 +1,7 @@
 // ATM pseudowires: per-PW encapsulation, sequencing, concatenation and priority entries of the PWE3
 // block, PW creation and removal with the delete handshake, loopbacks and the cell-to-PWE3 time.
+#include <atomic>
+
 #include "atm/atm_internal.h"
 #include "platform/osal.h"
 #include "vq6192/eth.h"
@@ -52,8 +54,11 @@ uint32_t deleteHandshake(uint32_t chip, uint32_t pw) {
     for (uint32_t poll = 1; poll <= kDeletePolls && !done; ++poll) {
         vq::DrvDelayUs(kDeletePollUs);
         done = VQ6192_ReadRegField(chip, kPwDelReg, kPwDelDoneBit, 1) == 1;
-        if (poll > g_ulVq6192AtmPwe3EnableCnt) {
-            g_ulVq6192AtmPwe3EnableCnt = poll;
+        // One record for all chips, whose handshakes may run on several threads at once: raise it
+        // atomically so that concurrent handshakes neither race nor lose the larger count.
+        std::atomic_ref<uint32_t> most(g_ulVq6192AtmPwe3EnableCnt);
+        uint32_t seen = most.load(std::memory_order_relaxed);
+        while (poll > seen && !most.compare_exchange_weak(seen, poll, std::memory_order_relaxed)) {
         }
     }
     VQ6192_WriteRegField(chip, kPwDelReg, 0, kPwDelStartBit, 1);

@@ -8,8 +8,19 @@
 namespace vq::platform {
 namespace {
 
+// The virtual clock is a plain total: adding to it orders nothing between the threads that wait, so it
+// is counted with relaxed atomics (a race checker then still sees the threads' other accesses as they
+// are, instead of ordered by every delay).
 std::atomic<bool> g_virtual{false};
 std::atomic<uint64_t> g_virtualUs{0};
+
+bool virtualClock() {
+    return g_virtual.load(std::memory_order_relaxed);
+}
+
+void addVirtualUs(uint64_t us) {
+    g_virtualUs.fetch_add(us, std::memory_order_relaxed);
+}
 
 void posixDelayUs(uint32_t us) {
     timespec req{static_cast<time_t>(us / 1000000u), static_cast<long>(us % 1000000u) * 1000};
@@ -26,8 +37,8 @@ namespace vq {
 
 void DrvDelayUs(uint32_t us) {
     using namespace platform;
-    if (g_virtual) {
-        g_virtualUs += us;
+    if (virtualClock()) {
+        addVirtualUs(us);
         return;
     }
     const auto &h = hooks();
@@ -41,8 +52,8 @@ void DrvDelayUs(uint32_t us) {
 void OSK_TaskDelay(uint32_t ticks) {
     using namespace platform;
     uint64_t us = static_cast<uint64_t>(ticks) * VQ6192_Platform_GetTickUs();
-    if (g_virtual) {
-        g_virtualUs += us;
+    if (virtualClock()) {
+        addVirtualUs(us);
         return;
     }
     const auto &h = hooks();
