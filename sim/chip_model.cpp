@@ -83,6 +83,7 @@ std::map<uint32_t, uint16_t> ChipModel::registers() const {
 }
 
 uint16_t ChipModel::load(uint32_t addr) {
+    oddAccesses_ += addr & 1u;
     Page *p = page(addr, true);
     uint16_t value = p->regs[(addr >> 1) & (kPageRegs - 1)];
     if (!p->special) {
@@ -100,6 +101,7 @@ uint16_t ChipModel::load(uint32_t addr) {
 }
 
 void ChipModel::store(uint32_t addr, uint16_t value) {
+    oddAccesses_ += addr & 1u;
     Page *p = page(addr, true);
     uint16_t &reg = p->regs[(addr >> 1) & (kPageRegs - 1)];
     if (p->special) {

@@ -133,6 +133,9 @@ class ChipModel {
     void reset();  // all registers back to 0, behaviours and tables kept
     // Every register that is not 0, by byte address, to compare two models' register files.
     std::map<uint32_t, uint16_t> registers() const;
+    // Host accesses at an odd byte address: the chip's registers are 16 bits wide at even addresses,
+    // so any such access is an address fault of the driver.
+    uint64_t oddAccesses() const { return oddAccesses_; }
 
     // Bus-side accesses, as the host functions perform them (behaviours, stuck bits, trace, counters).
     uint16_t busRead(uint32_t addr);
@@ -222,6 +225,7 @@ class ChipModel {
     uint64_t arbitrationsTaken_ = 0;
     uint64_t arbitrationsGiven_ = 0;
     uint64_t cardPresentAsked_ = 0;
+    uint64_t oddAccesses_ = 0;
 
     TableEngine tables_;
     std::unordered_map<std::type_index, std::unique_ptr<ChipBlock>> blocks_;

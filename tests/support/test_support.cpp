@@ -88,6 +88,7 @@ std::vector<uint32_t> ChipTest::failCounters() const {
 }
 
 void ChipTest::TearDown() {
+    EXPECT_EQ(model.oddAccesses(), 0u) << "register accesses at an odd address";
     EXPECT_EQ(VQ6192_UnInstall_SDK(kChip), 0u);
     model.detach();
     EXPECT_EQ(outstandingAllocations(), baseline_) << "allocations not given back";
