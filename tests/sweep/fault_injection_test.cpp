@@ -145,7 +145,7 @@ constexpr TableCode kTableCodes[] = {
 };
 
 std::vector<uint64_t> sampledSteps(uint64_t count) {
-    constexpr uint64_t kEveryStepUpTo = 6;
+    constexpr uint64_t kEveryStepUpTo = 4;
     std::vector<uint64_t> steps;
     for (uint64_t k = 0; k < count; ++k) {
         if (count <= kEveryStepUpTo || k < 2 || k == count / 2 || k + 1 == count) {
