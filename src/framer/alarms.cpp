@@ -76,7 +76,8 @@ extern "C" {
 
 VQ6192_API uint32_t VQ6192_Framer_GetFrmAlms(uint32_t chip, uint32_t e1, uint16_t *ais, uint16_t *rai,
                                              uint16_t *bfoof, uint16_t *mfoof) {
-    if (e1 >= VQ6192_FRM_E1_NUM || ais == nullptr || rai == nullptr || bfoof == nullptr || mfoof == nullptr) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || ais == nullptr || rai == nullptr ||
+        bfoof == nullptr || mfoof == nullptr) {
         return paraErr(chip);
     }
     uint32_t v = 0, k = 0, r = 0;
@@ -92,7 +93,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetFrmAlms(uint32_t chip, uint32_t e1, uint16_
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetE1AlmRegVal(uint32_t chip, uint32_t e1, uint16_t *regVal) {
-    if (e1 >= VQ6192_FRM_E1_NUM || regVal == nullptr) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || regVal == nullptr) {
         return paraErr(chip);
     }
     uint32_t mode = 0;
@@ -111,8 +112,8 @@ VQ6192_API uint32_t VQ6192_Framer_GetE1AlmRegVal(uint32_t chip, uint32_t e1, uin
 // with the parameter error and no trace.
 VQ6192_API uint32_t VQ6192_Framer_GetE1FrmCntStd(uint32_t chip, uint32_t vc4, uint32_t tug3, uint32_t tug2,
                                                  uint32_t tu, uint32_t cntType, uint32_t *count) {
-    if (vc4 >= VQ6192_SDH_VC4_NUM || tug3 >= VQ6192_SDH_AU3_NUM || tug2 > 6 || tu > 3 ||
-        cntType > VQ6192_FRM_FEBE || count == nullptr) {
+    if (!vq::validChip(chip) || vc4 >= VQ6192_SDH_VC4_NUM || tug3 >= VQ6192_SDH_AU3_NUM || tug2 > 6 ||
+        tu > 3 || cntType > VQ6192_FRM_FEBE || count == nullptr) {
         return paraErr(chip);
     }
     uint32_t mode = 0;
@@ -146,7 +147,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetE1FrmCntStd(uint32_t chip, uint32_t vc4, ui
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetFrmET3Alms(uint32_t chip, uint32_t e3, VQ6192_FRM_ET3_ALARM_S *alarms) {
-    if (e3 >= VQ6192_FRM_E3_NUM || alarms == nullptr) {
+    if (!vq::validChip(chip) || e3 >= VQ6192_FRM_E3_NUM || alarms == nullptr) {
         return paraErr(chip);
     }
     uint32_t regs[6];
@@ -161,7 +162,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetFrmET3Alms(uint32_t chip, uint32_t e3, VQ61
 
 // The E3/T3 number is not range-tested.
 VQ6192_API uint32_t VQ6192_Framer_GetT3ErrorStat(uint32_t chip, uint32_t e3, VQ6192_FRM_T3_ERR_S *counts) {
-    if (counts == nullptr) {
+    if (!vq::validChip(chip) || counts == nullptr) {
         return paraErr(chip);
     }
     for (uint32_t i = 0; i < 5; ++i) {

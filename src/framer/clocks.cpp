@@ -42,33 +42,51 @@ using namespace vq::framer;
 extern "C" {
 
 VQ6192_API uint32_t VQ6192_Framer_SetFrmClkSource(uint32_t chip, uint32_t e1, uint32_t src) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return setSelector(chip, kE1ClkSrcReg, e1, VQ6192_FRM_E1_NUM, src, kE1ClkSrcMax, 6);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetFrmClkSource(uint32_t chip, uint32_t e1, uint16_t *src) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return getSelector(chip, kE1ClkSrcReg, e1, VQ6192_FRM_E1_NUM, 6, src);
 }
 
 // Values 0x00..0x0B select a downstream E3/T3 clock, 0x0C..0x19 an upstream recovery clock.
 VQ6192_API uint32_t VQ6192_Framer_SetFrmET3TxClkSource(uint32_t chip, uint32_t e3, uint32_t src) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return setSelector(chip, kEt3TxClkReg, e3, VQ6192_FRM_E3_NUM, src, kEt3TxClkMax, 5);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetFrmET3TxClkSource(uint32_t chip, uint32_t e3, uint16_t *src) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return getSelector(chip, kEt3TxClkReg, e3, VQ6192_FRM_E3_NUM, 5, src);
 }
 
 // The telecom-bus clock selects take any 6-bit value.
 VQ6192_API uint32_t VQ6192_HTBE_TCLK_CLKSEL(uint32_t chip, uint32_t i, uint32_t sel) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return setSelector(chip, kHtbTxClkReg, i, kHtbTxClkNum, sel, UINT32_MAX, 6);
 }
 
 VQ6192_API uint32_t VQ6192_HTBE_RT_CLKSEL(uint32_t chip, uint32_t i, uint32_t sel) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return setSelector(chip, kHtbRxClkReg, i, kHtbRxClkNum, sel, UINT32_MAX, 6);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_SetE1MapClkGate(uint32_t chip, uint32_t gate, uint32_t en) {
-    if (gate >= kClkGateNum || en > 1) {
+    if (!vq::validChip(chip) || gate >= kClkGateNum || en > 1) {
         return paraErr(chip);
     }
     uint32_t reg = 0, bit = 0;
@@ -78,7 +96,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetE1MapClkGate(uint32_t chip, uint32_t gate, 
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetE1MapClkGate(uint32_t chip, uint32_t gate, uint16_t *en) {
-    if (gate >= kClkGateNum || en == nullptr) {
+    if (!vq::validChip(chip) || gate >= kClkGateNum || en == nullptr) {
         return paraErr(chip);
     }
     uint32_t reg = 0, bit = 0;
@@ -88,7 +106,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetE1MapClkGate(uint32_t chip, uint32_t gate, 
 }
 
 VQ6192_API uint32_t VQ6192_Framer_SetSOHByPassMode(uint32_t chip, uint32_t en) {
-    if (en > 1) {
+    if (!vq::validChip(chip) || en > 1) {
         return paraErr(chip);
     }
     VQ6192_WriteRegField(chip, kSohBypassReg, en, 0, 1);
@@ -96,7 +114,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetSOHByPassMode(uint32_t chip, uint32_t en) {
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetSOHByPassMode(uint32_t chip, uint16_t *en) {
-    if (en == nullptr) {
+    if (!vq::validChip(chip) || en == nullptr) {
         return paraErr(chip);
     }
     *en = static_cast<uint16_t>(VQ6192_ReadRegField(chip, kSohBypassReg, 0, 1));
@@ -105,7 +123,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetSOHByPassMode(uint32_t chip, uint16_t *en) 
 
 // The chip stores one Y, one F and one H3 byte: the copies in the record must agree.
 VQ6192_API uint32_t VQ6192_Framer_SetSDHAuPtr(uint32_t chip, const VQ6192_SDH_AU_PTR_S *ptr) {
-    if (ptr == nullptr || ptr->ucY_1 != ptr->ucY_2 || ptr->ucF_1 != ptr->ucF_2 ||
+    if (!vq::validChip(chip) || ptr == nullptr || ptr->ucY_1 != ptr->ucY_2 || ptr->ucF_1 != ptr->ucF_2 ||
         ptr->ucH3_1 != ptr->ucH3_2 || ptr->ucH3_2 != ptr->ucH3_3) {
         return paraErr(chip);
     }
@@ -118,7 +136,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetSDHAuPtr(uint32_t chip, const VQ6192_SDH_AU
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetSDHAuPtr(uint32_t chip, VQ6192_SDH_AU_PTR_S *ptr) {
-    if (ptr == nullptr) {
+    if (!vq::validChip(chip) || ptr == nullptr) {
         return paraErr(chip);
     }
     auto byte = [chip](uint32_t reg) { return static_cast<uint8_t>(VQ6192_ReadRegField(chip, reg, 0, 8)); };

@@ -53,7 +53,7 @@ using namespace vq::framer;
 extern "C" {
 
 VQ6192_API uint32_t VQ6192_Framer_SetFrmTDMMode(uint32_t chip, uint32_t tdmMode) {
-    if (tdmMode > VQ6192_BASE_TDM_T1) {
+    if (!vq::validChip(chip) || tdmMode > VQ6192_BASE_TDM_T1) {
         return paraErr(chip);
     }
     VQ6192_WriteRegField(chip, kTdmModeReg, tdmMode, kTdmE1T1Bit, 1);
@@ -62,7 +62,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetFrmTDMMode(uint32_t chip, uint32_t tdmMode)
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetFrmTDMMode(uint32_t chip, uint32_t *mode) {
-    if (mode == nullptr) {
+    if (!vq::validChip(chip) || mode == nullptr) {
         return paraErr(chip);
     }
     *mode = vq::framer::tdmMode(chip);
@@ -75,7 +75,8 @@ VQ6192_API uint16_t VQ6192_Framer_CalcTug12ToTu12Chnl(uint32_t /*chip*/, uint32_
 
 VQ6192_API uint32_t VQ6192_Framer_RvCaclMapChnl(uint32_t chip, uint32_t e1, uint8_t *ignored, uint16_t *vc4,
                                                 uint16_t *tug3, uint16_t *tug2, uint16_t *tu) {
-    if (ignored == nullptr || vc4 == nullptr || tug3 == nullptr || tug2 == nullptr || tu == nullptr) {
+    if (!vq::validChip(chip) || ignored == nullptr || vc4 == nullptr || tug3 == nullptr || tug2 == nullptr ||
+        tu == nullptr) {
         return paraErr(chip);
     }
     uint32_t v = 0, k = 0, l = 0, m = 0;
@@ -90,7 +91,7 @@ VQ6192_API uint32_t VQ6192_Framer_RvCaclMapChnl(uint32_t chip, uint32_t e1, uint
 }
 
 VQ6192_API uint32_t VQ6192_Framer_ReFrmFrame(uint32_t chip, uint32_t e1) {
-    if (e1 >= VQ6192_FRM_E1_NUM) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM) {
         return paraErr(chip);
     }
     uint8_t unused = 0;
@@ -107,7 +108,7 @@ VQ6192_API uint32_t VQ6192_Framer_ReFrmFrame(uint32_t chip, uint32_t e1) {
 }
 
 VQ6192_API uint32_t VQ6192_Framer_SetFrmMode(uint32_t chip, uint32_t e1, uint32_t dir, uint32_t frmMode) {
-    if (e1 >= VQ6192_FRM_E1_NUM || dir > VQ6192_BASE_SRV_DIRECT_BOTH || frmMode > 3) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || dir > VQ6192_BASE_SRV_DIRECT_BOTH || frmMode > 3) {
         return paraErr(chip);
     }
     uint32_t v = 0, k = 0, r = 0;
@@ -148,7 +149,8 @@ VQ6192_API uint32_t VQ6192_Framer_SetFrmMode(uint32_t chip, uint32_t e1, uint32_
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetFrmMode(uint32_t chip, uint32_t e1, uint32_t dir, uint32_t *frmMode) {
-    if (e1 >= VQ6192_FRM_E1_NUM || dir > VQ6192_BASE_SRV_DIRECT_BOTH || frmMode == nullptr) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || dir > VQ6192_BASE_SRV_DIRECT_BOTH ||
+        frmMode == nullptr) {
         return paraErr(chip);
     }
     uint32_t v = 0, k = 0, r = 0;
@@ -174,7 +176,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetFrmMode(uint32_t chip, uint32_t e1, uint32_
 
 // A direction of 3 or more resets nothing and succeeds.
 VQ6192_API uint32_t VQ6192_Framer_ReSetFrmChnl(uint32_t chip, uint32_t e1, uint32_t dir, uint32_t reset) {
-    if (e1 >= VQ6192_FRM_E1_NUM || reset > 1) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || reset > 1) {
         return paraErr(chip);
     }
     uint32_t v = 0, k = 0, r = 0;
@@ -188,7 +190,7 @@ VQ6192_API uint32_t VQ6192_Framer_ReSetFrmChnl(uint32_t chip, uint32_t e1, uint3
 VQ6192_API uint32_t VQ6192_Framer_ReSetFrmChnlStd(uint32_t chip, uint32_t /*ignored*/, uint32_t vc4,
                                                   uint32_t tug3, uint32_t tug2, uint32_t tu, uint32_t dir,
                                                   uint32_t reset) {
-    if (tu >= VQ6192_FRM_E1_NUM || reset > 1) {
+    if (!vq::validChip(chip) || tu >= VQ6192_FRM_E1_NUM || reset > 1) {
         return paraErr(chip);
     }
     const uint32_t r = VQ6192_Framer_CalcTug12ToTu12Chnl(chip, tug2, tu);

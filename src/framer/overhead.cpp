@@ -47,7 +47,7 @@ using namespace vq::framer;
 extern "C" {
 
 VQ6192_API uint32_t VQ6192_Framer_SetET1OhInsEn(uint32_t chip, uint32_t e1, uint32_t enable) {
-    if (e1 >= VQ6192_FRM_E1_NUM || enable > 1) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || enable > 1) {
         return paraErr(chip);
     }
     uint32_t v = 0, k = 0, r = 0;
@@ -63,7 +63,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetET1OhInsEn(uint32_t chip, uint32_t e1, uint
 // The value goes to a one-bit field and is not range-tested.
 VQ6192_API uint32_t VQ6192_Framer_SetET1OhInsMode(uint32_t chip, uint32_t e1, uint32_t ohType,
                                                   uint32_t insMode, uint32_t value, uint32_t enable) {
-    if (e1 >= VQ6192_FRM_E1_NUM || ohType > 2 || insMode > 2 || enable > 1) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || ohType > 2 || insMode > 2 || enable > 1) {
         return paraErr(chip);
     }
     uint32_t v = 0, k = 0, r = 0;
@@ -97,19 +97,28 @@ VQ6192_API uint32_t VQ6192_Framer_SetET1OhInsMode(uint32_t chip, uint32_t e1, ui
 }
 
 VQ6192_API uint32_t VQ6192_Framer_SetE1RaiInsEn(uint32_t chip, uint32_t e1, uint32_t en) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return setEgressBit(chip, e1, kRaiInsEnBit, en);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_SetE1RaiInsSelEn(uint32_t chip, uint32_t e1, uint32_t en) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return setEgressBit(chip, e1, kRaiInsSelEnBit, en);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_SetE1RaiInsValue(uint32_t chip, uint32_t e1, uint32_t val) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return setEgressBit(chip, e1, kRaiInsValueBit, val);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetE1OvhInsRegVal(uint32_t chip, uint32_t e1, uint16_t *regVal) {
-    if (e1 >= VQ6192_FRM_E1_NUM || regVal == nullptr) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || regVal == nullptr) {
         return paraErr(chip);
     }
     uint32_t v = 0, k = 0, r = 0;

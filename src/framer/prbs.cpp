@@ -176,7 +176,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetPRBSInsAttrNew(uint32_t chip, uint32_t path
 // E1/T1 paths come back as stored (32 * TUG-3 + channel for path type 0).
 VQ6192_API uint32_t VQ6192_Framer_GetPRBSInsAttr(uint32_t chip, uint32_t pathType,
                                                  VQ6192_FRM_PRBS_INS_ATTR_S *gen, uint8_t *enable) {
-    if (pathType > 3 || gen == nullptr || enable == nullptr) {
+    if (!vq::validChip(chip) || pathType > 3 || gen == nullptr || enable == nullptr) {
         return paraErr(chip);
     }
     const uint32_t reg = VQ6192_ReadReg(chip, kPrbsGenReg);
@@ -198,7 +198,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetPRBSInsAttr(uint32_t chip, uint32_t pathTyp
 
 VQ6192_API uint32_t VQ6192_Framer_SetPRBSChkAttr(uint32_t chip, const VQ6192_FRM_PRBS_CHK_ATTR_S *chk,
                                                  uint32_t enable) {
-    if (chk == nullptr || chk->ulMode > 3 || chk->ulFlag > 1 || chk->ulPattern > 6 ||
+    if (!vq::validChip(chip) || chk == nullptr || chk->ulMode > 3 || chk->ulFlag > 1 || chk->ulPattern > 6 ||
         chk->usET3Path >= kHighOrderPathNum || chk->usPath >= VQ6192_FRM_E1_NUM || enable > 1) {
         return paraErr(chip);
     }
@@ -216,12 +216,15 @@ VQ6192_API uint32_t VQ6192_Framer_SetPRBSChkAttr(uint32_t chip, const VQ6192_FRM
 
 VQ6192_API uint32_t VQ6192_Framer_SetPRBSChkAttrNew(uint32_t chip, const VQ6192_FRM_PRBS_CHK_ATTR_S *chk,
                                                     uint32_t enable) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return VQ6192_Framer_SetPRBSChkAttr(chip, chk, enable);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetPRBSChkAttr(uint32_t chip, VQ6192_FRM_PRBS_CHK_ATTR_S *chk,
                                                  uint8_t *enable) {
-    if (chk == nullptr || enable == nullptr) {
+    if (!vq::validChip(chip) || chk == nullptr || enable == nullptr) {
         return paraErr(chip);
     }
     const uint32_t reg = VQ6192_ReadReg(chip, kPrbsChkReg);
@@ -237,18 +240,30 @@ VQ6192_API uint32_t VQ6192_Framer_GetPRBSChkAttr(uint32_t chip, VQ6192_FRM_PRBS_
 
 VQ6192_API uint32_t VQ6192_Framer_SetPrbsErrInsert(uint32_t chip, uint32_t mode, uint32_t rate,
                                                    uint32_t enable) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return setErrInsert(chip, kMapperErrInsert, mode, rate, enable);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetPrbsErrInsert(uint32_t chip, uint32_t *rate, uint8_t *enable) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return getErrInsert(chip, kMapperErrInsert, rate, enable);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetPRBSAlm(uint32_t chip, uint16_t alarms[4]) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return readAlarms(chip, kPrbsAlarmReg, 4, alarms);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetPRBSErrCnt(uint32_t chip, uint16_t *count) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return readCounter(chip, kPrbsErrCntReg, count);
 }
 
@@ -285,7 +300,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetTsPRBSInsAttr(uint32_t chip, uint32_t pathT
 
 VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSInsAttr(uint32_t chip, uint32_t pathType,
                                                    VQ6192_FRM_PRBS_INS_ATTR_S *gen, uint8_t *enable) {
-    if (pathType > 3 || gen == nullptr || enable == nullptr) {
+    if (!vq::validChip(chip) || pathType > 3 || gen == nullptr || enable == nullptr) {
         return paraErr(chip);
     }
     const uint32_t reg = VQ6192_ReadReg(chip, kTsPrbsGenReg);
@@ -312,8 +327,9 @@ VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSInsAttr(uint32_t chip, uint32_t pathT
 
 VQ6192_API uint32_t VQ6192_Framer_SetTsPRBSChkAttr(uint32_t chip, uint32_t pathType,
                                                    const VQ6192_FRM_PRBS_CHK_ATTR_S *chk, uint32_t enable) {
-    if (chk == nullptr || pathType > 3 || chk->ulMode > 3 || chk->ulFlag > 1 || !tsPattern(chk->ulPattern) ||
-        enable > 1 || (!highOrder(pathType) && chk->usPath >= VQ6192_FRM_E1_NUM) ||
+    if (!vq::validChip(chip) || chk == nullptr || pathType > 3 || chk->ulMode > 3 || chk->ulFlag > 1 ||
+        !tsPattern(chk->ulPattern) || enable > 1 ||
+        (!highOrder(pathType) && chk->usPath >= VQ6192_FRM_E1_NUM) ||
         (highOrder(pathType) && chk->usET3Path >= kHighOrderPathNum)) {
         return paraErr(chip);
     }
@@ -332,7 +348,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetTsPRBSChkAttr(uint32_t chip, uint32_t pathT
 
 VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSChkAttr(uint32_t chip, uint32_t pathType,
                                                    VQ6192_FRM_PRBS_CHK_ATTR_S *chk, uint8_t *enable) {
-    if (pathType > 3 || chk == nullptr || enable == nullptr) {
+    if (!vq::validChip(chip) || pathType > 3 || chk == nullptr || enable == nullptr) {
         return paraErr(chip);
     }
     const uint32_t reg = VQ6192_ReadReg(chip, kTsPrbsChkReg);
@@ -353,18 +369,30 @@ VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSChkAttr(uint32_t chip, uint32_t pathT
 }
 
 VQ6192_API uint32_t VQ6192_Framer_SetTsPRBSIns(uint32_t chip, uint32_t mode, uint32_t rate, uint32_t enable) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return setErrInsert(chip, kTsErrInsert, mode, rate, enable);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSIns(uint32_t chip, uint32_t *reInsRate, uint8_t *reInsEnable) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return getErrInsert(chip, kTsErrInsert, reInsRate, reInsEnable);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSAlm(uint32_t chip, uint16_t alarms[3]) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return readAlarms(chip, kTsPrbsAlarmReg, 3, alarms);
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSErrCnt(uint32_t chip, uint16_t *count) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     return readCounter(chip, kTsPrbsErrCntReg, count);
 }
 
@@ -375,7 +403,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetTsPRBSErrCnt(uint32_t chip, uint16_t *count
 // left alone.
 VQ6192_API uint32_t VQ6192_Framer_SetTsCesPrbsCfg(uint32_t chip, uint32_t pathType, uint32_t dir, uint32_t e1,
                                                   uint32_t tsMask, uint32_t cesChnl) {
-    if (!validCesSource(pathType, dir, e1) || cesChnl > 347) {
+    if (!vq::validChip(chip) || !validCesSource(pathType, dir, e1) || cesChnl > 347) {
         return paraErr(chip);
     }
     for (uint32_t i = 0; i < ts::kTimeslots; ++i) {
@@ -399,7 +427,8 @@ VQ6192_API uint32_t VQ6192_Framer_SetTsCesPrbsCfg(uint32_t chip, uint32_t pathTy
 // channel that adds bits is reported as error 6.
 VQ6192_API uint32_t VQ6192_Framer_GetTsCesPrbsCfg(uint32_t chip, uint32_t pathType, uint32_t dir, uint32_t e1,
                                                   uint32_t *tsBitmap, uint16_t *cesChnl) {
-    if (!validCesSource(pathType, dir, e1) || tsBitmap == nullptr || cesChnl == nullptr) {
+    if (!vq::validChip(chip) || !validCesSource(pathType, dir, e1) || tsBitmap == nullptr ||
+        cesChnl == nullptr) {
         return paraErr(chip);
     }
     *tsBitmap = 0;

@@ -22,7 +22,8 @@ constexpr uint32_t kNotFound = (VQ6192_ERR_MODULE_FRAMER << 16) | vq::framer::kE
 extern "C" VQ6192_API uint32_t VQ6192_Framer_GetE1FromSvrNo(uint32_t chip, uint32_t svcChnl, uint32_t dir,
                                                             uint32_t svcType, uint32_t speed, uint16_t *e1) {
     using namespace vq::framer;
-    if (dir > VQ6192_BASE_SRV_DIRECT_EGRESS || svcType > 3 || speed > 4 || e1 == nullptr) {
+    if (!vq::validChip(chip) || dir > VQ6192_BASE_SRV_DIRECT_EGRESS || svcType > 3 || speed > 4 ||
+        e1 == nullptr) {
         return paraErr(chip);
     }
     *e1 = kNoChannel;

@@ -80,7 +80,7 @@ uint8_t readLoop(uint32_t chip, const LoopBits &b) {
 extern "C" {
 
 VQ6192_API uint32_t VQ6192_Framer_SetTSSMode(uint32_t chip, uint32_t e1, uint32_t mode) {
-    if (e1 >= VQ6192_FRM_E1_NUM || mode > 1) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || mode > 1) {
         return paraErr(chip);
     }
     writeBit(chip, kTssModeReg + 2 * (e1 / 16), e1 % 16, mode);
@@ -88,7 +88,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetTSSMode(uint32_t chip, uint32_t e1, uint32_
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetTSSMode(uint32_t chip, uint32_t e1, uint32_t *mode) {
-    if (e1 >= VQ6192_FRM_E1_NUM || mode == nullptr) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || mode == nullptr) {
         return paraErr(chip);
     }
     *mode = readBit(chip, kTssModeReg + 2 * (e1 / 16), e1 % 16);
@@ -97,7 +97,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetTSSMode(uint32_t chip, uint32_t e1, uint32_
 
 // The payload type is a 2-bit field and is not range-tested.
 VQ6192_API uint32_t VQ6192_Framer_SetTSPayLoad(uint32_t chip, uint32_t vc4, uint32_t payload) {
-    if (vc4 >= 4) {
+    if (!vq::validChip(chip) || vc4 >= 4) {
         return paraErr(chip);
     }
     VQ6192_WriteRegField(chip, kVc4PayloadReg + 2 * vc4, payload, 0, 2);
@@ -105,7 +105,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetTSPayLoad(uint32_t chip, uint32_t vc4, uint
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetTSPayLoad(uint32_t chip, uint32_t vc4, uint32_t *payload) {
-    if (vc4 >= 4 || payload == nullptr) {
+    if (!vq::validChip(chip) || vc4 >= 4 || payload == nullptr) {
         return paraErr(chip);
     }
     *payload = VQ6192_ReadRegField(chip, kVc4PayloadReg + 2 * vc4, 0, 2);
@@ -113,7 +113,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetTSPayLoad(uint32_t chip, uint32_t vc4, uint
 }
 
 VQ6192_API uint32_t VQ6192_Framer_SetTSSource(uint32_t chip, uint32_t dir, uint32_t src, uint32_t value) {
-    if (dir > VQ6192_BASE_SRV_DIRECT_BOTH || src > 3 || value > 1) {
+    if (!vq::validChip(chip) || dir > VQ6192_BASE_SRV_DIRECT_BOTH || src > 3 || value > 1) {
         return paraErr(chip);
     }
     if (dir != VQ6192_BASE_SRV_DIRECT_EGRESS) {
@@ -126,7 +126,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetTSSource(uint32_t chip, uint32_t dir, uint3
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetTSSource(uint32_t chip, uint32_t dir, uint32_t src, uint32_t *value) {
-    if (dir > VQ6192_BASE_SRV_DIRECT_BOTH || src > 3 || value == nullptr) {
+    if (!vq::validChip(chip) || dir > VQ6192_BASE_SRV_DIRECT_BOTH || src > 3 || value == nullptr) {
         return paraErr(chip);
     }
     if (dir == VQ6192_BASE_SRV_DIRECT_INGRESS) {
@@ -147,7 +147,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetTSSource(uint32_t chip, uint32_t dir, uint3
 }
 
 VQ6192_API uint32_t VQ6192_SetTsUxcEnable(uint32_t chip, uint32_t idx, uint32_t en) {
-    if (idx > 3 || en > 1) {
+    if (!vq::validChip(chip) || idx > 3 || en > 1) {
         return paraErr(chip);
     }
     writeBit(chip, kTsIngSourceReg, idx, en);
@@ -155,7 +155,7 @@ VQ6192_API uint32_t VQ6192_SetTsUxcEnable(uint32_t chip, uint32_t idx, uint32_t 
 }
 
 VQ6192_API uint32_t VQ6192_GetTsUxcEnable(uint32_t chip, uint32_t idx, uint32_t *en) {
-    if (idx > 3 || en == nullptr) {
+    if (!vq::validChip(chip) || idx > 3 || en == nullptr) {
         return paraErr(chip);
     }
     *en = readBit(chip, kTsIngSourceReg, idx);
@@ -163,7 +163,7 @@ VQ6192_API uint32_t VQ6192_GetTsUxcEnable(uint32_t chip, uint32_t idx, uint32_t 
 }
 
 VQ6192_API uint32_t VQ6192_GetTsUxcRegVal(uint32_t chip, uint16_t *val) {
-    if (val == nullptr) {
+    if (!vq::validChip(chip) || val == nullptr) {
         return paraErr(chip);
     }
     *val = static_cast<uint16_t>(VQ6192_ReadReg(chip, kTsIngSourceReg));
@@ -172,7 +172,7 @@ VQ6192_API uint32_t VQ6192_GetTsUxcRegVal(uint32_t chip, uint16_t *val) {
 
 // The byte is chip-wide; the channel is only range-tested.
 VQ6192_API uint32_t VQ6192_Framer_SetTsEgDefaultByte(uint32_t chip, uint32_t e1, uint32_t byte) {
-    if (e1 >= VQ6192_FRM_E1_NUM || byte > 0xFF) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || byte > 0xFF) {
         return paraErr(chip);
     }
     VQ6192_WriteRegField(chip, kTsEgDefaultByteReg, byte, 0, 8);
@@ -180,7 +180,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetTsEgDefaultByte(uint32_t chip, uint32_t e1,
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetTsEgDefaultByte(uint32_t chip, uint32_t e1, uint8_t *byte) {
-    if (e1 >= VQ6192_FRM_E1_NUM || byte == nullptr) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || byte == nullptr) {
         return paraErr(chip);
     }
     *byte = static_cast<uint8_t>(VQ6192_ReadRegField(chip, kTsEgDefaultByteReg, 0, 8));
@@ -189,6 +189,9 @@ VQ6192_API uint32_t VQ6192_Framer_GetTsEgDefaultByte(uint32_t chip, uint32_t e1,
 
 VQ6192_API uint32_t VQ6192_Framer_SetTsLoop(uint32_t chip, uint32_t loopPoint, uint32_t chnl,
                                             uint32_t loopMode) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     LoopBits bits{};
     if (loopMode > 2 || !tsLoopBits(loopPoint, chnl, &bits)) {
         return paraErr(chip);
@@ -209,6 +212,9 @@ VQ6192_API uint32_t VQ6192_Framer_SetTsLoop(uint32_t chip, uint32_t loopPoint, u
 
 VQ6192_API uint32_t VQ6192_Framer_GetTsLoop(uint32_t chip, uint32_t loopPoint, uint32_t chnl,
                                             uint8_t *loopState) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     LoopBits bits{};
     if (loopState == nullptr || !tsLoopBits(loopPoint, chnl, &bits)) {
         return paraErr(chip);
@@ -219,6 +225,9 @@ VQ6192_API uint32_t VQ6192_Framer_GetTsLoop(uint32_t chip, uint32_t loopPoint, u
 
 VQ6192_API uint32_t VQ6192_Framer_SetHTBLoop(uint32_t chip, uint32_t zero, uint32_t idx, uint32_t kind,
                                              uint32_t loopMode) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     LoopBits bits{};
     if (loopMode > 2 || !htbLoopBits(zero, idx, kind, &bits)) {
         return paraErr(chip);
@@ -232,6 +241,9 @@ VQ6192_API uint32_t VQ6192_Framer_SetHTBLoop(uint32_t chip, uint32_t zero, uint3
 // Both loops at once is not a state the setter makes: reported as error 4 with the state 3.
 VQ6192_API uint32_t VQ6192_Framer_GetHTBLoop(uint32_t chip, uint32_t zero, uint32_t idx, uint32_t kind,
                                              uint8_t *loopState) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     LoopBits bits{};
     if (loopState == nullptr || !htbLoopBits(zero, idx, kind, &bits)) {
         return paraErr(chip);
@@ -248,12 +260,15 @@ VQ6192_API uint32_t VQ6192_Framer_GetHTBLoop(uint32_t chip, uint32_t zero, uint3
 
 // The receive frame pulse setters test nothing: each value goes into its one-bit or 15-bit field.
 VQ6192_API uint32_t VQ6192_Framer_ResetRfp(uint32_t chip, uint32_t value) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     writeBit(chip, kRfpResetReg, 1, value);
     return 0;
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetResetRfpState(uint32_t chip, uint8_t *state) {
-    if (state == nullptr) {
+    if (!vq::validChip(chip) || state == nullptr) {
         return paraErr(chip);
     }
     *state = static_cast<uint8_t>(readBit(chip, kRfpResetReg, 1));
@@ -262,6 +277,9 @@ VQ6192_API uint32_t VQ6192_Framer_GetResetRfpState(uint32_t chip, uint8_t *state
 
 VQ6192_API uint32_t VQ6192_Framer_SetRfpEnableOnOff(uint32_t chip, uint32_t dropIntEn, uint32_t errIntEn,
                                                     uint32_t jitVldEn, uint32_t shiftEn) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     writeBit(chip, kRfpEnReg1, 2, dropIntEn);
     writeBit(chip, kRfpEnReg1, 1, errIntEn);
     writeBit(chip, kRfpEnReg2, 1, jitVldEn);
@@ -271,7 +289,8 @@ VQ6192_API uint32_t VQ6192_Framer_SetRfpEnableOnOff(uint32_t chip, uint32_t drop
 
 VQ6192_API uint32_t VQ6192_Framer_GetRfpEnableOnOff(uint32_t chip, uint8_t *dropIntEn, uint8_t *errIntEn,
                                                     uint8_t *jitVldEn, uint8_t *shiftEn) {
-    if (dropIntEn == nullptr || errIntEn == nullptr || jitVldEn == nullptr || shiftEn == nullptr) {
+    if (!vq::validChip(chip) || dropIntEn == nullptr || errIntEn == nullptr || jitVldEn == nullptr ||
+        shiftEn == nullptr) {
         return paraErr(chip);
     }
     *dropIntEn = static_cast<uint8_t>(readBit(chip, kRfpEnReg1, 2));
@@ -282,12 +301,15 @@ VQ6192_API uint32_t VQ6192_Framer_GetRfpEnableOnOff(uint32_t chip, uint8_t *drop
 }
 
 VQ6192_API uint32_t VQ6192_Framer_SetRfpDelay(uint32_t chip, uint32_t delay) {
+    if (!vq::validChip(chip)) {
+        return paraErr(chip);
+    }
     VQ6192_WriteRegField(chip, kRfpDelayReg, delay, 0, 15);
     return 0;
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetRfpDelay(uint32_t chip, uint16_t *delay) {
-    if (delay == nullptr) {
+    if (!vq::validChip(chip) || delay == nullptr) {
         return paraErr(chip);
     }
     *delay = static_cast<uint16_t>(VQ6192_ReadRegField(chip, kRfpDelayReg, 0, 15));
@@ -295,7 +317,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetRfpDelay(uint32_t chip, uint16_t *delay) {
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetRfpAlm(uint32_t chip, uint8_t *a, uint8_t *b, uint8_t *c, uint8_t *d) {
-    if (a == nullptr || b == nullptr || c == nullptr || d == nullptr) {
+    if (!vq::validChip(chip) || a == nullptr || b == nullptr || c == nullptr || d == nullptr) {
         return paraErr(chip);
     }
     const uint32_t reg = VQ6192_ReadReg(chip, kRfpAlarmReg);
@@ -307,7 +329,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetRfpAlm(uint32_t chip, uint8_t *a, uint8_t *
 }
 
 VQ6192_API uint32_t VQ6192_Framer_SetMapDelayTime(uint32_t chip, uint32_t idx, uint32_t time) {
-    if (idx > 3 || time >= kMapDelayLimit) {
+    if (!vq::validChip(chip) || idx > 3 || time >= kMapDelayLimit) {
         return paraErr(chip);
     }
     VQ6192_WriteRegField(chip, kMapDelayReg + 2 * idx, time, 0, 15);
@@ -315,7 +337,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetMapDelayTime(uint32_t chip, uint32_t idx, u
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetMapDelayTime(uint32_t chip, uint32_t idx, uint16_t *time) {
-    if (idx > 3 || time == nullptr) {
+    if (!vq::validChip(chip) || idx > 3 || time == nullptr) {
         return paraErr(chip);
     }
     *time = static_cast<uint16_t>(VQ6192_ReadRegField(chip, kMapDelayReg + 2 * idx, 0, 15));

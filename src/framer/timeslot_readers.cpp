@@ -75,8 +75,8 @@ extern "C" {
 VQ6192_API uint32_t VQ6192_Framer_GetTsCfg(uint32_t chip, uint32_t dir, uint32_t e1, uint32_t ts,
                                            uint16_t *svcChnl, uint8_t *svcType, uint32_t *speed,
                                            uint8_t *en) {
-    if (e1 >= VQ6192_FRM_E1_NUM || svcChnl == nullptr || svcType == nullptr || speed == nullptr ||
-        en == nullptr) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_FRM_E1_NUM || svcChnl == nullptr || svcType == nullptr ||
+        speed == nullptr || en == nullptr) {
         return paraErr(chip);
     }
     if (dir > VQ6192_BASE_SRV_DIRECT_BOTH) {
@@ -116,7 +116,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetTsCfg2(VQ6192_FRM_TS_CFG_S *cfg) {
 
 VQ6192_API uint32_t VQ6192_Framer_GetE3TsCfg(uint32_t chip, uint32_t dir, uint32_t e3, uint16_t *svcChnl,
                                              uint8_t *svcType, uint32_t *speed, uint8_t *en) {
-    if (e3 >= VQ6192_FRM_E3_NUM) {
+    if (!vq::validChip(chip) || e3 >= VQ6192_FRM_E3_NUM) {
         return paraErr(chip);
     }
     return highOrderCfg(chip, dir, kE3SourceBase + e3, svcChnl, svcType, speed, en);
@@ -124,7 +124,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetE3TsCfg(uint32_t chip, uint32_t dir, uint32
 
 VQ6192_API uint32_t VQ6192_Framer_GetVC4TsCfg(uint32_t chip, uint32_t dir, uint32_t vc4, uint16_t *svcChnl,
                                               uint8_t *svcType, uint32_t *speed, uint8_t *en) {
-    if (vc4 >= 4) {
+    if (!vq::validChip(chip) || vc4 >= 4) {
         return paraErr(chip);
     }
     return highOrderCfg(chip, dir, kVc4SourceBase + vc4, svcChnl, svcType, speed, en);

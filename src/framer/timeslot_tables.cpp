@@ -155,7 +155,7 @@ extern "C" {
 
 VQ6192_API uint32_t VQ6192_Framer_SetTSTab(uint32_t chip, uint32_t e1, uint32_t dir, uint32_t ts,
                                            const uint32_t *entry) {
-    if (entry == nullptr) {
+    if (!vq::validChip(chip) || entry == nullptr) {
         return paraErr(chip);
     }
     return tableWriteStatus(chip, writeEntry(chip, Kind::E1, e1, ts, dir, *entry));
@@ -163,7 +163,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetTSTab(uint32_t chip, uint32_t e1, uint32_t 
 
 VQ6192_API uint32_t VQ6192_Framer_SetE3TSTab(uint32_t chip, uint32_t e3, uint32_t dir,
                                              const uint32_t *entry) {
-    if (entry == nullptr) {
+    if (!vq::validChip(chip) || entry == nullptr) {
         return paraErr(chip);
     }
     return tableWriteStatus(chip, writeEntry(chip, Kind::HighOrder, kE3SourceBase + e3, 0, dir, *entry));
@@ -171,14 +171,14 @@ VQ6192_API uint32_t VQ6192_Framer_SetE3TSTab(uint32_t chip, uint32_t e3, uint32_
 
 VQ6192_API uint32_t VQ6192_Framer_SetVC4TSTab(uint32_t chip, uint32_t vc4, uint32_t dir,
                                               const uint32_t *entry) {
-    if (entry == nullptr) {
+    if (!vq::validChip(chip) || entry == nullptr) {
         return paraErr(chip);
     }
     return tableWriteStatus(chip, writeEntry(chip, Kind::HighOrder, kVc4SourceBase + vc4, 0, dir, *entry));
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetE3TSTab(uint32_t chip, uint32_t e3, uint32_t dir, uint32_t *entry) {
-    if (entry == nullptr) {
+    if (!vq::validChip(chip) || entry == nullptr) {
         return paraErr(chip);
     }
     return readHighOrder(chip, e3, kE3SourceBase + e3, dir, entry,
@@ -186,7 +186,7 @@ VQ6192_API uint32_t VQ6192_Framer_GetE3TSTab(uint32_t chip, uint32_t e3, uint32_
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetVC4TSTab(uint32_t chip, uint32_t vc4, uint32_t dir, uint32_t *entry) {
-    if (entry == nullptr) {
+    if (!vq::validChip(chip) || entry == nullptr) {
         return paraErr(chip);
     }
     return readHighOrder(chip, vc4, kVc4SourceBase + vc4, dir, entry,
@@ -223,7 +223,7 @@ VQ6192_API uint32_t VQ6192_Framer_SelectSrcE1(uint32_t chip, uint32_t dir, uint3
 }
 
 VQ6192_API uint32_t VQ6192_Framer_DeleteSrcE1(uint32_t chip, uint32_t dir, uint32_t e1, uint32_t tsBitmap) {
-    if (dir > 3 || e1 >= VQ6192_FRM_E1_NUM) {
+    if (!vq::validChip(chip) || dir > 3 || e1 >= VQ6192_FRM_E1_NUM) {
         return paraErr(chip);
     }
     return writeTimeslots(chip, dir, e1, tsBitmap, kCleared,
@@ -253,7 +253,7 @@ VQ6192_API uint32_t VQ6192_Framer_SelectSrcE3(uint32_t chip, uint32_t dir, uint3
 }
 
 VQ6192_API uint32_t VQ6192_Framer_DeleteSrcE3(uint32_t chip, uint32_t dir, uint32_t e3) {
-    if (dir > 3 || e3 >= VQ6192_FRM_E3_NUM) {
+    if (!vq::validChip(chip) || dir > 3 || e3 >= VQ6192_FRM_E3_NUM) {
         return paraErr(chip);
     }
     return writeHighOrder(chip, kE3SourceBase, e3, dir, kCleared,
@@ -271,7 +271,7 @@ VQ6192_API uint32_t VQ6192_Framer_SelectSrcVC4(uint32_t chip, uint32_t dir, uint
 }
 
 VQ6192_API uint32_t VQ6192_Framer_DeleteSrcVC4(uint32_t chip, uint32_t dir, uint32_t vc4) {
-    if (dir > 3 || vc4 >= 4) {
+    if (!vq::validChip(chip) || dir > 3 || vc4 >= 4) {
         return paraErr(chip);
     }
     return writeHighOrder(chip, kVc4SourceBase, vc4, dir, kCleared,
@@ -295,7 +295,7 @@ VQ6192_API uint32_t VQ6192_Framer_SelectSrcVC4DisIngTs(uint32_t chip, uint32_t d
 }
 
 VQ6192_API uint32_t VQ6192_Framer_DeleteSrcVC4DisIngTs(uint32_t chip, uint32_t dir, uint32_t vc4) {
-    if (dir > VQ6192_BASE_SRV_DIRECT_BOTH || vc4 >= 4) {
+    if (!vq::validChip(chip) || dir > VQ6192_BASE_SRV_DIRECT_BOTH || vc4 >= 4) {
         return paraErr(chip);
     }
     uint32_t ingress = 0;
@@ -309,7 +309,7 @@ VQ6192_API uint32_t VQ6192_Framer_DeleteSrcVC4DisIngTs(uint32_t chip, uint32_t d
 // Read, replace the enable bit, write back for the same direction; for both directions the egress
 // entry is written to both tables.
 VQ6192_API uint32_t VQ6192_Framer_SetTsVc4En(uint32_t chip, uint32_t dir, uint32_t vc4, uint32_t en) {
-    if (dir > VQ6192_BASE_SRV_DIRECT_BOTH || vc4 >= 4 || en > 1) {
+    if (!vq::validChip(chip) || dir > VQ6192_BASE_SRV_DIRECT_BOTH || vc4 >= 4 || en > 1) {
         return paraErr(chip);
     }
     uint32_t entry = 0;
@@ -323,7 +323,7 @@ VQ6192_API uint32_t VQ6192_Framer_SetTsVc4En(uint32_t chip, uint32_t dir, uint32
 }
 
 VQ6192_API uint32_t VQ6192_Framer_GetTsVc4En(uint32_t chip, uint32_t dir, uint32_t vc4, uint16_t *en) {
-    if (dir > VQ6192_BASE_SRV_DIRECT_BOTH || vc4 >= 4 || en == nullptr) {
+    if (!vq::validChip(chip) || dir > VQ6192_BASE_SRV_DIRECT_BOTH || vc4 >= 4 || en == nullptr) {
         return paraErr(chip);
     }
     uint32_t entry = 0;

@@ -42,7 +42,8 @@ extern "C" {
 
 VQ6192_API uint32_t VQ6192_SDH_InterE1Chno2RegChno(uint32_t chip, uint32_t e1, uint32_t *vc4, uint32_t *tug3,
                                                    uint32_t *reg) {
-    if (e1 >= VQ6192_SDH_E1_NUM || vc4 == nullptr || tug3 == nullptr || reg == nullptr) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_SDH_E1_NUM || vc4 == nullptr || tug3 == nullptr ||
+        reg == nullptr) {
         return paraErr(chip);
     }
     *vc4 = e1 / kPerVc4;
@@ -54,7 +55,8 @@ VQ6192_API uint32_t VQ6192_SDH_InterE1Chno2RegChno(uint32_t chip, uint32_t e1, u
 // A register channel of 21..27 (T1 tributaries) runs into the next TUG-3's numbers.
 VQ6192_API uint32_t VQ6192_SDH_RegChno2InterE1Chno(uint32_t chip, uint32_t vc4, uint32_t tug3, uint32_t reg,
                                                    uint32_t *e1) {
-    if (vc4 >= VQ6192_SDH_VC4_NUM || tug3 >= VQ6192_SDH_AU3_NUM || reg >= 28 || e1 == nullptr) {
+    if (!vq::validChip(chip) || vc4 >= VQ6192_SDH_VC4_NUM || tug3 >= VQ6192_SDH_AU3_NUM || reg >= 28 ||
+        e1 == nullptr) {
         return paraErr(chip);
     }
     *e1 = kPerVc4 * vc4 + kPerTug3 * tug3 + reg;
@@ -62,7 +64,7 @@ VQ6192_API uint32_t VQ6192_SDH_RegChno2InterE1Chno(uint32_t chip, uint32_t vc4, 
 }
 
 VQ6192_API uint32_t VQ6192_SDH_InterE1Chno2HWChno(uint32_t chip, uint32_t e1, uint32_t *vc4, uint32_t *hw) {
-    if (e1 >= VQ6192_SDH_E1_NUM || vc4 == nullptr || hw == nullptr) {
+    if (!vq::validChip(chip) || e1 >= VQ6192_SDH_E1_NUM || vc4 == nullptr || hw == nullptr) {
         return paraErr(chip);
     }
     e1ToHw(e1, vc4, hw);
@@ -70,7 +72,7 @@ VQ6192_API uint32_t VQ6192_SDH_InterE1Chno2HWChno(uint32_t chip, uint32_t e1, ui
 }
 
 VQ6192_API uint32_t VQ6192_SDH_HWChno2InterE1Chno(uint32_t chip, uint32_t vc4, uint32_t hw, uint32_t *e1) {
-    if (e1 == nullptr) {
+    if (!vq::validChip(chip) || e1 == nullptr) {
         return paraErr(chip);
     }
     *e1 = hwToE1(vc4, hw);
@@ -79,7 +81,7 @@ VQ6192_API uint32_t VQ6192_SDH_HWChno2InterE1Chno(uint32_t chip, uint32_t vc4, u
 
 VQ6192_API uint32_t VQ6192_SDH_InterE1Chno2Standardno(uint32_t chip, uint32_t e1, uint32_t *vc4,
                                                       uint32_t *tug3, uint32_t *tug2, uint32_t *tu) {
-    if (vc4 == nullptr || tug3 == nullptr || tug2 == nullptr || tu == nullptr) {
+    if (!vq::validChip(chip) || vc4 == nullptr || tug3 == nullptr || tug2 == nullptr || tu == nullptr) {
         return paraErr(chip);
     }
     toStandard(e1, vc4, tug3, tug2, tu);
@@ -88,7 +90,7 @@ VQ6192_API uint32_t VQ6192_SDH_InterE1Chno2Standardno(uint32_t chip, uint32_t e1
 
 VQ6192_API uint32_t VQ6192_SDH_Standardno2InterE1Chno(uint32_t chip, uint32_t vc4, uint32_t tug3,
                                                       uint32_t tug2, uint32_t tu, uint32_t *e1) {
-    if (e1 == nullptr) {
+    if (!vq::validChip(chip) || e1 == nullptr) {
         return paraErr(chip);
     }
     *e1 = fromStandard(vc4, tug3, tug2, tu);
@@ -98,7 +100,7 @@ VQ6192_API uint32_t VQ6192_SDH_Standardno2InterE1Chno(uint32_t chip, uint32_t vc
 VQ6192_API uint32_t VQ6192_SDH_RegChno2Standardno(uint32_t chip, uint32_t vc4, uint32_t tug3, uint32_t reg,
                                                   uint32_t *outVc4, uint32_t *outTug3, uint32_t *tug2,
                                                   uint32_t *tu) {
-    if (outVc4 == nullptr || outTug3 == nullptr || tug2 == nullptr || tu == nullptr) {
+    if (!vq::validChip(chip) || outVc4 == nullptr || outTug3 == nullptr || tug2 == nullptr || tu == nullptr) {
         return paraErr(chip);
     }
     *outVc4 = vc4;
@@ -111,7 +113,7 @@ VQ6192_API uint32_t VQ6192_SDH_RegChno2Standardno(uint32_t chip, uint32_t vc4, u
 VQ6192_API uint32_t VQ6192_SDH_Standardno2RegChno(uint32_t chip, uint32_t vc4, uint32_t tug3, uint32_t tug2,
                                                   uint32_t tu, uint32_t *outVc4, uint32_t *outTug3,
                                                   uint32_t *reg) {
-    if (outVc4 == nullptr || outTug3 == nullptr || reg == nullptr) {
+    if (!vq::validChip(chip) || outVc4 == nullptr || outTug3 == nullptr || reg == nullptr) {
         return paraErr(chip);
     }
     *outVc4 = vc4;
@@ -123,7 +125,7 @@ VQ6192_API uint32_t VQ6192_SDH_Standardno2RegChno(uint32_t chip, uint32_t vc4, u
 // The hardware conversions go through the internal E1 number, so their VC-4 is recomputed from it.
 VQ6192_API uint32_t VQ6192_SDH_HWChno2Standardno(uint32_t chip, uint32_t vc4, uint32_t hw, uint32_t *outVc4,
                                                  uint32_t *tug3, uint32_t *tug2, uint32_t *tu) {
-    if (outVc4 == nullptr || tug3 == nullptr || tug2 == nullptr || tu == nullptr) {
+    if (!vq::validChip(chip) || outVc4 == nullptr || tug3 == nullptr || tug2 == nullptr || tu == nullptr) {
         return paraErr(chip);
     }
     toStandard(hwToE1(vc4, hw), outVc4, tug3, tug2, tu);
@@ -132,7 +134,7 @@ VQ6192_API uint32_t VQ6192_SDH_HWChno2Standardno(uint32_t chip, uint32_t vc4, ui
 
 VQ6192_API uint32_t VQ6192_SDH_Standardno2HWChno(uint32_t chip, uint32_t vc4, uint32_t tug3, uint32_t tug2,
                                                  uint32_t tu, uint32_t *outVc4, uint32_t *hw) {
-    if (outVc4 == nullptr || hw == nullptr) {
+    if (!vq::validChip(chip) || outVc4 == nullptr || hw == nullptr) {
         return paraErr(chip);
     }
     e1ToHw(fromStandard(vc4, tug3, tug2, tu), outVc4, hw);
@@ -141,7 +143,7 @@ VQ6192_API uint32_t VQ6192_SDH_Standardno2HWChno(uint32_t chip, uint32_t vc4, ui
 
 VQ6192_API uint32_t VQ6192_SDH_HWChno2RegChno(uint32_t chip, uint32_t vc4, uint32_t hw, uint32_t *outVc4,
                                               uint32_t *tug3, uint32_t *reg) {
-    if (outVc4 == nullptr || tug3 == nullptr || reg == nullptr) {
+    if (!vq::validChip(chip) || outVc4 == nullptr || tug3 == nullptr || reg == nullptr) {
         return paraErr(chip);
     }
     const uint32_t e1 = hwToE1(vc4, hw);
@@ -153,7 +155,7 @@ VQ6192_API uint32_t VQ6192_SDH_HWChno2RegChno(uint32_t chip, uint32_t vc4, uint3
 
 VQ6192_API uint32_t VQ6192_SDH_RegChnoHWChno(uint32_t chip, uint32_t vc4, uint32_t tug3, uint32_t reg,
                                              uint32_t *outVc4, uint32_t *hw) {
-    if (outVc4 == nullptr || hw == nullptr) {
+    if (!vq::validChip(chip) || outVc4 == nullptr || hw == nullptr) {
         return paraErr(chip);
     }
     e1ToHw(kPerVc4 * vc4 + kPerTug3 * tug3 + reg, outVc4, hw);

@@ -56,7 +56,7 @@ extern "C" {
 // au3; point 0 has no bit B.
 VQ6192_API uint32_t VQ6192_SDH_SetSDHLoop(uint32_t chip, uint32_t loopPoint, uint32_t vc4, uint32_t au3,
                                           uint32_t loopMode) {
-    if (loopPoint >= kLoopPointNum || loopMode > 2) {
+    if (!vq::validChip(chip) || loopPoint >= kLoopPointNum || loopMode > 2) {
         return paraErr(chip);
     }
     const LoopPoint &p = kLoopPoints[loopPoint];
@@ -75,8 +75,8 @@ VQ6192_API uint32_t VQ6192_SDH_SetSDHLoop(uint32_t chip, uint32_t loopPoint, uin
 // Returns 2 * B + A; the getter checks the slot for every point.
 VQ6192_API uint32_t VQ6192_SDH_GetSDHLoop(uint32_t chip, uint32_t loopPoint, uint32_t vc4, uint32_t au3,
                                           uint8_t *loopState) {
-    if (loopPoint >= kLoopPointNum || vc4 >= VQ6192_SDH_VC4_NUM || au3 >= VQ6192_SDH_AU3_NUM ||
-        loopState == nullptr) {
+    if (!vq::validChip(chip) || loopPoint >= kLoopPointNum || vc4 >= VQ6192_SDH_VC4_NUM ||
+        au3 >= VQ6192_SDH_AU3_NUM || loopState == nullptr) {
         return paraErr(chip);
     }
     const LoopPoint &p = kLoopPoints[loopPoint];
@@ -90,7 +90,7 @@ VQ6192_API uint32_t VQ6192_SDH_GetSDHLoop(uint32_t chip, uint32_t loopPoint, uin
 
 VQ6192_API uint32_t VQ6192_SDH_SetMapLoopCfg(uint32_t chip, uint32_t sdhSonetLbMode, uint32_t mapAisLbIns,
                                              uint32_t mapLbEn) {
-    if (sdhSonetLbMode > 1 || mapAisLbIns > 1 || mapLbEn > 1) {
+    if (!vq::validChip(chip) || sdhSonetLbMode > 1 || mapAisLbIns > 1 || mapLbEn > 1) {
         return paraErr(chip);
     }
     VQ6192_WriteRegField(chip, kMapLoopCfgReg, sdhSonetLbMode, kSdhSonetLbModeBit, 1);
@@ -101,7 +101,7 @@ VQ6192_API uint32_t VQ6192_SDH_SetMapLoopCfg(uint32_t chip, uint32_t sdhSonetLbM
 
 VQ6192_API uint32_t VQ6192_SDH_GetMapLoopCfg(uint32_t chip, uint8_t *sdhSonetLbMode, uint8_t *mapAisLbIns,
                                              uint8_t *mapLbEn) {
-    if (sdhSonetLbMode == nullptr || mapAisLbIns == nullptr || mapLbEn == nullptr) {
+    if (!vq::validChip(chip) || sdhSonetLbMode == nullptr || mapAisLbIns == nullptr || mapLbEn == nullptr) {
         return paraErr(chip);
     }
     const uint32_t reg = VQ6192_ReadReg(chip, kMapLoopCfgReg);
@@ -112,7 +112,7 @@ VQ6192_API uint32_t VQ6192_SDH_GetMapLoopCfg(uint32_t chip, uint8_t *sdhSonetLbM
 }
 
 VQ6192_API uint32_t VQ6192_SDH_SetDS3RxFifoRst(uint32_t chip, uint32_t vc4, uint32_t enable) {
-    if (vc4 >= VQ6192_SDH_VC4_NUM || enable > 1) {
+    if (!vq::validChip(chip) || vc4 >= VQ6192_SDH_VC4_NUM || enable > 1) {
         return paraErr(chip);
     }
     VQ6192_WriteRegField(chip, kRxHoBlock[0] + kRxHoVc4Stride * vc4, enable, kDs3RxFifoRstBit, 1);

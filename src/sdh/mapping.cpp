@@ -120,7 +120,7 @@ extern "C" {
 
 VQ6192_API uint32_t VQ6192_SDH_SetSDHSonetMode(uint32_t chip, uint32_t mode) {
     using namespace vq::sdh;
-    if (mode > VQ6192_SDH_MODE_SONET) {
+    if (!vq::validChip(chip) || mode > VQ6192_SDH_MODE_SONET) {
         return vq::paraErr(chip, VQ6192_MODULE_SDH);
     }
     // Written whole: bits 15..1 kept, bit 0 the mode.
@@ -131,7 +131,7 @@ VQ6192_API uint32_t VQ6192_SDH_SetSDHSonetMode(uint32_t chip, uint32_t mode) {
 
 VQ6192_API uint32_t VQ6192_SDH_GetSDHSonetMode(uint32_t chip, uint8_t *mode) {
     using namespace vq::sdh;
-    if (mode == nullptr) {
+    if (!vq::validChip(chip) || mode == nullptr) {
         return vq::paraErr(chip, VQ6192_MODULE_SDH);
     }
     *mode = static_cast<uint8_t>(VQ6192_ReadRegField(chip, kLineModeReg, 0, 1));
@@ -140,7 +140,8 @@ VQ6192_API uint32_t VQ6192_SDH_GetSDHSonetMode(uint32_t chip, uint8_t *mode) {
 
 VQ6192_API uint32_t VQ6192_SDH_SetSDHMap(uint32_t chip, uint32_t vc4, uint32_t au3, uint32_t mapType) {
     using namespace vq::sdh;
-    if (vc4 >= VQ6192_SDH_VC4_NUM || au3 >= VQ6192_SDH_AU3_NUM || mapType >= VQ6192_SDH_MAP_TYPE_NUM ||
+    if (!vq::validChip(chip) || vc4 >= VQ6192_SDH_VC4_NUM || au3 >= VQ6192_SDH_AU3_NUM ||
+        mapType >= VQ6192_SDH_MAP_TYPE_NUM ||
         (vc4 != 0 && (mapType == CKD_FE_SDHSONET_MAP_HTB_E1 || mapType == CKD_FE_SDHSONET_MAP_HTB_T1))) {
         return vq::paraErr(chip, VQ6192_MODULE_SDH);
     }
@@ -181,7 +182,8 @@ VQ6192_API uint32_t VQ6192_SDH_SetSDHMap(uint32_t chip, uint32_t vc4, uint32_t a
 
 VQ6192_API uint32_t VQ6192_SDH_GetSDHMap(uint32_t chip, uint32_t vc4, uint32_t au3, uint8_t *mapType) {
     using namespace vq::sdh;
-    if (vc4 >= VQ6192_SDH_VC4_NUM || au3 >= VQ6192_SDH_AU3_NUM || mapType == nullptr) {
+    if (!vq::validChip(chip) || vc4 >= VQ6192_SDH_VC4_NUM || au3 >= VQ6192_SDH_AU3_NUM ||
+        mapType == nullptr) {
         return vq::paraErr(chip, VQ6192_MODULE_SDH);
     }
     *mapType = NULL_MAP_PATH;
