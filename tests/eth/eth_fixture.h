@@ -17,6 +17,8 @@ namespace ethtest {
 using vq6192::sim::BusAccess;
 using vq6192::sim::BusOp;
 using vq6192::sim::TableEngine;
+using U32s = std::vector<uint32_t>;
+using Reg = std::pair<uint32_t, uint32_t>;
 
 // Status codes of chip 3.
 constexpr uint32_t kEthPara = 0x03050001;
@@ -69,6 +71,32 @@ class EthFixture : public vqtest::ChipTest {
         model.tables().setEntry(kBlock, sel, index, e);
     }
 
+    void poke(std::initializer_list<Reg> regs) {
+        for (const auto &[addr, value] : regs) {
+            model.poke(addr, static_cast<uint16_t>(value));
+        }
+    }
+    U32s peek(std::initializer_list<uint32_t> addrs) {
+        U32s v;
+        for (uint32_t a : addrs) {
+            v.push_back(model.peek(a));
+        }
+        return v;
+    }
+    // MAC registers of one MAC, set or read in a list.
+    void setMac(uint32_t m, std::initializer_list<Reg> regs) {
+        for (const auto &[n, value] : regs) {
+            mac().setReg(m, n, value);
+        }
+    }
+    U32s macRegs(uint32_t m, std::initializer_list<uint32_t> regs) {
+        U32s v;
+        for (uint32_t n : regs) {
+            v.push_back(mac().reg(m, n));
+        }
+        return v;
+    }
+
     std::vector<BusAccess> traced(const std::function<void()> &op) {
         model.clearTrace();
         model.setTrace(true);
@@ -89,5 +117,9 @@ class EthFixture : public vqtest::ChipTest {
         EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{line});
     }
 };
+
+// A call refused with the Ethernet or MAC parameter error, named by its own text.
+#define ETH_REFUSED(call) expectRefused(#call, kEthPara, [&] { return call; })
+#define MAC_REFUSED(call) expectRefused(#call, kMacPara, [&] { return call; })
 
 }  // namespace ethtest

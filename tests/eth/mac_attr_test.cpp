@@ -8,23 +8,22 @@ using namespace ethtest;
 using MacAttr = EthFixture;
 
 struct AttrCase {
-    const char *name;
     void (*set)(VQ6192_ETH_MAC_ATTR_S &, uint32_t);
     uint32_t (*get)(const VQ6192_ETH_MAC_ATTR_S &);
     uint32_t reg, bit, width;
+    const char *name;
 };
 
-#define ATTR_CASE(f, reg, bit, width)                                                                             \
-    AttrCase {                                                                                                    \
-#f, [](VQ6192_ETH_MAC_ATTR_S & a,                                                                         \
-               uint32_t                                                                                           \
-                   v) { a.f = static_cast<decltype(a.f)>(v); },                                                   \
-                                                             [](const VQ6192_ETH_MAC_ATTR_S &                     \
-                                                                    a) { return static_cast<uint32_t>(a.f); },    \
-                                                                                                            reg,  \
-                                                                                                            bit,  \
-                                                                                                            width \
-    }
+template <auto M>
+void setField(VQ6192_ETH_MAC_ATTR_S &a, uint32_t v) {
+    a.*M = static_cast<std::remove_reference_t<decltype(a.*M)>>(v);
+}
+template <auto M>
+uint32_t getField(const VQ6192_ETH_MAC_ATTR_S &a) {
+    return static_cast<uint32_t>(a.*M);
+}
+#define ATTR_CASE(f, reg, bit, width) \
+    { setField<&VQ6192_ETH_MAC_ATTR_S::f>, getField<&VQ6192_ETH_MAC_ATTR_S::f>, reg, bit, width, #f }
 
 // MAC register, lowest bit and width of each attribute, as the MAC register map lists them.
 const AttrCase kAttrs[] = {
