@@ -20,19 +20,8 @@ using vq6192::sim::TableEngine;
 
 // The CES indirect-access block and its table select codes.
 constexpr uint32_t kCesBlock = 0xa000;
-enum Select : uint32_t {
-    kTxCw = 0,
-    kRxCw = 1,
-    kTxTsMask = 2,
-    kRxTsMask = 3,
-    kIdle = 4,
-    kTxCnt = 5,
-    kRxCnt = 9,
-    kJbFullCnt = 15,
-    kJbEmpCnt = 14,
-    kJbFullDropCnt = 13,
-    kFrmMap = 16,
-};
+constexpr uint32_t kTxCw = 0, kRxCw = 1, kTxTsMask = 2, kRxTsMask = 3, kIdle = 4, kTxCnt = 5, kRxCnt = 9,
+                   kJbFullCnt = 15, kJbEmpCnt = 14, kJbFullDropCnt = 13, kFrmMap = 16;
 
 constexpr uint32_t kCesPara = 0x03030001;
 constexpr uint32_t kCesStep = 0x03030004;

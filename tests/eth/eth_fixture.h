@@ -29,18 +29,8 @@ constexpr uint32_t kMacPara = 0x03060001;
 
 // The Ethernet lookup block and its select codes.
 constexpr uint32_t kBlock = 0x4000;
-enum Select : uint32_t {
-    kPsn = 0,
-    kUpType = 1,
-    kNo2Pid = 2,
-    kVlan = 3,
-    kDownPro = 4,
-    kPid2No = 5,
-    kMpls2Key = 6,
-    kTxHead = 7,
-    kRxHead = 8,
-    kCpuProto = 11,
-};
+constexpr uint32_t kPsn = 0, kUpType = 1, kNo2Pid = 2, kVlan = 3, kDownPro = 4, kPid2No = 5, kMpls2Key = 6,
+                   kTxHead = 7, kRxHead = 8, kCpuProto = 11;
 
 class EthFixture : public vqtest::ChipTest {
   protected:
