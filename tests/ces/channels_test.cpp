@@ -32,12 +32,10 @@ TEST_F(Channels, CreateBindsTimeslotsAndCompression) {
         uint8_t mode;
         uint32_t tsMap;
         uint32_t bound, mask;
-    } const cases[] = {
-        {"timeslots 1..3", 0, 0, 0x0000000E, 0x0000000E, 0xFFFFFFF1},
-        {"timeslots 1..31", 0, 0, 0xFFFFFFFE, 0xFFFFFFFF, 0x00000001},
-        {"unstructured E1", 0, 1, 0x00000F00, 0xFFFFFFFF, 0},
-        {"unstructured T1", 1, 1, 0x00000F00, 0x00FFFFFF, 0},
-    };
+    } const cases[] = {{"timeslots 1..3", 0, 0, 0x0000000E, 0x0000000E, 0xFFFFFFF1},
+                       {"timeslots 1..31", 0, 0, 0xFFFFFFFE, 0xFFFFFFFF, 0x00000001},
+                       {"unstructured E1", 0, 1, 0x00000F00, 0xFFFFFFFF, 0},
+                       {"unstructured T1", 1, 1, 0x00000F00, 0x00FFFFFF, 0}};
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
         ASSERT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, c.tdm), 0u);
@@ -93,11 +91,9 @@ TEST_F(Channels, ResetWaitsForTheDrain) {
         uint64_t us;
         uint64_t statusReads;
         bool pulse;
-    } const cases[] = {
-        {"drained at once", 0, 4 * 500 + 500 + 134 * 500, 4, true},
-        {"drained after 200 reads", 200, 204 * 500 + 500, 204, true},
-        {"never drained", vq6192::sim::CesBlock::kForever, 4096 * 500, 4096, false},
-    };
+    } const cases[] = {{"drained at once", 0, 4 * 500 + 500 + 134 * 500, 4, true},
+                       {"drained after 200 reads", 200, 204 * 500 + 500, 204, true},
+                       {"never drained", vq6192::sim::CesBlock::kForever, 4096 * 500, 4096, false}};
     const uint32_t ch = 300;
     const uint32_t ctrl = 0x15000 + 2 * ch;
     VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_CES, 15);  // the reset's information line is level 1

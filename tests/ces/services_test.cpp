@@ -78,8 +78,7 @@ TEST_F(Services, RefusalsTouchNothing) {
         {"PT 128", [](VQ6192_CES_PW_S &p) { p.stRtpCfg.dwPayloadType = 128; }},
         {"VLAN 4096", [](VQ6192_CES_PW_S &p) { p.ulVlanId = 4096; }},
         {"PW label above 20 bits", [](VQ6192_CES_PW_S &p) { p.ulPwLabel = 0x100000; }},
-        {"in-label above 20 bits", [](VQ6192_CES_PW_S &p) { p.ulInLabel = 0x100000; }},
-    };
+        {"in-label above 20 bits", [](VQ6192_CES_PW_S &p) { p.ulInLabel = 0x100000; }}};
     for (const auto &[what, change] : bad) {
         VQ6192_CES_PW_S pw = service(20);
         change(pw);

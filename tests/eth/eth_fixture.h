@@ -2,6 +2,7 @@
 // tables by their select codes, and refusals that must touch nothing.
 #pragma once
 
+#include <array>
 #include <cstring>
 #include <functional>
 #include <string>
@@ -19,6 +20,9 @@ using vq6192::sim::BusOp;
 using vq6192::sim::TableEngine;
 using U32s = std::vector<uint32_t>;
 using Reg = std::pair<uint32_t, uint32_t>;
+// Rows of a table-driven test, N numbers each, bound by name in the loop.
+template <size_t N>
+using Rows = std::initializer_list<std::array<uint32_t, N>>;
 
 // Status codes of chip 3.
 constexpr uint32_t kEthPara = 0x03050001;

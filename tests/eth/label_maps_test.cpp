@@ -21,11 +21,11 @@ TEST_F(Maps, InLabelWindowOfTheMplsAndUdpBases) {
     struct Case {
         uint32_t ch, type, inLabel, sel, en, rc, entry, key;
     };
-    const Case cases[] = {
-        {5, 3, 5095, 0, 1, 0, 4095, 0x405},   {2047, 2, 1000, 0, 1, 0, 0, 0xFFF},
-        {351, 3, 2010, 1, 1, 0, 4106, 0x55F}, {300, 2, 6095, 1, 1, 0, 8191, 0x92C},
-        {300, 2, 6095, 1, 0, 0, 8191, 0},
-    };
+    const Case cases[] = {{5, 3, 5095, 0, 1, 0, 4095, 0x405},
+                          {2047, 2, 1000, 0, 1, 0, 0, 0xFFF},
+                          {351, 3, 2010, 1, 1, 0, 4106, 0x55F},
+                          {300, 2, 6095, 1, 1, 0, 8191, 0x92C},
+                          {300, 2, 6095, 1, 0, 0, 8191, 0}};
     for (const Case &c : cases) {
         setWord(kMpls2Key, c.entry, 0xFFFFFFFF);
         EXPECT_EQ(VQ6192_ETH_SetAtmCesEgMpls2Chnl(kChip, c.ch, c.type, c.inLabel, c.sel, c.en), c.rc);
@@ -63,10 +63,7 @@ TEST_F(Maps, ReverseSearchFindsTheFirstEntryOfAChannel) {
         uint64_t reads;
     };
     const Case cases[] = {
-        {17, 2, 0x20000 + 300, 0, 1, 301},
-        {17, 3, 5000 + 6000 - 4096, 1, 1, 6001},
-        {18, 2, 0, 2, 0, 8192},
-    };
+        {17, 2, 0x20000 + 300, 0, 1, 301}, {17, 3, 5000 + 6000 - 4096, 1, 1, 6001}, {18, 2, 0, 2, 0, 8192}};
     VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_ETH, VQ6192_PRINT_ALL);
     for (const Case &c : cases) {
         capture.clear();
@@ -106,15 +103,11 @@ TEST_F(Maps, VlanToChannel) {
 }
 
 TEST_F(Maps, ChannelToCpuPid) {
-    struct Case {
-        uint32_t ch, kind, entry;
-    };
-    const Case cases[] = {{3, 0, 3}, {511, 1, 1023}, {255, 2, 1279}, {7, 3, 1287}};
-    for (const Case &c : cases) {
-        EXPECT_EQ(VQ6192_ETH_SetIngPPPMP2PID(kChip, c.ch, c.kind, 0xABC, 1), 0u);
-        EXPECT_EQ(bits(kNo2Pid, c.entry, 0, 13), 0x1ABCu);
+    for (const auto &[ch, kind, entry] : Rows<3>{{3, 0, 3}, {511, 1, 1023}, {255, 2, 1279}, {7, 3, 1287}}) {
+        EXPECT_EQ(VQ6192_ETH_SetIngPPPMP2PID(kChip, ch, kind, 0xABC, 1), 0u);
+        EXPECT_EQ(bits(kNo2Pid, entry, 0, 13), 0x1ABCu);
         uint32_t pid = 0, valid = 0;
-        EXPECT_EQ(VQ6192_ETH_GetIngPPPMP2PID(kChip, c.ch, c.kind, &pid, &valid), 0u);
+        EXPECT_EQ(VQ6192_ETH_GetIngPPPMP2PID(kChip, ch, kind, &pid, &valid), 0u);
         EXPECT_EQ((U32s{pid, valid}), (U32s{0xABC, 1}));
     }
     EXPECT_EQ(VQ6192_ETH_SetIngPPPMP2PID(kChip, 3, 0, 0x123, 0), 0u);
@@ -128,12 +121,10 @@ TEST_F(Maps, CpuPidToChannel) {
     struct Case {
         uint32_t pid, ch, kind, en, stored, gotCh, gotKind, gotEn;
     };
-    const Case cases[] = {
-        {0, 511, 0, 1, 0x3FF, 511, 0, 1},
-        {1, 255, 1, 1, 0x1FF, 255, 1, 1},
-        {2, 300, 0, 0, 0x02C, 512, 2, 0},
-        {2047, 9, 1, 0, 0x009, 512, 2, 0},
-    };
+    const Case cases[] = {{0, 511, 0, 1, 0x3FF, 511, 0, 1},
+                          {1, 255, 1, 1, 0x1FF, 255, 1, 1},
+                          {2, 300, 0, 0, 0x02C, 512, 2, 0},
+                          {2047, 9, 1, 0, 0x009, 512, 2, 0}};
     for (const Case &c : cases) {
         setWord(kPid2No, c.pid, 0xFFFFFFFF);
         EXPECT_EQ(VQ6192_ETH_SetEgPID2PPPMP(kChip, c.pid, c.ch, c.kind, c.en), 0u);
@@ -151,22 +142,15 @@ TEST_F(Maps, CpuPidToChannel) {
 
 TEST_F(Maps, ProtocolPairsInEachDirection) {
     poke({{0x8146, 0xAAAA}, {0x8148, 0x5555}, {0x814A, 0x0F0F}, {0x814C, 0xF0F0}});
-    struct Case {
-        uint32_t idx, dir;
-        uint16_t up0, up1, down0, down1;
-        bool upReg, downReg;
-    };
-    const Case cases[] = {
-        {0, 0, 0xAAAB, 0x5555, 0x0F0F, 0xF0F0, true, false},
-        {17, 1, 0xAAAB, 0x5555, 0x0F0F, 0xF0F2, false, true},
-        {2, 2, 0xAAAF, 0x5555, 0x0F0F, 0xF0F2, true, true},
-    };
-    for (const Case &c : cases) {
-        EXPECT_EQ(VQ6192_ETH_SetSrvPPPPro2EthType(kChip, c.idx, c.dir, 0x0021, 0x0800, 1), 0u);
-        EXPECT_EQ(peek({0x8146, 0x8148, 0x814A, 0x814C, 0x8180 + 2 * c.idx, 0x81C0 + 2 * c.idx}),
-                  (U32s{c.up0, c.up1, c.down0, c.down1, c.upReg ? 0x0021u : 0, c.downReg ? 0x0800u : 0}));
-        EXPECT_EQ((U32s{word(kUpType, c.idx), word(kDownPro, c.idx)}),
-                  (U32s{c.upReg ? 0x0800u : 0, c.downReg ? 0x0021u : 0}));
+    for (const auto &[idx, dir, up0, up1, down0, down1, upReg, downReg] :
+         Rows<8>{{0, 0, 0xAAAB, 0x5555, 0x0F0F, 0xF0F0, true, false},
+                 {17, 1, 0xAAAB, 0x5555, 0x0F0F, 0xF0F2, false, true},
+                 {2, 2, 0xAAAF, 0x5555, 0x0F0F, 0xF0F2, true, true}}) {
+        EXPECT_EQ(VQ6192_ETH_SetSrvPPPPro2EthType(kChip, idx, dir, 0x0021, 0x0800, 1), 0u);
+        EXPECT_EQ(peek({0x8146, 0x8148, 0x814A, 0x814C, 0x8180 + 2 * idx, 0x81C0 + 2 * idx}),
+                  (U32s{up0, up1, down0, down1, upReg ? 0x0021u : 0, downReg ? 0x0800u : 0}));
+        EXPECT_EQ((U32s{word(kUpType, idx), word(kDownPro, idx)}),
+                  (U32s{upReg ? 0x0800u : 0, downReg ? 0x0021u : 0}));
     }
     uint32_t ppp = 0, type = 0, active = 0;
     EXPECT_EQ(VQ6192_ETH_GetSrvPPPPro2EthType(kChip, 17, 1, &ppp, &type, &active), 0u);

@@ -13,16 +13,14 @@ TEST_F(MacPorts, EachSetterChangesItsBitOnly) {
         uint32_t port, value, reg, bit;
         bool inverted;
     };
-    const Case cases[] = {
-        {"tx enable", VQ6192_MAC_SetPortTxEn, 0, 1, 17, 2, false},
-        {"rx enable", VQ6192_MAC_SetPortRxEn, 1, 1, 17, 1, false},
-        {"rx FCS", VQ6192_MAC_SetPortRxFcsEn, 2, 1, 108, 0, true},
-        {"tx FCS", VQ6192_MAC_SetPortTxFcsEn, 2, 1, 24, 6, false},
-        {"tx pad", VQ6192_MAC_SetPortTxPadEn, 0, 1, 24, 7, false},
-        {"undersize", VQ6192_MAC_SetPortRxUnderSizePktEn, 1, 1, 120, 4, false},
-        {"pad strip", VQ6192_MAC_SetPortRxPadStripEn, 2, 1, 120, 3, false},
-        {"pause mode 2", VQ6192_MAC_SetPortPauseMode, 2, 2, 18, 0, false},
-    };
+    const Case cases[] = {{"tx enable", VQ6192_MAC_SetPortTxEn, 0, 1, 17, 2, false},
+                          {"rx enable", VQ6192_MAC_SetPortRxEn, 1, 1, 17, 1, false},
+                          {"rx FCS", VQ6192_MAC_SetPortRxFcsEn, 2, 1, 108, 0, true},
+                          {"tx FCS", VQ6192_MAC_SetPortTxFcsEn, 2, 1, 24, 6, false},
+                          {"tx pad", VQ6192_MAC_SetPortTxPadEn, 0, 1, 24, 7, false},
+                          {"undersize", VQ6192_MAC_SetPortRxUnderSizePktEn, 1, 1, 120, 4, false},
+                          {"pad strip", VQ6192_MAC_SetPortRxPadStripEn, 2, 1, 120, 3, false},
+                          {"pause mode 2", VQ6192_MAC_SetPortPauseMode, 2, 2, 18, 0, false}};
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         const uint32_t m = c.port == 2 ? 2 : 1;
@@ -59,19 +57,14 @@ TEST_F(MacPorts, WorkModeLoopbacksAndLink) {
               "Err. VQ6192_MAC_SetPortWorkMode.VQ6192_Write_Table(3,131,24)     ErrCode[0x30c0003]\r\n");
     model.tables().holdBusy(kBlock, 0);
 
-    struct Loop {
-        uint32_t kind, enable, reg, value;
-    };
-    const Loop loops[] = {{1, 1, 106, 0x1}, {2, 1, 119, 0x4}, {3, 1, 0, 0}};
-    for (const Loop &l : loops) {
+    for (const auto &[kind, enable, reg, value] : Rows<4>{{1, 1, 106, 0x1}, {2, 1, 119, 0x4}, {3, 1, 0, 0}}) {
         mac().setReg(1, 106, 0);
         mac().setReg(1, 119, 0);
-        const auto t =
-            traced([&] { EXPECT_EQ(VQ6192_MAC_SetPortLoopbackEn(kChip, 0, l.kind, l.enable), 0u); });
-        if (l.reg == 0) {
+        const auto t = traced([&] { EXPECT_EQ(VQ6192_MAC_SetPortLoopbackEn(kChip, 0, kind, enable), 0u); });
+        if (reg == 0) {
             EXPECT_TRUE(t.empty());
         } else {
-            EXPECT_EQ(mac().reg(1, l.reg), l.value);
+            EXPECT_EQ(mac().reg(1, reg), value);
         }
     }
     uint32_t link = 9;
@@ -117,8 +110,7 @@ TEST_F(MacPorts, MibRecordWithSumsAndCarry) {
         {4, 69},  {5, 70},  {6, 71},  {7, 72},  {8, 73},  {9, 74},  {10, 75}, {17, 37}, {18, 38},  {19, 39},
         {20, 40}, {21, 41}, {22, 42}, {23, 43}, {24, 48}, {28, 66}, {29, 67}, {30, 68}, {31, 85},  {32, 87},
         {34, 34}, {35, 35}, {36, 36}, {37, 45}, {38, 50}, {39, 46}, {41, 44}, {44, 51}, {45, 123}, {46, 77},
-        {47, 78}, {48, 79}, {49, 80}, {50, 81}, {56, 64}, {57, 65}, {62, 84}, {63, 86},
-    };
+        {47, 78}, {48, 79}, {49, 80}, {50, 81}, {56, 64}, {57, 65}, {62, 84}, {63, 86}};
     for (const auto &[s, r] : single) {
         EXPECT_EQ(slot(s), 0x1000u + r) << "slot " << s;
     }

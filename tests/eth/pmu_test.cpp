@@ -61,8 +61,7 @@ TEST_F(Pmu, FlagsOfTheControlRegister) {
         {"PPP pause", [] { return VQ6192_ETH_SetMpPppPauseEn(kChip, 1, 1); }, 0x0200, 0x0100},
         {"pause DA", [] { return VQ6192_ETH_SetEthPausePara(kChip, 1, 1, 2, 3, 4); }, 0x0000, 0x0400},
         {"protocol mode", [] { return VQ6192_ETH_SetPppProtocolType(kChip, 1, 0xFFF, 0x021); }, 0x0000,
-         0x0008},
-    };
+         0x0008}};
     for (const Case &c : cases) {
         model.poke(0x8100, c.before);
         EXPECT_EQ(c.op(), 0u) << c.name;

@@ -46,12 +46,10 @@ TEST_F(Ports, AttributeSetterStopsAtItsFirstBadFieldKeepingEarlierWrites) {
               (U32s{1, 0, 0x4455, 0x2233, 0x0011, 12}));
     // Bounds: one-bit fields, 16383, 31; the fields before the bad one stay written.
     using Bad = void (*)(VQ6192_ETH_MAC_ATTR_S &, VQ6192_ETH_MAC_ATTR_S &);
-    const Bad cases[] = {
-        [](auto &a, auto &s) { a.byRxEn = 2, s.byRxEn = 1; },
-        [](auto &a, auto &s) { a.wMaxFrmSize = 16384, s.wMaxFrmSize = 1; },
-        [](auto &a, auto &s) { a.byShortRuntsThr = 32, s.byShortRuntsThr = 1; },
-        [](auto &a, auto &s) { a.byNoGmiiPreamble = 32, s.byNoGmiiPreamble = 1; },
-    };
+    const Bad cases[] = {[](auto &a, auto &s) { a.byRxEn = 2, s.byRxEn = 1; },
+                         [](auto &a, auto &s) { a.wMaxFrmSize = 16384, s.wMaxFrmSize = 1; },
+                         [](auto &a, auto &s) { a.byShortRuntsThr = 32, s.byShortRuntsThr = 1; },
+                         [](auto &a, auto &s) { a.byNoGmiiPreamble = 32, s.byNoGmiiPreamble = 1; }};
     for (const Bad bad : cases) {
         mac().setReg(1, 105, 0);
         VQ6192_ETH_MAC_ATTR_S a{}, s{};
@@ -80,38 +78,29 @@ TEST_F(Ports, StationAddressGoesToTheMacAndThePacketEngine) {
 }
 
 TEST_F(Ports, MacAndSerDesLoops) {
-    struct MacCase {
-        uint32_t mode, reg119, reg106;
-    };
-    const MacCase macCases[] = {{1, 0xFFFFFFFF, 0xFFFFFFFE},
-                                {2, 0xFFFFFFFB, 0xFFFFFFFF},
-                                {0, 0xFFFFFFFA, 0xFFFFFFFE},
-                                {3, 0xFFFFFFFF, 0xFFFFFFFF}};
-    for (const MacCase &c : macCases) {
+    for (const auto &[mode, reg119, reg106] : Rows<3>{{1, 0xFFFFFFFF, 0xFFFFFFFE},
+                                                      {2, 0xFFFFFFFB, 0xFFFFFFFF},
+                                                      {0, 0xFFFFFFFA, 0xFFFFFFFE},
+                                                      {3, 0xFFFFFFFF, 0xFFFFFFFF}}) {
         setMac(2, {{119, 0xFFFFFFFF}, {106, 0xFFFFFFFF}});
-        EXPECT_EQ(VQ6192_ETH_SetMACLoop(kChip, 2, c.mode), 0u);
-        EXPECT_EQ(macRegs(2, {119, 106}), (U32s{c.reg119, c.reg106})) << c.mode;
+        EXPECT_EQ(VQ6192_ETH_SetMACLoop(kChip, 2, mode), 0u);
+        EXPECT_EQ(macRegs(2, {119, 106}), (U32s{reg119, reg106})) << mode;
     }
     ETH_REFUSED(VQ6192_ETH_SetMACLoop(kChip, 1, 4));
 
-    struct LoopCase {
-        uint32_t lane, point, en;
-        uint16_t codes, parFlag;
-        uint32_t reg119;
-    };
-    const LoopCase loopCases[] = {
-        {1, 2, 1, 0xFF0C, 1, 0}, {1, 2, 0, 0xFF00, 0, 0}, {2, 0, 1, 0xFF1F, 0, 4},
-        {2, 1, 1, 0xFF2F, 0, 0}, {1, 3, 1, 0xFF0A, 0, 0},
-    };
-    for (const LoopCase &c : loopCases) {
-        model.poke(0x21E, c.lane == 2 ? 0xFFFF : 0xFF0F);
-        mac().setReg(c.lane, 119, 0);
-        const uint32_t flagReg = c.lane == 1 ? 0x218 : 0x21A;
+    for (const auto &[lane, point, en, codes, parFlag, reg119] : Rows<6>{{1, 2, 1, 0xFF0C, 1, 0},
+                                                                         {1, 2, 0, 0xFF00, 0, 0},
+                                                                         {2, 0, 1, 0xFF1F, 0, 4},
+                                                                         {2, 1, 1, 0xFF2F, 0, 0},
+                                                                         {1, 3, 1, 0xFF0A, 0, 0}}) {
+        model.poke(0x21E, lane == 2 ? 0xFFFF : 0xFF0F);
+        mac().setReg(lane, 119, 0);
+        const uint32_t flagReg = lane == 1 ? 0x218 : 0x21A;
         model.poke(flagReg, 0xFFFE);
-        EXPECT_EQ(VQ6192_ETH_SetSerdesLoop(kChip, c.lane, c.point, c.en), 0u);
-        const uint32_t want = c.lane == 1 ? 0xFF00u | (c.codes & 0xF) : 0xFF0Fu | (c.codes & 0xF0);
-        EXPECT_EQ(peek({0x21E, flagReg}), (U32s{want, 0xFFFEu | c.parFlag})) << c.lane << "/" << c.point;
-        EXPECT_EQ(mac().reg(c.lane, 119), c.reg119);
+        EXPECT_EQ(VQ6192_ETH_SetSerdesLoop(kChip, lane, point, en), 0u);
+        const uint32_t want = lane == 1 ? 0xFF00u | (codes & 0xF) : 0xFF0Fu | (codes & 0xF0);
+        EXPECT_EQ(peek({0x21E, flagReg}), (U32s{want, 0xFFFEu | parFlag})) << lane << "/" << point;
+        EXPECT_EQ(mac().reg(lane, 119), reg119);
     }
     ETH_REFUSED(VQ6192_ETH_SetSerdesLoop(kChip, 0, 0, 1));
     ETH_REFUSED(VQ6192_ETH_SetSerdesLoop(kChip, 3, 0, 1));
@@ -179,17 +168,13 @@ TEST_F(Ports, PortCountersFromSingleRegistersAndPairs) {
 }
 
 TEST_F(Ports, WeightsAndPortControls) {
-    struct Case {
-        uint32_t cls, addr, before, after;
-    };
-    const Case cases[] = {{0, 0x80BE, 0xFF00, 0xFF5A},
-                          {1, 0x80BE, 0xFF00, 0xFF5A},
-                          {2, 0x80BC, 0x00FF, 0x5AFF},
-                          {3, 0x80BC, 0xFF00, 0xFF5A}};
-    for (const Case &c : cases) {
-        model.poke(c.addr, static_cast<uint16_t>(c.before));
-        EXPECT_EQ(VQ6192_ETH_SetETH1WRRWeight(kChip, c.cls, 0x5A), 0u);
-        EXPECT_EQ(model.peek(c.addr), c.after) << c.cls;
+    for (const auto &[cls, addr, before, after] : Rows<4>{{0, 0x80BE, 0xFF00, 0xFF5A},
+                                                          {1, 0x80BE, 0xFF00, 0xFF5A},
+                                                          {2, 0x80BC, 0x00FF, 0x5AFF},
+                                                          {3, 0x80BC, 0xFF00, 0xFF5A}}) {
+        model.poke(addr, static_cast<uint16_t>(before));
+        EXPECT_EQ(VQ6192_ETH_SetETH1WRRWeight(kChip, cls, 0x5A), 0u);
+        EXPECT_EQ(model.peek(addr), after) << cls;
     }
     ETH_REFUSED(VQ6192_ETH_SetETH1WRRWeight(kChip, 4, 1));
     model.poke(0x80C2, 0xE000);

@@ -11,43 +11,42 @@ struct Pos {
     uint32_t start, width;
 };
 // Field positions of a header entry, in the order of the information record.
-const Pos kPos[18] = {
-    {"dwreserved3", 3, 1},    {"dwLblEthType", 204, 2}, {"dwLblVlanId", 192, 12},
-    {"dwLblEthDah", 176, 16}, {"dwLblEthDal", 144, 32}, {"dwLblGreProType", 128, 16},
-    {"dwLblIpDa", 96, 32},    {"dwLblIpSa", 64, 32},    {"dwLblIpProtcl", 56, 8},
-    {"dwLblIpTtl", 48, 8},    {"dwLblIpTos", 40, 8},    {"dwreserved2", 7, 1},
-    {"dwLblPwLable", 16, 20}, {"dwLblPwTtl", 8, 8},     {"dwreserved1", 36, 4},
-    {"dwLblPwCos", 4, 3},     {"dwreserved0", 206, 2},  {"dwLblHdType", 0, 3},
-};
+const Pos kPos[18] = {{"dwreserved3", 3, 1},    {"dwLblEthType", 204, 2}, {"dwLblVlanId", 192, 12},
+                      {"dwLblEthDah", 176, 16}, {"dwLblEthDal", 144, 32}, {"dwLblGreProType", 128, 16},
+                      {"dwLblIpDa", 96, 32},    {"dwLblIpSa", 64, 32},    {"dwLblIpProtcl", 56, 8},
+                      {"dwLblIpTtl", 48, 8},    {"dwLblIpTos", 40, 8},    {"dwreserved2", 7, 1},
+                      {"dwLblPwLable", 16, 20}, {"dwLblPwTtl", 8, 8},     {"dwreserved1", 36, 4},
+                      {"dwLblPwCos", 4, 3},     {"dwreserved0", 206, 2},  {"dwLblHdType", 0, 3}};
 
 uint32_t &at(VQ6192_ETH_PSN_INFO_S &info, int k) {
     return reinterpret_cast<uint32_t *>(&info)[k];
 }
 
 TEST_F(Header, EachServiceKindHasItsSliceOfTheTable) {
-    struct Case {
-        uint32_t type, ch, entry;
-    };
-    const Case cases[] = {{2, 0, 0},    {2, 2047, 2047}, {1, 0, 2048}, {1, 511, 2559},
-                          {0, 0, 2560}, {0, 255, 2815},  {3, 5, 2821}, {3, 351, 3167}};
-    for (const Case &c : cases) {
+    for (const auto &[type, ch, entry] : Rows<3>{{2, 0, 0},
+                                                 {2, 2047, 2047},
+                                                 {1, 0, 2048},
+                                                 {1, 511, 2559},
+                                                 {0, 0, 2560},
+                                                 {0, 255, 2815},
+                                                 {3, 5, 2821},
+                                                 {3, 351, 3167}}) {
         uint32_t idx = 0;
-        EXPECT_EQ(VQ6192_ETH_ConvertSrvChnl2EthChnl(kChip, c.ch, c.type, &idx), 0u);
-        EXPECT_EQ(idx, c.entry) << c.type << "/" << c.ch;
+        EXPECT_EQ(VQ6192_ETH_ConvertSrvChnl2EthChnl(kChip, ch, type, &idx), 0u);
+        EXPECT_EQ(idx, entry) << type << "/" << ch;
         VQ6192_ETH_PSN_INFO_S info{};
-        info.dwLblIpSa = 0x0A000000u + c.entry;
-        EXPECT_EQ(VQ6192_ETH_SetPSNEthInfo(kChip, c.ch, c.type, &info), 0u);
-        EXPECT_EQ(bits(kPsn, c.entry, 64, 32), 0x0A000000u + c.entry);
+        info.dwLblIpSa = 0x0A000000u + entry;
+        EXPECT_EQ(VQ6192_ETH_SetPSNEthInfo(kChip, ch, type, &info), 0u);
+        EXPECT_EQ(bits(kPsn, entry, 64, 32), 0x0A000000u + entry);
     }
-    const Case refused[] = {{2, 2048, 0}, {1, 512, 0}, {0, 256, 0}, {3, 352, 0}, {4, 0, 0}};
-    for (const Case &c : refused) {
+    for (const auto &[type, ch] : Rows<2>{{2, 2048}, {1, 512}, {0, 256}, {3, 352}, {4, 0}}) {
         VQ6192_ETH_PSN_INFO_S info{};
         uint32_t idx = 0;
-        SCOPED_TRACE(testing::Message() << c.type << "/" << c.ch);
-        ETH_REFUSED(VQ6192_ETH_ConvertSrvChnl2EthChnl(kChip, c.ch, c.type, &idx));
-        ETH_REFUSED(VQ6192_ETH_SetPSNEthInfo(kChip, c.ch, c.type, &info));
-        ETH_REFUSED(VQ6192_ETH_GetPSNEthInfo(kChip, c.ch, c.type, &info));
-        ETH_REFUSED(VQ6192_ETH_SetPSNEthIPAddr(kChip, c.ch, c.type, 1, 2));
+        SCOPED_TRACE(testing::Message() << type << "/" << ch);
+        ETH_REFUSED(VQ6192_ETH_ConvertSrvChnl2EthChnl(kChip, ch, type, &idx));
+        ETH_REFUSED(VQ6192_ETH_SetPSNEthInfo(kChip, ch, type, &info));
+        ETH_REFUSED(VQ6192_ETH_GetPSNEthInfo(kChip, ch, type, &info));
+        ETH_REFUSED(VQ6192_ETH_SetPSNEthIPAddr(kChip, ch, type, 1, 2));
     }
 }
 
@@ -129,15 +128,13 @@ TEST_F(Header, AtmAndCesEncapsulations) {
         int64_t ethType, ipProto;  // -1: left as it was
         uint32_t inLabel, key;     // Mpls2key entry
     };
-    const Case cases[] = {
-        {"remove", 0, 0, -1, -1, 0x10005, 5},
-        {"MPLS unicast", 1, 4, 0, -1, 0x10005, 5},
-        {"MPLS multicast", 2, 4, 1, -1, 0x10005, 5},
-        {"MPLS over IP", 3, 5, 2, 0x89, 0x10005, 5},
-        {"MPLS over GRE", 4, 6, 2, 0x33, 0x10005, 5},
-        {"UDP", 5, 7, 2, 0x11, 2010, 4106},
-        {"MEF", 6, 4, 3, -1, 0x10005, 5},
-    };
+    const Case cases[] = {{"remove", 0, 0, -1, -1, 0x10005, 5},
+                          {"MPLS unicast", 1, 4, 0, -1, 0x10005, 5},
+                          {"MPLS multicast", 2, 4, 1, -1, 0x10005, 5},
+                          {"MPLS over IP", 3, 5, 2, 0x89, 0x10005, 5},
+                          {"MPLS over GRE", 4, 6, 2, 0x33, 0x10005, 5},
+                          {"UDP", 5, 7, 2, 0x11, 2010, 4106},
+                          {"MEF", 6, 4, 3, -1, 0x10005, 5}};
     for (uint32_t type : {2u, 3u}) {
         for (const Case &c : cases) {
             SCOPED_TRACE(std::string(c.name) + (type == 2 ? " ATM" : " CES"));

@@ -59,7 +59,7 @@ TEST_F(BundleTest, MemberCountingRules) {
              {0x17, 1, 0, 0, 0, 0, 0},  // remove with a count of 0
              {0x17, 1, 0, 2, 0, 1, 0},  // remove one of two
              {0x15, 1, 0, 2, 0, 2, 0},  // remove a non-member
-             {0xF, 1, 1, 2, 0, 2, 1},   // remove naming bundle 5 for a link of bundle 3: bundle 3 loses it
+             {0xF, 1, 1, 2, 0, 2, 1}    // remove naming bundle 5 for a link of bundle 3: bundle 3 loses it
          }) {
         SCOPED_TRACE(testing::Message() << "link " << link << " op " << op);
         model.tables().clear();
@@ -127,7 +127,7 @@ TEST_F(BundleTest, ResetHandshakesCodesAndWaits) {
              {1, 0, 0, 1, 0, 0, 30000 + 5 + 20000, 1, 0},                // reassembly
              {1, 0, F, 1, 0, kTimeout, 30000 + 1300 * 10000, 0, 0},      // never ready
              {1, 0, 0, F, 0, kTimeout, 30000 + 5 + 1300 * 10000, 1, 0},  // never done
-             {2, 0, 0, 1, 0, 0, 30000 + 5 + 20000 + 10000, 1, 1},        // both
+             {2, 0, 0, 1, 0, 0, 30000 + 5 + 20000 + 10000, 1, 1}         // both
          }) {
         SCOPED_TRACE(testing::Message() << "mode " << mode << " wait " << waitUs);
         if (drain != 0) {
@@ -164,10 +164,10 @@ TEST_F(BundleTest, SnFormatChange) {
     // 0x13260 (bundle 4 is bit 4) and Fragcfg (Mpsntype bit 5) before; ingress and egress formats; group
     // reset refused; status; 0x13260, Fragcfg and the request register 0x13080 after; virtual wait.
     for (const auto &[sn, frag, up, down, refuse, status, snAfter, fragAfter, reqAfter, waitUs] : Rows<10>{
-             {0xFFEF, 0xFFDF, 0, 0, 0, 0, 0xFFEF, 0xFFDF, 0, 0},                      // unchanged
-             {0xFFEF, 0xFFDF, 0, 1, 0, 0, 0xFFEF, 0xFFFF, 0, 0},                      // egress only
-             {0xFFEF, 0xFFDF, 1, 0, 0, 0, 0xFFFF, 0xFFDF, 0, 0},                      // ingress to short
-             {0x0010, 0x0000, 0, 0, 1, kTimeout, 0x0010, 0x0000, 0x0010, 3 * 10000},  // ingress refused
+             {0xFFEF, 0xFFDF, 0, 0, 0, 0, 0xFFEF, 0xFFDF, 0, 0},                     // unchanged
+             {0xFFEF, 0xFFDF, 0, 1, 0, 0, 0xFFEF, 0xFFFF, 0, 0},                     // egress only
+             {0xFFEF, 0xFFDF, 1, 0, 0, 0, 0xFFFF, 0xFFDF, 0, 0},                     // ingress to short
+             {0x0010, 0x0000, 0, 0, 1, kTimeout, 0x0010, 0x0000, 0x0010, 3 * 10000}  // ingress refused
          }) {
         SCOPED_TRACE(testing::Message() << "up " << up << " down " << down << " refuse " << refuse);
         poke({{0x13260, sn}, {0x13080, 0}});
@@ -199,18 +199,17 @@ TEST_F(BundleTest, ReassemblyTimeoutArithmetic) {
 
 TEST_F(BundleTest, PerBundleFieldsKeepTheirNeighbours) {
     constexpr uint64_t kOnes = 0xFFFFFFFFFFFFFFFFull;
-    expectEntryOps({
-        {PPP_OP(VQ6192_PPP_SetMpFragSize(c, 3, 4)), kFragcfg, 3, 0xFFFF, 0xFFE4},
-        {PPP_OP(VQ6192_PPP_SetMpPFCEnable(c, 3, 0)), kFragcfg, 3, 0xFFFF, 0xFFBF},
-        {PPP_OP(VQ6192_PPP_SetMpACFCEnable(c, 3, 0)), kFragcfg, 3, 0xFFFF, 0x7FFF},
-        {PPP_OP(VQ6192_PPP_SetMpTimeout(c, 3, 511)), kMprgrpcfg, 3, 0x7FFE00, 0x7FFFFF},
-        {PPP_OP(VQ6192_PPP_SetMpMrru(c, 3, 4095)), kMprpmrrucfg, 3, 0xF000, 0xFFFF},
-        {PPP_OP(VQ6192_PPP_SetMpSnCtrl(c, 3, 1, 0x33, 5)), kSnctrlcfg, 3, 0, 0xB3ull << 40},
-        {PPP_OP(VQ6192_PPP_SetMpQueWeight(c, 3, 4, 0x15)), kMpwgtcfg, 3, kOnes,
-         0xFFFFFFF95FFFFFFF},  // bits 28..34
-        {PPP_OP(VQ6192_PPP_SetMpRxWaterMark(c, 3, 0x3FFBF, 0)), kMprxmmpcfg1, 3, kOnes, 0xFFFFFFFFFEFC0000},
-        {PPP_OP(VQ6192_PPP_SetPppCsptEnable(c, 3, 1, 0)), kCsptcfg2, 3, 0x1FF, 0xFF},
-    });
+    expectEntryOps(
+        {{PPP_OP(VQ6192_PPP_SetMpFragSize(c, 3, 4)), kFragcfg, 3, 0xFFFF, 0xFFE4},
+         {PPP_OP(VQ6192_PPP_SetMpPFCEnable(c, 3, 0)), kFragcfg, 3, 0xFFFF, 0xFFBF},
+         {PPP_OP(VQ6192_PPP_SetMpACFCEnable(c, 3, 0)), kFragcfg, 3, 0xFFFF, 0x7FFF},
+         {PPP_OP(VQ6192_PPP_SetMpTimeout(c, 3, 511)), kMprgrpcfg, 3, 0x7FFE00, 0x7FFFFF},
+         {PPP_OP(VQ6192_PPP_SetMpMrru(c, 3, 4095)), kMprpmrrucfg, 3, 0xF000, 0xFFFF},
+         {PPP_OP(VQ6192_PPP_SetMpSnCtrl(c, 3, 1, 0x33, 5)), kSnctrlcfg, 3, 0, 0xB3ull << 40},
+         {PPP_OP(VQ6192_PPP_SetMpQueWeight(c, 3, 4, 0x15)), kMpwgtcfg, 3, kOnes,
+          0xFFFFFFF95FFFFFFF},  // bits 28..34
+         {PPP_OP(VQ6192_PPP_SetMpRxWaterMark(c, 3, 0x3FFBF, 0)), kMprxmmpcfg1, 3, kOnes, 0xFFFFFFFFFEFC0000},
+         {PPP_OP(VQ6192_PPP_SetPppCsptEnable(c, 3, 1, 0)), kCsptcfg2, 3, 0x1FF, 0xFF}});
 }
 
 TEST_F(BundleTest, EgressMcWatermarksQueueByQueue) {

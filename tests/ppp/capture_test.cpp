@@ -136,8 +136,7 @@ TEST_F(CaptureTest, CobcCapture) {
          std::vector<PppBlock::CobcWord>(600, {0x4142, 2}),
          0,
          {},
-         "VQ6192_PPP_GetCobcCapPkt Can't find SOP!\n"},
-    };
+         "VQ6192_PPP_GetCobcCapPkt Can't find SOP!\n"}};
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         capture.clear();

@@ -135,24 +135,22 @@ TEST_F(PppTest, ResetEngineWaitsAndTimeouts) {
 }
 
 TEST_F(PppTest, LinkTypeEnablesAndLoopbackFields) {
-    expectEntryOps({
-        {PPP_OP(VQ6192_PPP_SetLinkToPpp(c, 20, 0)), kHdlccfg1, 20, 0x7, 0x6},
-        {PPP_OP(VQ6192_PPP_SetLinkToPpp(c, 20, 0)), kLinkcfg, 20, 0x3FFF, 0x3FFE},
-        {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 1, 0)), kHdlccfg1, 20, 0x5, 0x7},
-        {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 1, 1)), kPppencfg, 2, 0xE0, 0xF0},
-        {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 0, 2)), kPppencfg, 2, 0xFF, 0xEF},
-        {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 0, 2)), kHdlccfg1, 20, 0x7, 0x5},
-        {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 1, 3)), kPppencfg, 2, 0x0, 0x0},
-        {PPP_OP(VQ6192_PPP_SetPppLoopEnable(c, 20, 0, 1)), kHdlccfg1, 20, 0x3, 0x7},
-        {PPP_OP(VQ6192_PPP_SetPppLoopEnable(c, 20, 0, 0)), kLinkcfg, 20, 0x3FFF, 0x1FFF},
-        {PPP_OP(VQ6192_PPP_SetPppACFCEnable(c, 20, 0)), kLinkcfg, 20, 0x3FFF, 0x37FF},
-        {PPP_OP(VQ6192_PPP_SetPppPFCEnable(c, 20, 0)), kLinkcfg, 20, 0x3FFF, 0x3BFF},
-        {PPP_OP(VQ6192_PPP_SetPppMRU(c, 20, 2036)), kRppucfg, 20, 0x1FFFFFFF, 0x1FFFA7FF},
-        {PPP_OP(VQ6192_PPP_SetPppCsptEnable(c, 20, 0, 1)), kCsptcfg1, 20, 0x0, 0x1},
-        {PPP_OP(VQ6192_PPP_SetPppCsptEnable(c, 20, 1, 1)), kCsptcfg2, 20, 0xFF, 0x1FF},
-        {PPP_OP(VQ6192_PPP_SetPppTestTxEnable(c, 20, 1)), kLinkcfg, 20, 0x2FFF, 0x3FFF},
-        {PPP_OP(VQ6192_PPP_SetPppDdrCapChan(c, 20, 9, 1)), kMpskyeyecfg, 20, 0x0, 0x29},
-    });
+    expectEntryOps({{PPP_OP(VQ6192_PPP_SetLinkToPpp(c, 20, 0)), kHdlccfg1, 20, 0x7, 0x6},
+                    {PPP_OP(VQ6192_PPP_SetLinkToPpp(c, 20, 0)), kLinkcfg, 20, 0x3FFF, 0x3FFE},
+                    {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 1, 0)), kHdlccfg1, 20, 0x5, 0x7},
+                    {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 1, 1)), kPppencfg, 2, 0xE0, 0xF0},
+                    {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 0, 2)), kPppencfg, 2, 0xFF, 0xEF},
+                    {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 0, 2)), kHdlccfg1, 20, 0x7, 0x5},
+                    {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 1, 3)), kPppencfg, 2, 0x0, 0x0},
+                    {PPP_OP(VQ6192_PPP_SetPppLoopEnable(c, 20, 0, 1)), kHdlccfg1, 20, 0x3, 0x7},
+                    {PPP_OP(VQ6192_PPP_SetPppLoopEnable(c, 20, 0, 0)), kLinkcfg, 20, 0x3FFF, 0x1FFF},
+                    {PPP_OP(VQ6192_PPP_SetPppACFCEnable(c, 20, 0)), kLinkcfg, 20, 0x3FFF, 0x37FF},
+                    {PPP_OP(VQ6192_PPP_SetPppPFCEnable(c, 20, 0)), kLinkcfg, 20, 0x3FFF, 0x3BFF},
+                    {PPP_OP(VQ6192_PPP_SetPppMRU(c, 20, 2036)), kRppucfg, 20, 0x1FFFFFFF, 0x1FFFA7FF},
+                    {PPP_OP(VQ6192_PPP_SetPppCsptEnable(c, 20, 0, 1)), kCsptcfg1, 20, 0x0, 0x1},
+                    {PPP_OP(VQ6192_PPP_SetPppCsptEnable(c, 20, 1, 1)), kCsptcfg2, 20, 0xFF, 0x1FF},
+                    {PPP_OP(VQ6192_PPP_SetPppTestTxEnable(c, 20, 1)), kLinkcfg, 20, 0x2FFF, 0x3FFF},
+                    {PPP_OP(VQ6192_PPP_SetPppDdrCapChan(c, 20, 9, 1)), kMpskyeyecfg, 20, 0x0, 0x29}});
     EXPECT_TRUE(traced("VQ6192_PPP_SetPppMRU : ulPppChanNo:[20] ulMRU:[2036]\n"));
 }
 
@@ -275,28 +273,26 @@ TEST_F(PppTest, EgressQueueEnableOfALinkAndAFailedRead) {
 }
 
 TEST_F(PppTest, ModuleRegistersKeepTheirNeighbours) {
-    expectRegOps({
-        {PPP_OP(VQ6192_PPP_SetMpMode(c, 0)), 0x1004A, 0xFFFF, 0xFFFE},
-        {PPP_OP(VQ6192_PPP_SetMpAbortThld(c, 0x5A)), 0x130D4, 0xFFFF, 0xFF5A},
-        {PPP_OP(VQ6192_PPP_SetPppUnidentifyMode(c, 1)), 0x13004, 0xFFFF, 0xFFFD},
-        {PPP_OP(VQ6192_PPP_SetPppESPTEnable(c, 0)), 0x13008, 0xFFFF, 0xFFFE},
-        {PPP_OP(VQ6192_PPP_SetPppDCNEnable(c, 1)), 0x13006, 0xFFFE, 0xFFFF},
-        {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13066, 0xFFFF, 0xFFFE},
-        {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13068, 0xFFFF, 0xC021},
-        {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x1301E, 0, 0x1234},
-        {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13020, 0, 0x5678},
-        {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13022, 0, 0x9ABC},
-        {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13024, 0, 0xDEF0},
-        {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12022, 0xF000, 0xFFFF},
-        {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12024, 0xFFFF, 0xF001},
-        {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 0, 3)), 0x12000, 0xFFFD, 0xFFFE},
-        {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 1, 2)), 0x12000, 0xFFFE, 0xFFFD},
-        {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11000, 0xFFF0, 0xFFF4},
-        {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11002, 0xFFFF, 0xFFFB},
-        {PPP_OP(VQ6192_PPP_SetMpMaxFragNum(c, 127)), 0x130C6, 0xFF80, 0xFFFF},
-        {PPP_OP(VQ6192_PPP_SetCobcMode(c, 5, 2)), 0x1120A, 0xFFFF, 0xFFFD},
-        {PPP_OP(VQ6192_PPP_SetPppTestConfig(c, 9, 0x21, 0x57)), 0x13402, 0, 9},
-    });
+    expectRegOps({{PPP_OP(VQ6192_PPP_SetMpMode(c, 0)), 0x1004A, 0xFFFF, 0xFFFE},
+                  {PPP_OP(VQ6192_PPP_SetMpAbortThld(c, 0x5A)), 0x130D4, 0xFFFF, 0xFF5A},
+                  {PPP_OP(VQ6192_PPP_SetPppUnidentifyMode(c, 1)), 0x13004, 0xFFFF, 0xFFFD},
+                  {PPP_OP(VQ6192_PPP_SetPppESPTEnable(c, 0)), 0x13008, 0xFFFF, 0xFFFE},
+                  {PPP_OP(VQ6192_PPP_SetPppDCNEnable(c, 1)), 0x13006, 0xFFFE, 0xFFFF},
+                  {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13066, 0xFFFF, 0xFFFE},
+                  {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13068, 0xFFFF, 0xC021},
+                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x1301E, 0, 0x1234},
+                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13020, 0, 0x5678},
+                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13022, 0, 0x9ABC},
+                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13024, 0, 0xDEF0},
+                  {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12022, 0xF000, 0xFFFF},
+                  {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12024, 0xFFFF, 0xF001},
+                  {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 0, 3)), 0x12000, 0xFFFD, 0xFFFE},
+                  {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 1, 2)), 0x12000, 0xFFFE, 0xFFFD},
+                  {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11000, 0xFFF0, 0xFFF4},
+                  {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11002, 0xFFFF, 0xFFFB},
+                  {PPP_OP(VQ6192_PPP_SetMpMaxFragNum(c, 127)), 0x130C6, 0xFF80, 0xFFFF},
+                  {PPP_OP(VQ6192_PPP_SetCobcMode(c, 5, 2)), 0x1120A, 0xFFFF, 0xFFFD},
+                  {PPP_OP(VQ6192_PPP_SetPppTestConfig(c, 9, 0x21, 0x57)), 0x13402, 0, 9}});
 }
 
 TEST_F(PppTest, ModuleGettersReadTheirRegisters) {
