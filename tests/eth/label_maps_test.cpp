@@ -18,23 +18,20 @@ TEST_F(Maps, InLabelWindowOfTheMplsAndUdpBases) {
     EXPECT_EQ(base, 0xABCDEu);
     ASSERT_EQ(VQ6192_ETH_SetEgMplsBase(kChip, 0, 1000), 0u);
 
-    struct Case {
-        uint32_t ch, type, inLabel, sel, en, rc, entry, key;
-    };
-    const Case cases[] = {{5, 3, 5095, 0, 1, 0, 4095, 0x405},
-                          {2047, 2, 1000, 0, 1, 0, 0, 0xFFF},
-                          {351, 3, 2010, 1, 1, 0, 4106, 0x55F},
-                          {300, 2, 6095, 1, 1, 0, 8191, 0x92C},
-                          {300, 2, 6095, 1, 0, 0, 8191, 0}};
-    for (const Case &c : cases) {
-        setWord(kMpls2Key, c.entry, 0xFFFFFFFF);
-        EXPECT_EQ(VQ6192_ETH_SetAtmCesEgMpls2Chnl(kChip, c.ch, c.type, c.inLabel, c.sel, c.en), c.rc);
-        EXPECT_EQ(bits(kMpls2Key, c.entry, 0, 12), c.key) << c.inLabel;
-        uint32_t type = 9, ch = 9, valid = 9;
-        EXPECT_EQ(VQ6192_ETH_GetAtmCesEgChnl2Mpls(kChip, c.sel, c.inLabel, &type, &ch, &valid), 0u);
-        EXPECT_EQ(valid, c.en);
-        if (c.en == 1) {
-            EXPECT_EQ((U32s{type, ch}), (U32s{c.type, c.ch}));
+    // Channel, kind, in-label, MPLS (0) or UDP (1) base, enable; Mpls2key entry and its 12-bit key.
+    for (const auto &[ch, type, inLabel, sel, en, entry, key] : Rows<7>{{5, 3, 5095, 0, 1, 4095, 0x405},
+                                                                        {2047, 2, 1000, 0, 1, 0, 0xFFF},
+                                                                        {351, 3, 2010, 1, 1, 4106, 0x55F},
+                                                                        {300, 2, 6095, 1, 1, 8191, 0x92C},
+                                                                        {300, 2, 6095, 1, 0, 8191, 0}}) {
+        setWord(kMpls2Key, entry, 0xFFFFFFFF);
+        EXPECT_EQ(VQ6192_ETH_SetAtmCesEgMpls2Chnl(kChip, ch, type, inLabel, sel, en), 0u);
+        EXPECT_EQ(bits(kMpls2Key, entry, 0, 12), key) << inLabel;
+        uint32_t gotType = 9, gotCh = 9, valid = 9;
+        EXPECT_EQ(VQ6192_ETH_GetAtmCesEgChnl2Mpls(kChip, sel, inLabel, &gotType, &gotCh, &valid), 0u);
+        EXPECT_EQ(valid, en);
+        if (en == 1) {
+            EXPECT_EQ((U32s{gotType, gotCh}), (U32s{type, ch}));
         }
     }
     for (const auto &[bad, text] : {std::pair{999u, "0x3e7"}, std::pair{5096u, "0x13e8"}}) {
@@ -58,21 +55,18 @@ TEST_F(Maps, ReverseSearchFindsTheFirstEntryOfAChannel) {
     setWord(kMpls2Key, 5000, 0x800 | 17);         // and by UDP port, later
     setWord(kMpls2Key, 6000, 0x400 | 17);         // CES 17 by UDP port only
     setWord(kMpls2Key, 100, 0x400 | 0x200 | 17);  // bit 9 set: not the CES channel's value
-    struct Case {
-        uint32_t ch, type, inLabel, sel, found;
-        uint64_t reads;
-    };
-    const Case cases[] = {
-        {17, 2, 0x20000 + 300, 0, 1, 301}, {17, 3, 5000 + 6000 - 4096, 1, 1, 6001}, {18, 2, 0, 2, 0, 8192}};
     VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_ETH, VQ6192_PRINT_ALL);
-    for (const Case &c : cases) {
+    // Channel and kind; in-label, base and found reported; entries read.
+    for (const auto &[ch, type, inLabel, sel, found, reads] : Rows<6>{{17, 2, 0x20000 + 300, 0, 1, 301},
+                                                                      {17, 3, 5000 + 6000 - 4096, 1, 1, 6001},
+                                                                      {18, 2, 0, 2, 0, 8192}}) {
         capture.clear();
         const uint64_t before = model.tables().readsExecuted(kBlock);
-        uint32_t inLabel = 9, sel = 9, found = 9;
-        EXPECT_EQ(VQ6192_ETH_GetAtmCesEgMpls2Chnl(kChip, c.ch, c.type, &inLabel, &sel, &found), 0u);
-        EXPECT_EQ((U32s{inLabel, sel, found}), (U32s{c.inLabel, c.sel, c.found}));
-        EXPECT_EQ(model.tables().readsExecuted(kBlock) - before, c.reads);
-        if (c.found == 0) {
+        uint32_t l = 9, s = 9, f = 9;
+        EXPECT_EQ(VQ6192_ETH_GetAtmCesEgMpls2Chnl(kChip, ch, type, &l, &s, &f), 0u);
+        EXPECT_EQ((U32s{l, s, f}), (U32s{inLabel, sel, found}));
+        EXPECT_EQ(model.tables().readsExecuted(kBlock) - before, reads);
+        if (found == 0) {
             EXPECT_EQ(
                 capture.traceTexts(),
                 std::vector<std::string>{
@@ -85,17 +79,18 @@ TEST_F(Maps, ReverseSearchFindsTheFirstEntryOfAChannel) {
 }
 
 TEST_F(Maps, VlanToChannel) {
-    struct Case {
-        uint32_t vlan, type, ch, stored;
-    };
-    const Case cases[] = {{10, 1, 77, 0}, {11, 7, 77, 77}, {12, 6, 600, 88}, {4095, 4, 255, 255}};
-    for (const Case &c : cases) {
-        setWord(kVlan, c.vlan, 0xFFFFFFFF);
-        EXPECT_EQ(VQ6192_ETH_SetEgVlanID2Chnl(kChip, c.vlan, c.type, c.ch), 0u);
-        EXPECT_EQ(word(kVlan, c.vlan), 0xFFFFF000u | c.type << 9 | c.stored);
-        uint32_t type = 0, ch = 0;
-        EXPECT_EQ(VQ6192_ETH_GetEgVlanID2Chnl(kChip, c.vlan, &type, &ch), 0u);
-        EXPECT_EQ((U32s{type, ch}), (U32s{c.type, c.stored}));
+    // VLAN, kind, channel; the entry (kind 9..11, channel 0..8, the rest kept) and the channel stored.
+    for (const auto &[vlan, type, ch, word0, stored] : Rows<5>{{10, 1, 77, 0xFFFFF200, 0},
+                                                               {11, 7, 77, 0xFFFFFE4D, 77},
+                                                               {12, 6, 600, 0xFFFFFC58, 88},
+                                                               {13, 6, 300, 0xFFFFFD2C, 300},
+                                                               {4095, 4, 255, 0xFFFFF8FF, 255}}) {
+        setWord(kVlan, vlan, 0xFFFFFFFF);
+        EXPECT_EQ(VQ6192_ETH_SetEgVlanID2Chnl(kChip, vlan, type, ch), 0u);
+        EXPECT_EQ(word(kVlan, vlan), word0);
+        uint32_t t = 0, c = 0;
+        EXPECT_EQ(VQ6192_ETH_GetEgVlanID2Chnl(kChip, vlan, &t, &c), 0u);
+        EXPECT_EQ((U32s{t, c}), (U32s{type, stored}));
     }
     ETH_REFUSED(VQ6192_ETH_SetEgVlanID2Chnl(kChip, 4096, 1, 1));
     ETH_REFUSED(VQ6192_ETH_SetEgVlanID2Chnl(kChip, 1, 8, 1));
@@ -118,20 +113,18 @@ TEST_F(Maps, ChannelToCpuPid) {
 }
 
 TEST_F(Maps, CpuPidToChannel) {
-    struct Case {
-        uint32_t pid, ch, kind, en, stored, gotCh, gotKind, gotEn;
-    };
-    const Case cases[] = {{0, 511, 0, 1, 0x3FF, 511, 0, 1},
-                          {1, 255, 1, 1, 0x1FF, 255, 1, 1},
-                          {2, 300, 0, 0, 0x02C, 512, 2, 0},
-                          {2047, 9, 1, 0, 0x009, 512, 2, 0}};
-    for (const Case &c : cases) {
-        setWord(kPid2No, c.pid, 0xFFFFFFFF);
-        EXPECT_EQ(VQ6192_ETH_SetEgPID2PPPMP(kChip, c.pid, c.ch, c.kind, c.en), 0u);
-        EXPECT_EQ(bits(kPid2No, c.pid, 0, 10), c.stored);
-        uint32_t ch = 0, kind = 0, en = 0;
-        EXPECT_EQ(VQ6192_ETH_GetEgPID2PPPMP(kChip, c.pid, &ch, &kind, &en), 0u);
-        EXPECT_EQ((U32s{ch, kind, en}), (U32s{c.gotCh, c.gotKind, c.gotEn}));
+    // PID, channel, kind, enable; the stored 10 bits; what the getter reports.
+    for (const auto &[pid, ch, kind, en, stored, gotCh, gotKind, gotEn] :
+         Rows<8>{{0, 511, 0, 1, 0x3FF, 511, 0, 1},
+                 {1, 255, 1, 1, 0x1FF, 255, 1, 1},
+                 {2, 300, 0, 0, 0x02C, 512, 2, 0},
+                 {2047, 9, 1, 0, 0x009, 512, 2, 0}}) {
+        setWord(kPid2No, pid, 0xFFFFFFFF);
+        EXPECT_EQ(VQ6192_ETH_SetEgPID2PPPMP(kChip, pid, ch, kind, en), 0u);
+        EXPECT_EQ(bits(kPid2No, pid, 0, 10), stored);
+        uint32_t c = 0, k = 0, e = 0;
+        EXPECT_EQ(VQ6192_ETH_GetEgPID2PPPMP(kChip, pid, &c, &k, &e), 0u);
+        EXPECT_EQ((U32s{c, k, e}), (U32s{gotCh, gotKind, gotEn}));
     }
     uint32_t ch, kind, en;
     EXPECT_EQ(VQ6192_ETH_GetEgPID2PPPMP(kChip, 2048, &ch, &kind, &en), 0u);
