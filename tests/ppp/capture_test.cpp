@@ -22,6 +22,9 @@ std::vector<uint8_t> pattern(size_t n) {
 class CaptureTest : public PppTest {
   protected:
     uint32_t region(uint32_t inner) { return PppBlock::captureAddr(inner, 0); }
+    std::vector<uint8_t> buf = std::vector<uint8_t>(2048, 0xEE);
+    uint16_t len = 0;
+    uint32_t next = 0;
 };
 
 TEST_F(CaptureTest, CaptureAddressFollowsTheInnerNumberOfTheSlot) {
@@ -36,9 +39,6 @@ TEST_F(CaptureTest, IngressRecordsAreCutToTheReportedLength) {
     // A block without the start bit, then the frame: two blocks, the end block reporting 100 bytes.
     ppp().putCaptureBlock(region(5), {});
     ppp().putIngressFrame(region(5) + 64, frame, 100);
-    std::vector<uint8_t> buf(2048, 0xEE);
-    uint16_t len = 0;
-    uint32_t next = 0;
     ASSERT_EQ(VQ6192_PPP_GetPppDdrCapPkt(kChip, 5, 0, 0, buf.data(), &len, &next), 0u);
     EXPECT_EQ(len, 100u);
     EXPECT_TRUE(std::equal(frame.begin(), frame.begin() + 100, buf.begin()));
@@ -52,9 +52,6 @@ TEST_F(CaptureTest, IngressRecordsAreCutToTheReportedLength) {
 }
 
 TEST_F(CaptureTest, IngressRecordsWithoutEndOrStart) {
-    std::vector<uint8_t> buf(2048);
-    uint16_t len = 0;
-    uint32_t next = 0;
     ppp().putIngressFrame(region(7), pattern(2100), UINT32_MAX, false);
     ASSERT_EQ(VQ6192_PPP_GetPppDdrCapPktUp(kChip, 7, 0, buf.data(), &len, &next), 0u);
     EXPECT_EQ(len, 2000u);
@@ -69,9 +66,6 @@ TEST_F(CaptureTest, IngressRecordsWithoutEndOrStart) {
 TEST_F(CaptureTest, EgressRecords) {
     const auto frame = pattern(150);
     ppp().putEgressFrame(region(9) + 128, frame);
-    std::vector<uint8_t> buf(2048);
-    uint16_t len = 0;
-    uint32_t next = 0;
     ASSERT_EQ(VQ6192_PPP_GetPppDdrCapPkt(kChip, 9, 0, 1, buf.data(), &len, &next), 0u);
     EXPECT_EQ(len, 150u);
     EXPECT_TRUE(std::equal(frame.begin(), frame.end(), buf.begin()));
@@ -82,9 +76,7 @@ TEST_F(CaptureTest, EgressRecords) {
 }
 
 TEST_F(CaptureTest, WorkBufferRefused) {
-    std::vector<uint8_t> buf(2048);
-    uint16_t len = 0;
-    uint32_t next = 0, flen = 0;
+    uint32_t flen = 0;
     VQ6192_Platform_FailAllocs(0, 3);
     EXPECT_EQ(VQ6192_PPP_GetPppDdrCapPktUp(kChip, 5, 0, buf.data(), &len, &next), kNoMem);
     EXPECT_EQ(VQ6192_PPP_GetPppDdrCapPktDown(kChip, 5, 0, buf.data(), &len, &next), kNoMem);
@@ -107,8 +99,7 @@ TEST_F(CaptureTest, DdrCaptureRunControl) {
 }
 
 TEST_F(CaptureTest, CobcCapture) {
-    std::vector<uint8_t> buf(1100, 0);
-    uint16_t len = 7;
+    len = 7;
     EXPECT_EQ(VQ6192_PPP_GetCobcCapPkt(kChip, buf.data(), &len), 0u);
     EXPECT_EQ(len, 0u) << "nothing ready";
 
@@ -167,11 +158,10 @@ TEST_F(CaptureTest, CobcStartAndStop) {
 TEST_F(CaptureTest, FifoCapture) {
     const auto frame = pattern(10);
     ppp().loadFifoFrame(frame);
-    std::vector<uint8_t> buf(2048);
-    uint32_t len = 0;
+    uint32_t flen = 0;
     model.poke(kVc4Enable, 0x2);
-    ASSERT_EQ(VQ6192_PPP_CapturePppFifoPkt(kChip, 1, 0, buf.data(), &len), 0u);
-    EXPECT_EQ(len, 10u);
+    ASSERT_EQ(VQ6192_PPP_CapturePppFifoPkt(kChip, 1, 0, buf.data(), &flen), 0u);
+    EXPECT_EQ(flen, 10u);
     EXPECT_TRUE(std::equal(frame.begin(), frame.end(), buf.begin()));
     EXPECT_EQ(peek({0x1300E, 0x1300C}), (U32s{0x200, 0})) << "the inner number; start cleared, type PPP";
 
@@ -181,7 +171,7 @@ TEST_F(CaptureTest, FifoCapture) {
         ppp().setFifoReady(ready);
         ppp().stopFifoAckAfter(ready ? 1 : PppBlock::kForever);
         VQ6192_Platform_ResetVirtualTime();
-        EXPECT_EQ(VQ6192_PPP_CapturePppFifoPkt(kChip, 255, 1, buf.data(), &len), kNoData);
+        EXPECT_EQ(VQ6192_PPP_CapturePppFifoPkt(kChip, 255, 1, buf.data(), &flen), kNoData);
         EXPECT_EQ(virtualUs(), ready ? 10000 + 3 * 1000000 : 3 * 1000000);
         EXPECT_TRUE(traced(ready ? "VQ6192_PPP_GetPppFifoCapData : Get Fifo Cap Read Ack Failed\n"
                                  : "VQ6192_PPP_CapturePppFifoPkt : Get Fifo Cap Ready Failed\n"));
