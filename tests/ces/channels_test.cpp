@@ -80,6 +80,13 @@ TEST_F(Channels, DeleteLeavesTheFreeSettings) {
     uint32_t tss = 9;
     ASSERT_EQ(VQ6192_Framer_GetTSSMode(kChip, 9, &tss), 0u);
     EXPECT_EQ(tss, 0u);
+
+    // Without timeslots: 6 ms between the disable and the rest, the same free settings.
+    poke({{0x15000 + 2 * ch, 0xFFF1}, {0x15C00 + 2 * ch, 0}, {0x16000 + 2 * 1, 0xFFFF}});
+    VQ6192_Platform_ResetVirtualTime();
+    ASSERT_EQ(VQ6192_CES_DelCesChanNoTS(kChip, ch), 0u);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 6000u);
+    EXPECT_EQ(peek({0x15000 + 2 * ch, 0x15C00 + 2 * ch, 0x16002}), (U32s{0xFFF0, 63, 0xFFFD}));
 }
 
 // The reset polls the drain bits every 0.5 ms until four reads in a row show them, pulses the reset bit
