@@ -98,7 +98,8 @@ TEST_F(Maps, VlanToChannel) {
 }
 
 TEST_F(Maps, ChannelToCpuPid) {
-    for (const auto &[ch, kind, entry] : Rows<3>{{3, 0, 3}, {511, 1, 1023}, {255, 2, 1279}, {7, 3, 1287}}) {
+    for (const auto &[ch, kind, entry] :
+         Rows<3>{{3, 0, 3}, {511, 1, 1023}, {255, 2, 1279}, {7, 3, 1287}, {255, 3, 1535}}) {
         EXPECT_EQ(VQ6192_ETH_SetIngPPPMP2PID(kChip, ch, kind, 0xABC, 1), 0u);
         EXPECT_EQ(bits(kNo2Pid, entry, 0, 13), 0x1ABCu);
         uint32_t pid = 0, valid = 0;
