@@ -103,6 +103,13 @@ TEST_F(CaptureTest, CobcCapture) {
     EXPECT_EQ(VQ6192_PPP_GetCobcCapPkt(kChip, buf.data(), &len), 0u);
     EXPECT_EQ(len, 0u) << "nothing ready";
 
+    // A start word, 510 data words and an end word: 512 fetches of two bytes.
+    std::vector<PppBlock::CobcWord> longWords(512, {0x4344, 0});
+    longWords.front() = {0x4142, 2}, longWords.back() = {0x4546, 4};
+    std::vector<uint8_t> longBytes;
+    for (const auto &w : longWords) {
+        longBytes.insert(longBytes.end(), {static_cast<uint8_t>(w.data >> 8), static_cast<uint8_t>(w.data)});
+    }
     struct Case {
         const char *name;
         std::vector<PppBlock::CobcWord> words;
@@ -127,7 +134,8 @@ TEST_F(CaptureTest, CobcCapture) {
          std::vector<PppBlock::CobcWord>(600, {0x4142, 2}),
          0,
          {},
-         "VQ6192_PPP_GetCobcCapPkt Can't find SOP!\n"}};
+         "VQ6192_PPP_GetCobcCapPkt Can't find SOP!\n"},
+        {"1024 bytes, the most one capture reads", longWords, 0, longBytes, nullptr}};
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         capture.clear();
