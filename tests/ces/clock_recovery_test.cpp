@@ -119,4 +119,33 @@ TEST_F(ClockRecovery, LevelOneSelectionAndDifferentialRecovery) {
     EXPECT_EQ(model.peek(0x3E2CA + 16 * 7), 128 + 7);
 }
 
+// Interrupt modes, process selection, compensation thresholds (bits 0..14) and the timestamp count of
+// a domain (0x170E0 + 2d bits 0..5, mode bit 0 of 0x16360 + 2d), each from a register whose other bits
+// are set, and read back.
+TEST_F(ClockRecovery, GlobalRegistersKeepTheirNeighbours) {
+    poke({{0x14032, 0xFFFE},
+          {0x14034, 0xFFFF},
+          {0x14036, 0xFFFE},
+          {0x1403A, 0xFFFE},
+          {0x14048, 0x8000},
+          {0x1404A, 0x8000},
+          {0x170E0 + 2 * 7, 0xFFC0},
+          {0x16360 + 2 * 7, 0xFFFE}});
+    ASSERT_EQ(VQ6192_CES_SetCesCRIntMode(kChip, 1, 0, 1), 0u);
+    ASSERT_EQ(VQ6192_CES_SelectCesCRProcess(kChip, 1), 0u);
+    ASSERT_EQ(VQ6192_CES_SetCesCRMaxCompensationThld(kChip, 0x1234, 0x7FFE), 0u);
+    ASSERT_EQ(VQ6192_CES_SetCesCRTimeStampInitMode(kChip, 7, 45, 1), 0u);
+    EXPECT_EQ(peek({0x14032, 0x14034, 0x14036, 0x1403A, 0x14048, 0x1404A, 0x170E0 + 2 * 7, 0x16360 + 2 * 7}),
+              (U32s{0xFFFF, 0xFFFE, 0xFFFF, 0xFFFF, 0x9234, 0xFFFE, 0xFFED, 0xFFFF}));
+    uint16_t en = 9, active = 9, trig = 9, num = 9, sn = 9;
+    uint32_t sel = 9, count = 9, mode = 9;
+    ASSERT_EQ(VQ6192_CES_GetCesCRIntMode(kChip, &en, &active, &trig), 0u);
+    ASSERT_EQ(VQ6192_CES_GetCesCRProcess(kChip, &sel), 0u);
+    ASSERT_EQ(VQ6192_CES_GetCesCRMaxCompensationThld(kChip, &num, &sn), 0u);
+    ASSERT_EQ(VQ6192_CES_GetCesCRTimeStampInitMode(kChip, 7, &count, &mode), 0u);
+    EXPECT_EQ((U32s{en, active, trig, sel, num, sn, count, mode}), (U32s{1, 0, 1, 1, 0x1234, 0x7FFE, 45, 1}));
+    CES_REFUSED(VQ6192_CES_SetCesCRMaxCompensationThld(kChip, 0, 32767));
+    CES_REFUSED(VQ6192_CES_SetCesCRTimeStampInitMode(kChip, 7, 64, 0));
+}
+
 }  // namespace

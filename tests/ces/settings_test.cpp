@@ -197,7 +197,7 @@ TEST_F(Settings, CountersFromTheirTables) {
 // Initialisation: per-kind packet and jitter-buffer defaults, E1/T1 drop enables, justification
 // threshold, every clock-recovery domain without recovery, and the two miscellaneous registers.
 TEST_F(Settings, InitialisationDefaultsAndItsFirstFailure) {
-    poke({{0x1404E, 0xAB77}, {0x14006, 0xFFFF}, {0x16380, 0xFFFF}, {0x16380 + 30, 0xFFFF}});
+    poke({{0x1404E, 0xAA77}, {0x14006, 0xFFFF}, {0x16380, 0xFFFF}, {0x16380 + 30, 0xFFFF}});
     ASSERT_EQ(VQ6192_CES_InitCesModule(kChip, 1), 0u);
     // Channel; frames, jitter-buffer depth and delay; E1/T1 drop enables.
     for (const auto &[ch, frames, depth, delay, drops] : Rows<5>{{0, 7, 63, 31, 0x1F},
