@@ -245,6 +245,7 @@ TEST_F(Ports, CaptureHandshake) {
 
 TEST_F(Ports, ProtocolPacketsInAndOut) {
     const uint8_t pkt[5] = {0xC0, 0x21, 0x01, 0x02, 0x03};
+    model.poke(0x8154, 0xFFFF);  // the send command is bits 0..4 all written
     EXPECT_EQ(VQ6192_ETH_InsertPppProtocolPkt(kChip, pkt, 5), 0u);
     EXPECT_EQ((U32s{eth().insertWord(0), eth().insertWord(1), eth().insertWord(2)}),
               (U32s{0xC021, 0x0102, 0x0300}));
@@ -271,6 +272,15 @@ TEST_F(Ports, ProtocolPacketsInAndOut) {
     EXPECT_EQ(len, 3u);
     EXPECT_EQ(std::vector<uint8_t>(buf, buf + 4), (std::vector<uint8_t>{0x80, 0x21, 0x09, 0}));
     EXPECT_EQ(eth().waiting(), 0u);
+    // The longest the read RAM holds: 2048 bytes, a length with bit 11 set.
+    std::vector<uint8_t> big(2048), got(4096);
+    for (size_t k = 0; k < big.size(); ++k) {
+        big[k] = static_cast<uint8_t>(k * 7 + 1);
+    }
+    eth().receive(big);
+    EXPECT_EQ(VQ6192_ETH_ReadPppProtocolPkt(kChip, got.data(), &len), 0u);
+    EXPECT_EQ(len, 2048u);
+    EXPECT_TRUE(std::equal(big.begin(), big.end(), got.begin()));
     ETH_REFUSED(VQ6192_ETH_InsertPppProtocolPkt(kChip, pkt, 4096));
 }
 
