@@ -2,6 +2,7 @@
 // far-end registers that must never be written.
 #pragma once
 
+#include <array>
 #include <cstring>
 #include <functional>
 #include <string>
@@ -17,22 +18,16 @@ namespace cestest {
 using vq6192::sim::BusAccess;
 using vq6192::sim::BusOp;
 using vq6192::sim::TableEngine;
+using U32s = std::vector<uint32_t>;
+using U64s = std::vector<uint64_t>;
+// Rows of a table-driven test, N numbers each, bound by name in the loop.
+template <size_t N>
+using Rows = std::initializer_list<std::array<uint64_t, N>>;
 
 // The CES indirect-access block and its table select codes.
 constexpr uint32_t kCesBlock = 0xa000;
-enum Select : uint32_t {
-    kTxCw = 0,
-    kRxCw = 1,
-    kTxTsMask = 2,
-    kRxTsMask = 3,
-    kIdle = 4,
-    kTxCnt = 5,
-    kRxCnt = 9,
-    kJbFullCnt = 15,
-    kJbEmpCnt = 14,
-    kJbFullDropCnt = 13,
-    kFrmMap = 16,
-};
+constexpr uint32_t kTxCw = 0, kRxCw = 1, kTxTsMask = 2, kRxTsMask = 3, kIdle = 4, kTxCnt = 5, kRxCnt = 9,
+                   kJbFullCnt = 15, kJbEmpCnt = 14, kJbFullDropCnt = 13, kFrmMap = 16;
 
 constexpr uint32_t kCesPara = 0x03030001;
 constexpr uint32_t kCesStep = 0x03030004;
@@ -63,6 +58,18 @@ class CesTest : public vqtest::ChipTest {
         model.tables().setEntry(kCesBlock, select, index, e);
     }
 
+    void poke(std::initializer_list<std::pair<uint32_t, uint32_t>> regs) {
+        for (const auto &[addr, value] : regs) {
+            model.poke(addr, static_cast<uint16_t>(value));
+        }
+    }
+    U32s peek(std::initializer_list<uint32_t> addrs) {
+        U32s v;
+        for (uint32_t a : addrs) {
+            v.push_back(model.peek(a));
+        }
+        return v;
+    }
     std::vector<BusAccess> traced(const std::function<void()> &op) {
         model.clearTrace();
         model.setTrace(true);
@@ -81,5 +88,8 @@ class CesTest : public vqtest::ChipTest {
         EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{"ParaErr.\r\n"});
     }
 };
+
+// A call refused with the parameter error, named by its own text.
+#define CES_REFUSED(call) expectRefused(#call, [&] { return call; })
 
 }  // namespace cestest

@@ -12,16 +12,13 @@ using Channels = CesTest;
 void expectRouted(uint32_t e1, uint32_t ch, uint32_t map) {
     for (uint32_t dir = 0; dir < 2; ++dir) {
         for (uint32_t ts = 0; ts < 32; ++ts) {
-            SCOPED_TRACE(testing::Message() << "dir " << dir << " ts " << ts);
             uint16_t chnl = 0;
             uint8_t type = 0, en = 0;
             uint32_t speed = 0;
             ASSERT_EQ(VQ6192_Framer_GetTsCfg(3, dir, e1, ts, &chnl, &type, &speed, &en), 0u);
-            EXPECT_EQ(en, (map >> ts) & 1u);
-            if (en != 0) {
-                EXPECT_EQ(chnl, ch);
-                EXPECT_EQ(type, 3);
-            }
+            const bool on = (map >> ts) & 1u;
+            EXPECT_EQ((U32s{en, on ? chnl : ch, on ? type : 3u}), (U32s{on, ch, 3}))
+                << "dir " << dir << " ts " << ts;
         }
     }
 }
@@ -35,12 +32,10 @@ TEST_F(Channels, CreateBindsTimeslotsAndCompression) {
         uint8_t mode;
         uint32_t tsMap;
         uint32_t bound, mask;
-    } const cases[] = {
-        {"timeslots 1..3", 0, 0, 0x0000000E, 0x0000000E, 0xFFFFFFF1},
-        {"timeslots 1..31", 0, 0, 0xFFFFFFFE, 0xFFFFFFFF, 0x00000001},
-        {"unstructured E1", 0, 1, 0x00000F00, 0xFFFFFFFF, 0},
-        {"unstructured T1", 1, 1, 0x00000F00, 0x00FFFFFF, 0},
-    };
+    } const cases[] = {{"timeslots 1..3", 0, 0, 0x0000000E, 0x0000000E, 0xFFFFFFF1},
+                       {"timeslots 1..31", 0, 0, 0xFFFFFFFE, 0xFFFFFFFF, 0x00000001},
+                       {"unstructured E1", 0, 1, 0x00000F00, 0xFFFFFFFF, 0},
+                       {"unstructured T1", 1, 1, 0x00000F00, 0x00FFFFFF, 0}};
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
         ASSERT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, c.tdm), 0u);
@@ -50,12 +45,10 @@ TEST_F(Channels, CreateBindsTimeslotsAndCompression) {
         const VQ6192_CES_CHAN_S d = {5, ch, c.tsMap, c.mode};
         ASSERT_EQ(VQ6192_CES_CreateCesChan(kChip, &d), 0u);
         expectRouted(5, ch, c.bound);
-        EXPECT_EQ(bits(kTxTsMask, ch, 0, 32), c.mask);
-        EXPECT_EQ(bits(kRxTsMask, ch, 0, 32), c.mask);
-        EXPECT_EQ(model.peek(0x16000 + 2 * 2), 0xFFFF & ~(1u << 8))
-            << "channel 40: bit 8 of the third register";
-        EXPECT_EQ(bits(kTxCw, ch, 2, 4), 0u) << "L, R, M cleared";
-        EXPECT_EQ(bits(kTxCw, ch, 0, 50), ((uint64_t{1} << 50) - 1) & ~uint64_t{0x3C}) << "other fields kept";
+        EXPECT_EQ((U64s{bits(kTxTsMask, ch, 0, 32), bits(kRxTsMask, ch, 0, 32)}), (U64s{c.mask, c.mask}));
+        // Channel 40 is bit 8 of the third switching register; L, R, M (2..5) cleared, other fields kept.
+        EXPECT_EQ((U64s{model.peek(0x16000 + 2 * 2), bits(kTxCw, ch, 0, 50)}),
+                  (U64s{0xFEFF, 0x3FFFFFFFFFFC3}));
         uint32_t tss = 9;
         ASSERT_EQ(VQ6192_Framer_GetTSSMode(kChip, 5, &tss), 0u);
         EXPECT_EQ(tss, c.mode);
@@ -71,28 +64,29 @@ TEST_F(Channels, DeleteLeavesTheFreeSettings) {
     const uint32_t ch = 17;
     const VQ6192_CES_CHAN_S d = {9, ch, 0x000000F0, 0};
     ASSERT_EQ(VQ6192_CES_CreateCesChan(kChip, &d), 0u);
-    model.poke(0x15000 + 2 * ch, 0xFFF1);  // enabled, other bits set
-    model.poke(0x15800 + 2 * ch, 0x07FF);  // clock select 31, 63 frames
+    // Enabled with other bits set; clock select 31 and 63 frames; switching register 1 all set.
+    poke({{0x15000 + 2 * ch, 0xFFF1}, {0x15800 + 2 * ch, 0x07FF}, {0x16000 + 2 * 1, 0xFFFF}});
     setEntry(kTxCw, ch, (uint64_t{1} << 50) - 1);
     setEntry(kRxCw, ch, (uint64_t{1} << 51) - 1);
-    model.poke(0x16000 + 2 * 1, 0xFFFF);
     ASSERT_EQ(VQ6192_CES_DelCesChan(kChip, ch, 9, 0x000000F0), 0u);
-    EXPECT_EQ(model.peek(0x15000 + 2 * ch), 0xFFF0);
-    EXPECT_EQ(model.peek(0x15800 + 2 * ch), 0x07C7) << "7 frames, clock select kept";
-    EXPECT_EQ(model.peek(0x15C00 + 2 * ch), 63);
-    EXPECT_EQ(model.peek(0x15400 + 2 * ch), 31);
-    EXPECT_EQ(bits(kIdle, ch, 0, 8), 0xDFu);
-    EXPECT_EQ(bits(kTxTsMask, ch, 0, 32), 0u);
-    EXPECT_EQ(bits(kRxTsMask, ch, 0, 32), 0u);
-    EXPECT_EQ(bits(kTxCw, ch, 0, 50), 0u) << "ingress RTP written whole";
-    EXPECT_EQ(bits(kRxCw, ch, 0, 51),
-              ((uint64_t{1} << 51) - 1) & ~((uint64_t{1} << 41) - 1) & ~(uint64_t{3} << 50))
-        << "egress RTP fields and SN mode 0, alarm and drop controls kept";
-    EXPECT_EQ(model.peek(0x16002), 0xFFFF & ~(1u << 1));
+    // Disabled; 7 frames with the clock select kept; depth 63, delay 31; switching bit 1 cleared.
+    EXPECT_EQ(peek({0x15000 + 2 * ch, 0x15800 + 2 * ch, 0x15C00 + 2 * ch, 0x15400 + 2 * ch, 0x16002}),
+              (U32s{0xFFF0, 0x07C7, 63, 31, 0xFFFD}));
+    // Ingress RTP written whole; egress RTP fields (0..40) and SN mode 0; alarm and drop controls kept.
+    EXPECT_EQ((U64s{bits(kIdle, ch, 0, 8), bits(kTxTsMask, ch, 0, 32), bits(kRxTsMask, ch, 0, 32),
+                    bits(kTxCw, ch, 0, 50), bits(kRxCw, ch, 0, 51)}),
+              (U64s{0xDF, 0, 0, 0, 0x3FE0000000000}));
     expectRouted(9, ch, 0);
     uint32_t tss = 9;
     ASSERT_EQ(VQ6192_Framer_GetTSSMode(kChip, 9, &tss), 0u);
     EXPECT_EQ(tss, 0u);
+
+    // Without timeslots: 6 ms between the disable and the rest, the same free settings.
+    poke({{0x15000 + 2 * ch, 0xFFF1}, {0x15C00 + 2 * ch, 0}, {0x16000 + 2 * 1, 0xFFFF}});
+    VQ6192_Platform_ResetVirtualTime();
+    ASSERT_EQ(VQ6192_CES_DelCesChanNoTS(kChip, ch), 0u);
+    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 6000u);
+    EXPECT_EQ(peek({0x15000 + 2 * ch, 0x15C00 + 2 * ch, 0x16002}), (U32s{0xFFF0, 63, 0xFFFD}));
 }
 
 // The reset polls the drain bits every 0.5 ms until four reads in a row show them, pulses the reset bit
@@ -104,11 +98,9 @@ TEST_F(Channels, ResetWaitsForTheDrain) {
         uint64_t us;
         uint64_t statusReads;
         bool pulse;
-    } const cases[] = {
-        {"drained at once", 0, 4 * 500 + 500 + 134 * 500, 4, true},
-        {"drained after 200 reads", 200, 204 * 500 + 500, 204, true},
-        {"never drained", vq6192::sim::CesBlock::kForever, 4096 * 500, 4096, false},
-    };
+    } const cases[] = {{"drained at once", 0, 4 * 500 + 500 + 134 * 500, 4, true},
+                       {"drained after 200 reads", 200, 204 * 500 + 500, 204, true},
+                       {"never drained", vq6192::sim::CesBlock::kForever, 4096 * 500, 4096, false}};
     const uint32_t ch = 300;
     const uint32_t ctrl = 0x15000 + 2 * ch;
     VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_CES, 15);  // the reset's information line is level 1
@@ -127,8 +119,7 @@ TEST_F(Channels, ResetWaitsForTheDrain) {
             EXPECT_EQ(a.addr, ctrl);
             values.push_back(a.value);
         }
-        EXPECT_EQ(values, c.pulse ? (std::vector<uint32_t>{0x8008, 0x800A, 0x8008, 0x8009})
-                                  : (std::vector<uint32_t>{0x8008, 0x8009}));
+        EXPECT_EQ(values, c.pulse ? (U32s{0x8008, 0x800A, 0x8008, 0x8009}) : (U32s{0x8008, 0x8009}));
         EXPECT_EQ(
             capture.traceTexts(),
             std::vector<std::string>{
@@ -148,26 +139,22 @@ TEST_F(Channels, ResetWaitsForTheDrain) {
 // compression; the delete undoes both halves.
 TEST_F(Channels, Vc4ChannelWithSectionOverhead) {
     const uint32_t ch = 349, k = 1;
-    model.poke(0x16000, 0xFFFF);
-    model.poke(0x1405C, 0x00F0);
+    poke({{0x16000, 0xFFFF}, {0x1405C, 0x00F0}});
     const VQ6192_CES_CHAN_S d = {1, ch, 0, 1};
     ASSERT_EQ(VQ6192_CES_CreateVC4CesChan(kChip, &d, 1), 0u);
-    EXPECT_EQ(model.peek(0x1405C), 0x00F2);
-    EXPECT_EQ(model.peek(0x16000), 0xFFFD);
+    EXPECT_EQ(peek({0x1405C, 0x16000}), (U32s{0x00F2, 0xFFFD}));
     EXPECT_EQ(model.peek(0x15000 + 2 * k) & 1, 1);
     EXPECT_EQ(bits(kTxTsMask, k, 0, 32), 0u);
 
-    model.poke(0x15000 + 2 * ch, 0x0001);
-    model.poke(0x16000, 0xFFFF);
+    poke({{0x15000 + 2 * ch, 0x0001}, {0x16000, 0xFFFF}});
     VQ6192_Platform_ResetVirtualTime();
     ASSERT_EQ(VQ6192_CES_DelVC4CesChan(kChip, ch, 1, 0), 0u);
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 0u) << "the VC-4 channel is already off at its reset";
-    EXPECT_EQ(model.peek(0x1405C), 0x00F0);
-    EXPECT_EQ(model.peek(0x16000), 0xFFFD);
-    EXPECT_EQ(model.peek(0x15000 + 2 * k) & 3, 0) << "overhead channel disabled, reset released";
+    // Overhead channel disabled and its reset released; 7 frames, depth 63.
+    EXPECT_EQ((U32s{model.peek(0x1405C), model.peek(0x16000), model.peek(0x15000 + 2 * k) & 3u,
+                    model.peek(0x15800 + 2 * ch) & 0x3Fu, model.peek(0x15C00 + 2 * ch)}),
+              (U32s{0x00F0, 0xFFFD, 0, 7, 63}));
     EXPECT_EQ(bits(kIdle, k, 0, 8), 0xDFu);
-    EXPECT_EQ(model.peek(0x15800 + 2 * ch) & 0x3F, 7);
-    EXPECT_EQ(model.peek(0x15C00 + 2 * ch), 63);
 
     const VQ6192_CES_CHAN_S e3 = {4, 340, 0, 1};
     ASSERT_EQ(VQ6192_CES_CreateE3CesChan(kChip, &e3), 0u);
@@ -175,8 +162,7 @@ TEST_F(Channels, Vc4ChannelWithSectionOverhead) {
     uint8_t type = 0, en = 0;
     uint32_t speed = 0;
     ASSERT_EQ(VQ6192_Framer_GetE3TsCfg(kChip, 0, 4, &chnl, &type, &speed, &en), 0u);
-    EXPECT_EQ(en, 1);
-    EXPECT_EQ(type, 3);
+    EXPECT_EQ((U32s{en, type}), (U32s{1, 3}));
     ASSERT_EQ(VQ6192_CES_DelE3CesChan(kChip, 340, 4), 0u);
     ASSERT_EQ(VQ6192_Framer_GetE3TsCfg(kChip, 0, 4, &chnl, &type, &speed, &en), 0u);
     EXPECT_EQ(en, 0);
@@ -211,41 +197,36 @@ TEST_F(Channels, RefusalsTouchNothing) {
     const VQ6192_CES_CHAN_S e3Ch = {1, 335, 0, 1}, e3Mode = {1, 336, 0, 0}, vc4Ch = {1, 347, 0, 1};
     const VQ6192_CES_CHAN_NOTS_S noTs = {352, 1, 0, 0};
     uint32_t u32 = 0;
-    const std::vector<std::pair<std::string, std::function<uint32_t()>>> cases = {
-        {"create channel 352", [&] { return VQ6192_CES_CreateCesChan(kChip, &badCh); }},
-        {"create port 336", [&] { return VQ6192_CES_CreateCesChan(kChip, &badPort); }},
-        {"create mode 2", [&] { return VQ6192_CES_CreateCesChan(kChip, &badMode); }},
-        {"create null", [&] { return VQ6192_CES_CreateCesChan(kChip, nullptr); }},
-        {"create no-ts channel 352", [&] { return VQ6192_CES_CreateCesChanNoTS(kChip, &noTs); }},
-        {"delete e1 336", [&] { return VQ6192_CES_DelCesChan(kChip, 1, 336, 1); }},
-        {"e3 channel 335", [&] { return VQ6192_CES_CreateE3CesChan(kChip, &e3Ch); }},
-        {"e3 mode 0", [&] { return VQ6192_CES_CreateE3CesChan(kChip, &e3Mode); }},
-        {"e3 delete e3 13", [&] { return VQ6192_CES_DelE3CesChan(kChip, 336, 13); }},
-        {"vc4 channel 347", [&] { return VQ6192_CES_CreateVC4CesChan(kChip, &vc4Ch, 0); }},
-        {"vc4 delete vc4 4", [&] { return VQ6192_CES_DelVC4CesChan(kChip, 348, 4, 0); }},
-        {"enable 2", [&] { return VQ6192_CES_SetCesChanEnable(kChip, 1, 2); }},
-        {"reset channel 352", [&] { return VQ6192_CES_ResetCesChan(kChip, 352); }},
-        {"frames 40 on channel 340", [&] { return VQ6192_CES_SetCesFramNum(kChip, 340, 40); }},
-        {"frames 64 on channel 10", [&] { return VQ6192_CES_SetCesFramNum(kChip, 10, 64); }},
-        {"jitter depth 21504", [&] { return VQ6192_CES_SetCesJtrBuf(kChip, 1, 21504, 0); }},
-        {"jitter delay 21504", [&] { return VQ6192_CES_SetCesJtrBuf(kChip, 1, 0, 21504); }},
-        {"compression channel 336", [&] { return VQ6192_CES_SetCesTSCompress(kChip, 336, 0, 0); }},
-        {"compression direction 3", [&] { return VQ6192_CES_SetCesTSCompress(kChip, 1, 0, 3); }},
-        {"idle channel 336", [&] { return VQ6192_CES_SetCesIdleCode(kChip, 336, 0); }},
-        {"sn type 4", [&] { return VQ6192_CES_SetCesSnType(kChip, 1, 0, 4); }},
-        {"unload mode 3", [&] { return VQ6192_CES_SetCesVc4UnLoadMod(kChip, 0, 3); }},
-        {"clock select 256", [&] { return VQ6192_CES_SetCesClkSel(kChip, 1, 256); }},
-        {"fifo threshold 2048", [&] { return VQ6192_CES_SetCesFifoThld(kChip, 2048); }},
-        {"alarm map ces 336", [&] { return VQ6192_CES_SetIngFrmToCesAlmMap(kChip, 1, 336, 1, 1); }},
-        {"get enable null", [&] { return VQ6192_CES_GetCesChanEnable(kChip, 1, nullptr); }},
-        {"fe sn null", [&] { return VQ6192_CES_GetCesFeSnType(kChip, 1, nullptr); }},
-        {"init mode 3", [&] { return VQ6192_CES_InitCesModule(kChip, 3); }},
-        {"init mode 0", [&] { return VQ6192_CES_InitCesModule(kChip, 0); }},
-        {"fifo thld null", [&] { return VQ6192_CES_GetCesFifoThld(kChip, nullptr); }},
-    };
-    for (const auto &[what, op] : cases) {
-        expectRefused(what, op);
-    }
+    CES_REFUSED(VQ6192_CES_CreateCesChan(kChip, &badCh));
+    CES_REFUSED(VQ6192_CES_CreateCesChan(kChip, &badPort));
+    CES_REFUSED(VQ6192_CES_CreateCesChan(kChip, &badMode));
+    CES_REFUSED(VQ6192_CES_CreateCesChan(kChip, nullptr));
+    CES_REFUSED(VQ6192_CES_CreateCesChanNoTS(kChip, &noTs));
+    CES_REFUSED(VQ6192_CES_DelCesChan(kChip, 1, 336, 1));
+    CES_REFUSED(VQ6192_CES_CreateE3CesChan(kChip, &e3Ch));
+    CES_REFUSED(VQ6192_CES_CreateE3CesChan(kChip, &e3Mode));
+    CES_REFUSED(VQ6192_CES_DelE3CesChan(kChip, 336, 13));
+    CES_REFUSED(VQ6192_CES_CreateVC4CesChan(kChip, &vc4Ch, 0));
+    CES_REFUSED(VQ6192_CES_DelVC4CesChan(kChip, 348, 4, 0));
+    CES_REFUSED(VQ6192_CES_SetCesChanEnable(kChip, 1, 2));
+    CES_REFUSED(VQ6192_CES_ResetCesChan(kChip, 352));
+    CES_REFUSED(VQ6192_CES_SetCesFramNum(kChip, 340, 40));
+    CES_REFUSED(VQ6192_CES_SetCesFramNum(kChip, 10, 64));
+    CES_REFUSED(VQ6192_CES_SetCesJtrBuf(kChip, 1, 21504, 0));
+    CES_REFUSED(VQ6192_CES_SetCesJtrBuf(kChip, 1, 0, 21504));
+    CES_REFUSED(VQ6192_CES_SetCesTSCompress(kChip, 336, 0, 0));
+    CES_REFUSED(VQ6192_CES_SetCesTSCompress(kChip, 1, 0, 3));
+    CES_REFUSED(VQ6192_CES_SetCesIdleCode(kChip, 336, 0));
+    CES_REFUSED(VQ6192_CES_SetCesSnType(kChip, 1, 0, 4));
+    CES_REFUSED(VQ6192_CES_SetCesVc4UnLoadMod(kChip, 0, 3));
+    CES_REFUSED(VQ6192_CES_SetCesClkSel(kChip, 1, 256));
+    CES_REFUSED(VQ6192_CES_SetCesFifoThld(kChip, 2048));
+    CES_REFUSED(VQ6192_CES_SetIngFrmToCesAlmMap(kChip, 1, 336, 1, 1));
+    CES_REFUSED(VQ6192_CES_GetCesChanEnable(kChip, 1, nullptr));
+    CES_REFUSED(VQ6192_CES_GetCesFeSnType(kChip, 1, nullptr));
+    CES_REFUSED(VQ6192_CES_InitCesModule(kChip, 3));
+    CES_REFUSED(VQ6192_CES_InitCesModule(kChip, 0));
+    CES_REFUSED(VQ6192_CES_GetCesFifoThld(kChip, nullptr));
     EXPECT_EQ(VQ6192_CES_SetCesChanEnable(VQ6192_CHIP_NUM, 1, 1), 0x08030001u) << "chip bits of chip 264";
     EXPECT_EQ(VQ6192_CES_GetCesFifoThld(kChip, &u32), 0u);
     EXPECT_EQ(VQ6192_CES_InitCesModule(kChip, 2), 0u);

@@ -41,17 +41,16 @@ TEST_F(Settings, RtpConfigurationByDirection) {
                                           uint64_t{0x1FF} << 41 | uint64_t{3} << 50);
     uint16_t lrm[3] = {9, 9, 9};
     ASSERT_EQ(VQ6192_CES_GetCesTxLRMAlm(kChip, ch, lrm), 0u);
-    EXPECT_EQ(std::vector<uint16_t>(lrm, lrm + 3), (std::vector<uint16_t>{0, 0, 0}));
+    EXPECT_EQ((U32s{lrm[0], lrm[1], lrm[2]}), (U32s{0, 0, 0}));
 
     VQ6192_CES_RTP_CFG_S out = {};
     ASSERT_EQ(VQ6192_CES_GetCesRtpConfig(kChip, ch, &out, 2), 0u);
-    EXPECT_EQ(out.dwSSRCTx, 0x12345678u) << "both SSRC outputs get the received SSRC";
-    EXPECT_EQ(out.dwSSRCRx, 0x12345678u);
-    EXPECT_EQ(out.dwPayloadType, 0x55u);
+    EXPECT_EQ((U32s{out.dwSSRCTx, out.dwSSRCRx, out.dwPayloadType}), (U32s{0x12345678, 0x12345678, 0x55}))
+        << "both SSRC outputs get the received SSRC";
     VQ6192_CES_RTP_CFG_S in = {0, 0, 0, 0xAAAA, 0xBBBB, 0};
     ASSERT_EQ(VQ6192_CES_GetCesRtpConfig(kChip, ch, &in, 0), 0u);
-    EXPECT_EQ(in.dwSSRCTx, 0xAAAAu) << "ingress leaves the SSRC outputs alone";
-    EXPECT_EQ(in.dwTxSnGenmode, 3u);
+    EXPECT_EQ((U32s{in.dwSSRCTx, in.dwTxSnGenmode}), (U32s{0xAAAA, 3}))
+        << "ingress leaves the SSRC outputs alone";
 
     const VQ6192_CES_RTP_CFG_S other = {1, 1, 0x55, 0, 0, 3};
     ASSERT_EQ(VQ6192_CES_SetCesRTPConfig(kChip, ch, &other, 1), 0u);
@@ -102,41 +101,38 @@ TEST_F(Settings, ControlWordFields) {
     uint32_t c = 0, ais = 9, rdi = 9;
     setEntry(kFrmMap, 201, (1u << 10) | 12);  // AIS set but the map disabled
     ASSERT_EQ(VQ6192_CES_GetIngFrmToCesAlmMap(kChip, 201, &c, &ais, &rdi), 0u);
-    EXPECT_EQ((std::vector<uint32_t>{c, ais, rdi}), (std::vector<uint32_t>{12, 0, 0}));
+    EXPECT_EQ((U32s{c, ais, rdi}), (U32s{12, 0, 0}));
 }
 
 TEST_F(Settings, RegistersOfTheChannelAndChipWideSettings) {
     model.poke(0x15800 + 2 * 340, 0xF800);
     EXPECT_EQ(VQ6192_CES_SetCesFramNum(kChip, 340, 39), 0u);
-    EXPECT_EQ(model.peek(0x15800 + 2 * 340), 0xF800 | 39);
+    EXPECT_EQ(model.peek(0x15800 + 2 * 340), 0xF827);
     EXPECT_EQ(VQ6192_CES_SetCesFramNum(kChip, 10, 63), 0u);
     EXPECT_EQ(VQ6192_CES_SetCesClkSel(kChip, 340, 0x15), 0u);
-    EXPECT_EQ(model.peek(0x15800 + 2 * 340), 0xF800 | 0x15 << 6 | 39);
+    EXPECT_EQ(model.peek(0x15800 + 2 * 340), 0xFD67);  // clock select 6..13, frames 0..5
 
-    model.poke(0x14064, 0x0002);  // VC-4 1 has A set
-    EXPECT_EQ(VQ6192_CES_SetCesVc4UnLoadMod(kChip, 1, 1), 0u);
-    EXPECT_EQ(model.peek(0x14064), 0x0002) << "B not set while A is";
-    EXPECT_EQ(VQ6192_CES_SetCesVc4UnLoadMod(kChip, 2, 1), 0u);
-    EXPECT_EQ(model.peek(0x14064), 0x0042);
-    EXPECT_EQ(VQ6192_CES_SetCesVc4UnLoadMod(kChip, 1, 0), 0u);
-    EXPECT_EQ(model.peek(0x14064), 0x0040);
+    model.poke(0x14064, 0x0002);  // VC-4 1 has A set: B not set while A is
+    for (const auto &[vc4, mode, after] : Rows<3>{{1, 1, 0x0002}, {2, 1, 0x0042}, {1, 0, 0x0040}}) {
+        EXPECT_EQ(
+            VQ6192_CES_SetCesVc4UnLoadMod(kChip, static_cast<uint32_t>(vc4), static_cast<uint32_t>(mode)),
+            0u);
+        EXPECT_EQ(model.peek(0x14064), after) << vc4 << " " << mode;
+    }
 
     ASSERT_EQ(VQ6192_CES_SetCesInsertCode(kChip, 0x11, 0x22, 0x33, 0x44), 0u);
-    EXPECT_EQ(model.peek(0x1403C), 0x3311);
-    EXPECT_EQ(model.peek(0x14038), 0x4422);
     ASSERT_EQ(VQ6192_CES_SetPlcCode(kChip, 0xAB, 0xCD), 0u);
-    EXPECT_EQ(model.peek(0x14050), 0xABCD);
+    EXPECT_EQ(peek({0x1403C, 0x14038, 0x14050}), (U32s{0x3311, 0x4422, 0xABCD}));
 
     // Ten reverse-R thresholds, 12-bit fields refused from 4096, the second field from 32768.
     VQ6192_CES_REVR_THLD_S t = {4095, 32767, 1, 2, 65535, 3, 4, 65535, 5, 6};
     ASSERT_EQ(VQ6192_CES_SetTxRevRThld(kChip, &t), 0u);
-    EXPECT_EQ(model.peek(0x163AA), 32767);
-    EXPECT_EQ(model.peek(0x163BA), 6);
+    EXPECT_EQ(peek({0x163AA, 0x163BA}), (U32s{32767, 6}));
     for (auto bad : {&VQ6192_CES_REVR_THLD_S::wRevRTime, &VQ6192_CES_REVR_THLD_S::wET1RevRRecNum,
                      &VQ6192_CES_REVR_THLD_S::wVC4DisRSlrNum}) {
         VQ6192_CES_REVR_THLD_S b = t;
         b.*bad = bad == &VQ6192_CES_REVR_THLD_S::wET1RevRRecNum ? 32768 : 4096;
-        expectRefused("reverse-R threshold", [&] { return VQ6192_CES_SetTxRevRThld(kChip, &b); });
+        CES_REFUSED(VQ6192_CES_SetTxRevRThld(kChip, &b));
     }
 }
 
@@ -183,16 +179,16 @@ TEST_F(Settings, CountersFromTheirTables) {
     model.tables().setEntry(kCesBlock, kRxCnt, 12, rx);
     VQ6192_CES_PKT_REC_STAT_S s = {};
     ASSERT_EQ(VQ6192_CES_GetCesPktRecStat(kChip, 12, &s), 0u);
-    EXPECT_EQ((std::vector<uint32_t>{s.wDropCnt, s.wSnErrCnt, s.wPtlenErrCnt, s.wSSRCErrCnt, s.dwCorrectCnt,
-                                     s.wEgLRPktCnt, s.wEgEthErrCnt, s.wSnDropPktCnt}),
-              (std::vector<uint32_t>{1, 2, 3, 4, 0x12345678, 5, 6, 7}));
+    EXPECT_EQ((U32s{s.wDropCnt, s.wSnErrCnt, s.wPtlenErrCnt, s.wSSRCErrCnt, s.dwCorrectCnt, s.wEgLRPktCnt,
+                    s.wEgEthErrCnt, s.wSnDropPktCnt}),
+              (U32s{1, 2, 3, 4, 0x12345678, 5, 6, 7}));
     setEntry(kJbFullCnt, 12, 11);
     setEntry(kJbEmpCnt, 12, 22);
     setEntry(kJbFullDropCnt, 12, 0x10033);
     uint16_t over = 0, under = 0;
     uint32_t drop = 0;
     ASSERT_EQ(VQ6192_CES_GetCesJtrBufDataStat(kChip, 12, &over, &under, &drop), 0u);
-    EXPECT_EQ((std::vector<uint32_t>{over, under, drop}), (std::vector<uint32_t>{11, 22, 0x10033}));
+    EXPECT_EQ((U32s{over, under, drop}), (U32s{11, 22, 0x10033}));
     model.tables().holdBusy(kCesBlock, TableEngine::kForever);
     EXPECT_EQ(VQ6192_CES_GetCesPktSendStat(kChip, 12, &drop), kCesStep);
     model.tables().holdBusy(kCesBlock, 0);
@@ -201,28 +197,24 @@ TEST_F(Settings, CountersFromTheirTables) {
 // Initialisation: per-kind packet and jitter-buffer defaults, E1/T1 drop enables, justification
 // threshold, every clock-recovery domain without recovery, and the two miscellaneous registers.
 TEST_F(Settings, InitialisationDefaultsAndItsFirstFailure) {
-    model.poke(0x1404E, 0xAB77);
-    model.poke(0x14006, 0xFFFF);
-    for (uint32_t d : {0u, 15u}) {
-        model.poke(0x16380 + 2 * d, 0xFFFF);
-    }
+    poke({{0x1404E, 0xAA77}, {0x14006, 0xFFFF}, {0x16380, 0xFFFF}, {0x16380 + 30, 0xFFFF}});
     ASSERT_EQ(VQ6192_CES_InitCesModule(kChip, 1), 0u);
-    struct Kind {
-        uint32_t ch, frames, depth, delay, drops;
-    } const kinds[] = {{0, 7, 63, 31, 0x1F},   {335, 7, 63, 31, 0x1F},   {336, 31, 511, 255, 0},
-                       {347, 31, 511, 255, 0}, {348, 26, 2047, 1023, 0}, {351, 26, 2047, 1023, 0}};
-    for (const Kind &k : kinds) {
-        SCOPED_TRACE(k.ch);
-        EXPECT_EQ(model.peek(0x15800 + 2 * k.ch) & 0x3F, k.frames);
-        EXPECT_EQ(model.peek(0x15C00 + 2 * k.ch), k.depth);
-        EXPECT_EQ(model.peek(0x15400 + 2 * k.ch), k.delay);
-        EXPECT_EQ(bits(kRxCw, k.ch, 45, 5), k.drops);
+    // Channel; frames, jitter-buffer depth and delay; E1/T1 drop enables.
+    for (const auto &[ch, frames, depth, delay, drops] : Rows<5>{{0, 7, 63, 31, 0x1F},
+                                                                 {335, 7, 63, 31, 0x1F},
+                                                                 {336, 31, 511, 255, 0},
+                                                                 {347, 31, 511, 255, 0},
+                                                                 {348, 26, 2047, 1023, 0},
+                                                                 {351, 26, 2047, 1023, 0}}) {
+        const uint32_t c = static_cast<uint32_t>(ch);
+        EXPECT_EQ((U64s{model.peek(0x15800 + 2 * c) & 0x3Fu, model.peek(0x15C00 + 2 * c),
+                        model.peek(0x15400 + 2 * c), bits(kRxCw, c, 45, 5)}),
+                  (U64s{frames, depth, delay, drops}))
+            << ch;
     }
-    EXPECT_EQ(model.peek(0x1405E), 511);
-    EXPECT_EQ(model.peek(0x16380), 0xC003) << "CR_NONE, channel 0, E1/T1, no PLC; bits 14..15 kept";
-    EXPECT_EQ(model.peek(0x16380 + 30), 0xC003);
-    EXPECT_EQ(model.peek(0x1404E), 0xAB03);
-    EXPECT_EQ(model.peek(0x14006), 0xFE00);
+    // Justification threshold; domains 0 and 15 CR_NONE, channel 0, E1/T1, no PLC with bits 14..15 kept.
+    EXPECT_EQ(peek({0x1405E, 0x16380, 0x16380 + 30, 0x1404E, 0x14006}),
+              (U32s{511, 0xC003, 0xC003, 0xAB03, 0xFE00}));
 
     model.poke(0x15800 + 2, 0);
     model.tables().holdBusy(kCesBlock, TableEngine::kForever);

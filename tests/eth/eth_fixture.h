@@ -2,6 +2,7 @@
 // tables by their select codes, and refusals that must touch nothing.
 #pragma once
 
+#include <array>
 #include <cstring>
 #include <functional>
 #include <string>
@@ -17,6 +18,11 @@ namespace ethtest {
 using vq6192::sim::BusAccess;
 using vq6192::sim::BusOp;
 using vq6192::sim::TableEngine;
+using U32s = std::vector<uint32_t>;
+using Reg = std::pair<uint32_t, uint32_t>;
+// Rows of a table-driven test, N numbers each, bound by name in the loop.
+template <size_t N>
+using Rows = std::initializer_list<std::array<uint32_t, N>>;
 
 // Status codes of chip 3.
 constexpr uint32_t kEthPara = 0x03050001;
@@ -27,18 +33,8 @@ constexpr uint32_t kMacPara = 0x03060001;
 
 // The Ethernet lookup block and its select codes.
 constexpr uint32_t kBlock = 0x4000;
-enum Select : uint32_t {
-    kPsn = 0,
-    kUpType = 1,
-    kNo2Pid = 2,
-    kVlan = 3,
-    kDownPro = 4,
-    kPid2No = 5,
-    kMpls2Key = 6,
-    kTxHead = 7,
-    kRxHead = 8,
-    kCpuProto = 11,
-};
+constexpr uint32_t kPsn = 0, kUpType = 1, kNo2Pid = 2, kVlan = 3, kDownPro = 4, kPid2No = 5, kMpls2Key = 6,
+                   kTxHead = 7, kRxHead = 8, kCpuProto = 11;
 
 class EthFixture : public vqtest::ChipTest {
   protected:
@@ -69,6 +65,32 @@ class EthFixture : public vqtest::ChipTest {
         model.tables().setEntry(kBlock, sel, index, e);
     }
 
+    void poke(std::initializer_list<Reg> regs) {
+        for (const auto &[addr, value] : regs) {
+            model.poke(addr, static_cast<uint16_t>(value));
+        }
+    }
+    U32s peek(std::initializer_list<uint32_t> addrs) {
+        U32s v;
+        for (uint32_t a : addrs) {
+            v.push_back(model.peek(a));
+        }
+        return v;
+    }
+    // MAC registers of one MAC, set or read in a list.
+    void setMac(uint32_t m, std::initializer_list<Reg> regs) {
+        for (const auto &[n, value] : regs) {
+            mac().setReg(m, n, value);
+        }
+    }
+    U32s macRegs(uint32_t m, std::initializer_list<uint32_t> regs) {
+        U32s v;
+        for (uint32_t n : regs) {
+            v.push_back(mac().reg(m, n));
+        }
+        return v;
+    }
+
     std::vector<BusAccess> traced(const std::function<void()> &op) {
         model.clearTrace();
         model.setTrace(true);
@@ -89,5 +111,9 @@ class EthFixture : public vqtest::ChipTest {
         EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{line});
     }
 };
+
+// A call refused with the Ethernet or MAC parameter error, named by its own text.
+#define ETH_REFUSED(call) expectRefused(#call, kEthPara, [&] { return call; })
+#define MAC_REFUSED(call) expectRefused(#call, kMacPara, [&] { return call; })
 
 }  // namespace ethtest

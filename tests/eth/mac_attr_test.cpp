@@ -8,63 +8,40 @@ using namespace ethtest;
 using MacAttr = EthFixture;
 
 struct AttrCase {
-    const char *name;
     void (*set)(VQ6192_ETH_MAC_ATTR_S &, uint32_t);
     uint32_t (*get)(const VQ6192_ETH_MAC_ATTR_S &);
+    const char *name;
     uint32_t reg, bit, width;
 };
 
-#define ATTR_CASE(f, reg, bit, width)                                                                             \
-    AttrCase {                                                                                                    \
-#f, [](VQ6192_ETH_MAC_ATTR_S & a,                                                                         \
-               uint32_t                                                                                           \
-                   v) { a.f = static_cast<decltype(a.f)>(v); },                                                   \
-                                                             [](const VQ6192_ETH_MAC_ATTR_S &                     \
-                                                                    a) { return static_cast<uint32_t>(a.f); },    \
-                                                                                                            reg,  \
-                                                                                                            bit,  \
-                                                                                                            width \
-    }
+template <auto M>
+void setField(VQ6192_ETH_MAC_ATTR_S &a, uint32_t v) {
+    a.*M = static_cast<std::remove_reference_t<decltype(a.*M)>>(v);
+}
+template <auto M>
+uint32_t getField(const VQ6192_ETH_MAC_ATTR_S &a) {
+    return static_cast<uint32_t>(a.*M);
+}
+#define ATTR(f) setField<&VQ6192_ETH_MAC_ATTR_S::f>, getField<&VQ6192_ETH_MAC_ATTR_S::f>, #f
 
 // MAC register, lowest bit and width of each attribute, as the MAC register map lists them.
+// clang-format off
 const AttrCase kAttrs[] = {
-    ATTR_CASE(byPortEn, 105, 0, 1),
-    ATTR_CASE(byTxEn, 17, 2, 1),
-    ATTR_CASE(byRxEn, 17, 1, 1),
-    ATTR_CASE(byCfSlientEn, 120, 0, 1),
-    ATTR_CASE(bySoftRstMII, 28, 2, 1),
-    ATTR_CASE(bySoftRstRx, 28, 1, 1),
-    ATTR_CASE(bySoftRstTx, 28, 0, 1),
-    ATTR_CASE(wMaxFrmSize, 15, 0, 14),
-    ATTR_CASE(byPadEnable, 24, 7, 1),
-    ATTR_CASE(byStripPadEn, 120, 3, 1),
-    ATTR_CASE(byRxRuntPktEn, 120, 4, 1),
-    ATTR_CASE(byShortRuntsThr, 20, 0, 5),
-    ATTR_CASE(byCrcAdd, 24, 6, 1),
-    ATTR_CASE(byStripCRCEn, 108, 0, 1),
-    ATTR_CASE(byCRCErrPass, 25, 5, 1),
-    ATTR_CASE(byIpgTxTimer, 12, 0, 8),
-    ATTR_CASE(byRxDflSgl, 117, 0, 8),
-    ATTR_CASE(byCf2DfTwoPartDf1, 120, 2, 1),
-    ATTR_CASE(bySerDesOrd, 121, 0, 1),
-    ATTR_CASE(wVLanType, 122, 0, 16),
-    ATTR_CASE(byVlanDropEn, 25, 3, 1),
-    ATTR_CASE(byBcDropEn, 25, 2, 1),
-    ATTR_CASE(byMcMatchEn, 25, 1, 1),
-    ATTR_CASE(byUcMatchEn, 25, 0, 1),
-    ATTR_CASE(byTxFdFc, 18, 1, 1),
-    ATTR_CASE(byRxFdFc, 18, 0, 1),
-    ATTR_CASE(byAutoEegEnable, 24, 5, 1),
-    ATTR_CASE(wFdFcType, 3, 0, 16),
-    ATTR_CASE(wFcTxTimer, 7, 0, 16),
-    ATTR_CASE(wPauseThr, 14, 0, 16),
-    ATTR_CASE(byDropUnkCtlFrm, 21, 0, 1),
-    ATTR_CASE(byPauseFrmPass, 25, 4, 1),
-    ATTR_CASE(byNoRmiiPreamble, 13, 16, 5),
-    ATTR_CASE(byNoMiiPreamble, 13, 8, 5),
-    ATTR_CASE(byNoGmiiPreamble, 13, 0, 5),
+    {ATTR(byPortEn), 105, 0, 1}, {ATTR(byTxEn), 17, 2, 1}, {ATTR(byRxEn), 17, 1, 1},
+    {ATTR(byCfSlientEn), 120, 0, 1}, {ATTR(bySoftRstMII), 28, 2, 1}, {ATTR(bySoftRstRx), 28, 1, 1},
+    {ATTR(bySoftRstTx), 28, 0, 1}, {ATTR(wMaxFrmSize), 15, 0, 14}, {ATTR(byPadEnable), 24, 7, 1},
+    {ATTR(byStripPadEn), 120, 3, 1}, {ATTR(byRxRuntPktEn), 120, 4, 1}, {ATTR(byShortRuntsThr), 20, 0, 5},
+    {ATTR(byCrcAdd), 24, 6, 1}, {ATTR(byStripCRCEn), 108, 0, 1}, {ATTR(byCRCErrPass), 25, 5, 1},
+    {ATTR(byIpgTxTimer), 12, 0, 8}, {ATTR(byRxDflSgl), 117, 0, 8}, {ATTR(byCf2DfTwoPartDf1), 120, 2, 1},
+    {ATTR(bySerDesOrd), 121, 0, 1}, {ATTR(wVLanType), 122, 0, 16}, {ATTR(byVlanDropEn), 25, 3, 1},
+    {ATTR(byBcDropEn), 25, 2, 1}, {ATTR(byMcMatchEn), 25, 1, 1}, {ATTR(byUcMatchEn), 25, 0, 1},
+    {ATTR(byTxFdFc), 18, 1, 1}, {ATTR(byRxFdFc), 18, 0, 1}, {ATTR(byAutoEegEnable), 24, 5, 1},
+    {ATTR(wFdFcType), 3, 0, 16}, {ATTR(wFcTxTimer), 7, 0, 16}, {ATTR(wPauseThr), 14, 0, 16},
+    {ATTR(byDropUnkCtlFrm), 21, 0, 1}, {ATTR(byPauseFrmPass), 25, 4, 1}, {ATTR(byNoRmiiPreamble), 13, 16, 5},
+    {ATTR(byNoMiiPreamble), 13, 8, 5}, {ATTR(byNoGmiiPreamble), 13, 0, 5},
 };
-#undef ATTR_CASE
+// clang-format on
+#undef ATTR
 
 TEST_F(MacAttr, EachAttributeAtItsRegisterAndBits) {
     for (const AttrCase &c : kAttrs) {

@@ -13,20 +13,17 @@ BusAccess wr(uint32_t addr, uint32_t value) {
 
 TEST_F(Ports, MacInUseFollowsTheSerDesSelection) {
     VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_ETH, VQ6192_PRINT_ALL);
-    const uint32_t expected[3] = {3, 1, 2};
+    const std::pair<uint32_t, const char *> cases[] = {
+        {3, "VQ6192_ETH_GetMACNo(0x3). wSerDesSel[0] return [0x3]\n"},
+        {1, "VQ6192_ETH_GetMACNo(0x3). wSerDesSel[0x1] return [0x1]\n"},
+        {2, "VQ6192_ETH_GetMACNo(0x3). wSerDesSel[0x2] return [0x2]\n"}};
     for (uint16_t sel = 0; sel < 3; ++sel) {
         model.poke(0x80C6, static_cast<uint16_t>(0xFFFC | sel));
         capture.clear();
         uint32_t mac = 0;
         EXPECT_EQ(VQ6192_ETH_GetMACNo(kChip, &mac), 0u);
-        EXPECT_EQ(mac, expected[sel]);
-        char line[96];
-        snprintf(line, sizeof line, "VQ6192_ETH_GetMACNo(0x3). wSerDesSel[%s] return [%#x]\n",
-                 sel == 0   ? "0"
-                 : sel == 1 ? "0x1"
-                            : "0x2",
-                 expected[sel]);
-        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{line});
+        EXPECT_EQ(mac, cases[sel].first);
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{cases[sel].second});
     }
     model.poke(0x80C6, 3);
     uint32_t mac = 7;
@@ -35,125 +32,83 @@ TEST_F(Ports, MacInUseFollowsTheSerDesSelection) {
 }
 
 TEST_F(Ports, AttributeSetterStopsAtItsFirstBadFieldKeepingEarlierWrites) {
-    mac().setReg(2, 17, 0xFFFFFFF9);
-    mac().setReg(2, 8, 0);
-    mac().setReg(2, 9, 0xABCD0000);
-    mac().setReg(2, 13, 0);
+    setMac(2, {{17, 0xFFFFFFF9}, {8, 0}, {9, 0xABCD0000}, {13, 0}});
     VQ6192_ETH_MAC_ATTR_S attr{}, sel{};
-    attr.byTxEn = 1;
-    sel.byTxEn = 1;
-    attr.sFdFcAddrL = 0x4455;
-    attr.sFdFcAddrM = 0x2233;
-    attr.sFdFcAddrH = 0x0011;
-    sel.sFdFcAddrM = 1;
-    attr.byNoMiiPreamble = 12;
-    sel.byNoMiiPreamble = 1;
+    attr.byTxEn = sel.byTxEn = 1;
+    attr.sFdFcAddrL = 0x4455, attr.sFdFcAddrM = 0x2233, attr.sFdFcAddrH = 0x0011, sel.sFdFcAddrM = 1;
+    attr.byNoMiiPreamble = 12, sel.byNoMiiPreamble = 1;
     EXPECT_EQ(VQ6192_ETH_SetMACAttr(kChip, 2, &attr, &sel), 0u);
-    EXPECT_EQ(mac().reg(2, 17), 0xFFFFFFFDu);
-    EXPECT_EQ(mac().reg(2, 8), 0x22334455u);
-    EXPECT_EQ(mac().reg(2, 9), 0xABCD0011u);
-    EXPECT_EQ(mac().reg(2, 13), 12u << 8);
+    EXPECT_EQ(macRegs(2, {17, 8, 9, 13}), (U32s{0xFFFFFFFD, 0x22334455, 0xABCD0011, 12u << 8}));
     VQ6192_ETH_MAC_ATTR_S back{};
     EXPECT_EQ(VQ6192_ETH_GetMACAttr(kChip, 2, &back), 0u);
-    EXPECT_EQ(back.byTxEn, 1);
-    EXPECT_EQ(back.byRxEn, 0);
-    EXPECT_EQ(back.sFdFcAddrL, 0x4455);
-    EXPECT_EQ(back.sFdFcAddrM, 0x2233);
-    EXPECT_EQ(back.sFdFcAddrH, 0x0011);
-    EXPECT_EQ(back.byNoMiiPreamble, 12);
+    EXPECT_EQ((U32s{back.byTxEn, back.byRxEn, back.sFdFcAddrL, back.sFdFcAddrM, back.sFdFcAddrH,
+                    back.byNoMiiPreamble}),
+              (U32s{1, 0, 0x4455, 0x2233, 0x0011, 12}));
     // Bounds: one-bit fields, 16383, 31; the fields before the bad one stay written.
-    struct Case {
-        const char *name;
-        std::function<void(VQ6192_ETH_MAC_ATTR_S &, VQ6192_ETH_MAC_ATTR_S &)> bad;
-    };
-    const Case cases[] = {
-        {"byRxEn 2", [](auto &a, auto &s) { a.byRxEn = 2, s.byRxEn = 1; }},
-        {"wMaxFrmSize 16384", [](auto &a, auto &s) { a.wMaxFrmSize = 16384, s.wMaxFrmSize = 1; }},
-        {"byShortRuntsThr 32", [](auto &a, auto &s) { a.byShortRuntsThr = 32, s.byShortRuntsThr = 1; }},
-        {"byNoGmiiPreamble 32", [](auto &a, auto &s) { a.byNoGmiiPreamble = 32, s.byNoGmiiPreamble = 1; }},
-    };
-    for (const Case &c : cases) {
+    using Bad = void (*)(VQ6192_ETH_MAC_ATTR_S &, VQ6192_ETH_MAC_ATTR_S &);
+    const Bad cases[] = {[](auto &a, auto &s) { a.byRxEn = 2, s.byRxEn = 1; },
+                         [](auto &a, auto &s) { a.wMaxFrmSize = 16384, s.wMaxFrmSize = 1; },
+                         [](auto &a, auto &s) { a.byShortRuntsThr = 32, s.byShortRuntsThr = 1; },
+                         [](auto &a, auto &s) { a.byNoGmiiPreamble = 32, s.byNoGmiiPreamble = 1; }};
+    for (const Bad bad : cases) {
         mac().setReg(1, 105, 0);
         VQ6192_ETH_MAC_ATTR_S a{}, s{};
-        a.byPortEn = 1;
-        s.byPortEn = 1;
-        c.bad(a, s);
+        a.byPortEn = s.byPortEn = 1;
+        bad(a, s);
         capture.clear();
-        EXPECT_EQ(VQ6192_ETH_SetMACAttr(kChip, 1, &a, &s), kEthPara) << c.name;
-        EXPECT_EQ(mac().reg(1, 105), 1u) << c.name;
+        EXPECT_EQ(VQ6192_ETH_SetMACAttr(kChip, 1, &a, &s), kEthPara);
+        EXPECT_EQ(mac().reg(1, 105), 1u);
         EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{"ParaErr.\r\n"});
     }
-    expectRefused("MAC 3", kEthPara, [&] { return VQ6192_ETH_SetMACAttr(kChip, 3, &attr, &sel); });
-    expectRefused("MAC 0", kEthPara, [&] { return VQ6192_ETH_GetMACAttr(kChip, 0, &back); });
+    ETH_REFUSED(VQ6192_ETH_SetMACAttr(kChip, 3, &attr, &sel));
+    ETH_REFUSED(VQ6192_ETH_GetMACAttr(kChip, 0, &back));
 }
 
 TEST_F(Ports, StationAddressGoesToTheMacAndThePacketEngine) {
     mac().setReg(1, 1, 0xFFFF0000);
     const uint16_t addr[3] = {0x4455, 0x2233, 0x0011};
     EXPECT_EQ(VQ6192_ETH_SetSerDesMACAddr(kChip, 1, addr), 0u);
-    EXPECT_EQ(mac().reg(1, 0), 0x22334455u);
-    EXPECT_EQ(mac().reg(1, 1), 0xFFFF0011u);
-    EXPECT_EQ(model.peek(0x80A6), 0x0011);
-    EXPECT_EQ(model.peek(0x80A8), 0x2233);
-    EXPECT_EQ(model.peek(0x80AA), 0x4455);
+    EXPECT_EQ(macRegs(1, {0, 1}), (U32s{0x22334455, 0xFFFF0011}));
+    EXPECT_EQ(peek({0x80A6, 0x80A8, 0x80AA}), (U32s{0x0011, 0x2233, 0x4455}));
     EXPECT_EQ(VQ6192_ETH_SetSerDesMACAddr(kChip, 2, addr), 0u);
-    EXPECT_EQ(model.peek(0x80B2), 0x0011);
-    EXPECT_EQ(model.peek(0x80B6), 0x4455);
+    EXPECT_EQ(peek({0x80B2, 0x80B6}), (U32s{0x0011, 0x4455}));
     uint16_t back[3] = {};
     EXPECT_EQ(VQ6192_ETH_GetSerDesMACAddr(kChip, 2, back), 0u);
-    EXPECT_EQ(back[0], 0x4455);
-    EXPECT_EQ(back[2], 0x0011);
+    EXPECT_EQ((U32s{back[0], back[2]}), (U32s{0x4455, 0x0011}));
 }
 
 TEST_F(Ports, MacAndSerDesLoops) {
-    struct MacCase {
-        uint32_t mode, reg119, reg106;
-    };
-    const MacCase macCases[] = {{1, 0xFFFFFFFF, 0xFFFFFFFE},
-                                {2, 0xFFFFFFFB, 0xFFFFFFFF},
-                                {0, 0xFFFFFFFA, 0xFFFFFFFE},
-                                {3, 0xFFFFFFFF, 0xFFFFFFFF}};
-    for (const MacCase &c : macCases) {
-        mac().setReg(2, 119, 0xFFFFFFFF);
-        mac().setReg(2, 106, 0xFFFFFFFF);
-        EXPECT_EQ(VQ6192_ETH_SetMACLoop(kChip, 2, c.mode), 0u);
-        EXPECT_EQ(mac().reg(2, 119), c.reg119) << c.mode;
-        EXPECT_EQ(mac().reg(2, 106), c.reg106) << c.mode;
+    for (const auto &[mode, reg119, reg106] : Rows<3>{{1, 0xFFFFFFFF, 0xFFFFFFFE},
+                                                      {2, 0xFFFFFFFB, 0xFFFFFFFF},
+                                                      {0, 0xFFFFFFFA, 0xFFFFFFFE},
+                                                      {3, 0xFFFFFFFF, 0xFFFFFFFF}}) {
+        setMac(2, {{119, 0xFFFFFFFF}, {106, 0xFFFFFFFF}});
+        EXPECT_EQ(VQ6192_ETH_SetMACLoop(kChip, 2, mode), 0u);
+        EXPECT_EQ(macRegs(2, {119, 106}), (U32s{reg119, reg106})) << mode;
     }
-    expectRefused("mode 4", kEthPara, [] { return VQ6192_ETH_SetMACLoop(kChip, 1, 4); });
+    ETH_REFUSED(VQ6192_ETH_SetMACLoop(kChip, 1, 4));
 
-    struct LoopCase {
-        uint32_t lane, point, en;
-        uint16_t codes, parFlag;
-        uint32_t reg119;
-    };
-    const LoopCase loopCases[] = {
-        {1, 2, 1, 0xFF0C, 1, 0}, {1, 2, 0, 0xFF00, 0, 0}, {2, 0, 1, 0xFF1F, 0, 4},
-        {2, 1, 1, 0xFF2F, 0, 0}, {1, 3, 1, 0xFF0A, 0, 0},
-    };
-    for (const LoopCase &c : loopCases) {
-        model.poke(0x21E, 0xFF0F);
-        if (c.lane == 2) {
-            model.poke(0x21E, 0xFFFF);
-        }
-        mac().setReg(c.lane, 119, 0);
-        const uint32_t flagReg = c.lane == 1 ? 0x218 : 0x21A;
+    for (const auto &[lane, point, en, codes, parFlag, reg119] : Rows<6>{{1, 2, 1, 0xFF0C, 1, 0},
+                                                                         {1, 2, 0, 0xFF00, 0, 0},
+                                                                         {2, 0, 1, 0xFF1F, 0, 4},
+                                                                         {2, 1, 1, 0xFF2F, 0, 0},
+                                                                         {1, 3, 1, 0xFF0A, 0, 0}}) {
+        model.poke(0x21E, lane == 2 ? 0xFFFF : 0xFF0F);
+        mac().setReg(lane, 119, 0);
+        const uint32_t flagReg = lane == 1 ? 0x218 : 0x21A;
         model.poke(flagReg, 0xFFFE);
-        EXPECT_EQ(VQ6192_ETH_SetSerdesLoop(kChip, c.lane, c.point, c.en), 0u);
-        const uint16_t want = c.lane == 1 ? static_cast<uint16_t>(0xFF00 | (c.codes & 0xF))
-                                          : static_cast<uint16_t>(0xFF0F | (c.codes & 0xF0));
-        EXPECT_EQ(model.peek(0x21E), want) << c.lane << "/" << c.point;
-        EXPECT_EQ(model.peek(flagReg), 0xFFFE | c.parFlag);
-        EXPECT_EQ(mac().reg(c.lane, 119), c.reg119);
+        EXPECT_EQ(VQ6192_ETH_SetSerdesLoop(kChip, lane, point, en), 0u);
+        const uint32_t want = lane == 1 ? 0xFF00u | (codes & 0xF) : 0xFF0Fu | (codes & 0xF0);
+        EXPECT_EQ(peek({0x21E, flagReg}), (U32s{want, 0xFFFEu | parFlag})) << lane << "/" << point;
+        EXPECT_EQ(mac().reg(lane, 119), reg119);
     }
-    expectRefused("lane 0", kEthPara, [] { return VQ6192_ETH_SetSerdesLoop(kChip, 0, 0, 1); });
-    expectRefused("lane 3", kEthPara, [] { return VQ6192_ETH_SetSerdesLoop(kChip, 3, 0, 1); });
-    expectRefused("point 4", kEthPara, [] { return VQ6192_ETH_SetSerdesLoop(kChip, 1, 4, 1); });
+    ETH_REFUSED(VQ6192_ETH_SetSerdesLoop(kChip, 0, 0, 1));
+    ETH_REFUSED(VQ6192_ETH_SetSerdesLoop(kChip, 3, 0, 1));
+    ETH_REFUSED(VQ6192_ETH_SetSerdesLoop(kChip, 1, 4, 1));
 }
 
 TEST_F(Ports, SerDesLaneResetSetsThePreparationBitFirst) {
-    model.poke(0x210, 0xFFDF);
-    model.poke(0x214, 0xFFFD);
+    poke({{0x210, 0xFFDF}, {0x214, 0xFFFD}});
     const auto t = traced([] { EXPECT_EQ(VQ6192_ETH_SetSerDesChnlReset(kChip, 2, 1), 0u); });
     EXPECT_EQ(vqtest::writes(t), (std::vector<BusAccess>{wr(0x210, 0xFFFF), wr(0x214, 0xFFFF)}));
     model.poke(0x20A, 0xFFFF);
@@ -164,44 +119,35 @@ TEST_F(Ports, SerDesLaneResetSetsThePreparationBitFirst) {
     model.poke(0x208, 0xF000);
     EXPECT_EQ(VQ6192_ETH_SetSerDesChnlCfg(kChip, 1, 0xABC), 0u);
     EXPECT_EQ(model.peek(0x208), 0xFABC);
-    expectRefused("cfg 4096", kEthPara, [] { return VQ6192_ETH_SetSerDesChnlCfg(kChip, 1, 4096); });
-    expectRefused("reset lane 3", kEthPara, [] { return VQ6192_ETH_SetSerDesChnlReset(kChip, 3, 1); });
+    ETH_REFUSED(VQ6192_ETH_SetSerDesChnlCfg(kChip, 1, 4096));
+    ETH_REFUSED(VQ6192_ETH_SetSerDesChnlReset(kChip, 3, 1));
 }
 
 TEST_F(Ports, LaneAlarms) {
-    model.poke(0x220, 0x0005);  // bits 2 and 0
-    model.poke(0x222, 0xA5C9);
+    poke({{0x220, 0x0005}, {0x222, 0xA5C9}});  // lane 1: bits 2 and 0
     uint16_t a[9] = {};
     EXPECT_EQ(VQ6192_ETH_GetSesDesAlmErr(kChip, 1, a), 0u);
     EXPECT_EQ(std::vector<uint16_t>(a, a + 9), (std::vector<uint16_t>{0, 1, 0, 1, 0xA, 0, 1, 0, 1}));
     EXPECT_EQ(VQ6192_ETH_GetSesDesAlmErr(kChip, 0, a), 0u);
     EXPECT_EQ(std::vector<uint16_t>(a, a + 9), (std::vector<uint16_t>{0, 1, 0, 1, 0xC, 1, 0, 0, 1}));
-    expectRefused("lane 2", kEthPara, [&] { return VQ6192_ETH_GetSesDesAlmErr(kChip, 2, a); });
+    ETH_REFUSED(VQ6192_ETH_GetSesDesAlmErr(kChip, 2, a));
 }
 
 TEST_F(Ports, PortCountersFromSingleRegistersAndPairs) {
     for (uint32_t a = 0x90C0; a <= 0x9236; a += 2) {
         model.poke(a, static_cast<uint16_t>(a));
     }
-    model.poke(0x8100, 0x0200);
     VQ6192_ETH_ETH1_PER_S s;
-    std::memset(&s, 0xEE, sizeof s);
-    EXPECT_EQ(VQ6192_ETH_GetETH1Per(kChip, &s), 0u);
-    EXPECT_EQ(s.dwRx1FcsErrCnt, 0x9200u);
-    EXPECT_EQ(s.dwRxAtmPktCnt, 0x90C690C4u);
-    EXPECT_EQ(s.dwCpuProErrCnt, 0u);
-    EXPECT_EQ(s.wTxMpPauseCnt, 0x910E910Cu);
-    EXPECT_EQ(s.wTxPppPauseCnt, 0u);
-    EXPECT_EQ(s.dwRX1PktERRCnt, 0x9200u);
-    EXPECT_EQ(s.dwTXAutoPKTCnt, 0x92129210u);
-    EXPECT_EQ(s.dwRXPrbsERRCnt, 0x921Au);
-    EXPECT_EQ(s.dwReserved50, 0xEEEEEEEEu);
-    EXPECT_EQ(s.dwReserved51, 0xEEEEEEEEu);
-    EXPECT_EQ(s.dwTx0LpPktCnt, 0x912E912Cu);
-    model.poke(0x8100, 0);
-    EXPECT_EQ(VQ6192_ETH_GetETH1Per(kChip, &s), 0u);
-    EXPECT_EQ(s.wTxMpPauseCnt, 0u);
-    EXPECT_EQ(s.wTxPppPauseCnt, 0x910E910Cu);
+    for (uint16_t mode : {0, 0x0200}) {  // pause counters swap with bit 9 of 0x8100
+        model.poke(0x8100, mode);
+        std::memset(&s, 0xEE, sizeof s);
+        EXPECT_EQ(VQ6192_ETH_GetETH1Per(kChip, &s), 0u);
+        EXPECT_EQ((U32s{s.wTxMpPauseCnt, s.wTxPppPauseCnt}),
+                  (mode ? U32s{0x910E910C, 0} : U32s{0, 0x910E910C}));
+    }
+    EXPECT_EQ((U32s{s.dwRx1FcsErrCnt, s.dwRxAtmPktCnt, s.dwCpuProErrCnt, s.dwRX1PktERRCnt, s.dwTXAutoPKTCnt,
+                    s.dwRXPrbsERRCnt, s.dwReserved50, s.dwReserved51, s.dwTx0LpPktCnt}),
+              (U32s{0x9200, 0x90C690C4, 0, 0x9200, 0x92129210, 0x921A, 0xEEEEEEEE, 0xEEEEEEEE, 0x912E912C}));
 
     const uint32_t regs[48] = {123, 125, 32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 42, 43, 44,  45,
                                46,  48,  49, 50, 51, 52, 53, 54, 64, 65, 66, 67, 68, 69, 70,  71,
@@ -222,40 +168,29 @@ TEST_F(Ports, PortCountersFromSingleRegistersAndPairs) {
 }
 
 TEST_F(Ports, WeightsAndPortControls) {
-    struct Case {
-        uint32_t cls;
-        uint32_t addr;
-        uint16_t before, after;
-    };
-    const Case cases[] = {{0, 0x80BE, 0xFF00, 0xFF5A},
-                          {1, 0x80BE, 0xFF00, 0xFF5A},
-                          {2, 0x80BC, 0x00FF, 0x5AFF},
-                          {3, 0x80BC, 0xFF00, 0xFF5A}};
-    for (const Case &c : cases) {
-        model.poke(c.addr, c.before);
-        EXPECT_EQ(VQ6192_ETH_SetETH1WRRWeight(kChip, c.cls, 0x5A), 0u);
-        EXPECT_EQ(model.peek(c.addr), c.after) << c.cls;
+    for (const auto &[cls, addr, before, after] : Rows<4>{{0, 0x80BE, 0xFF00, 0xFF5A},
+                                                          {1, 0x80BE, 0xFF00, 0xFF5A},
+                                                          {2, 0x80BC, 0x00FF, 0x5AFF},
+                                                          {3, 0x80BC, 0xFF00, 0xFF5A}}) {
+        model.poke(addr, static_cast<uint16_t>(before));
+        EXPECT_EQ(VQ6192_ETH_SetETH1WRRWeight(kChip, cls, 0x5A), 0u);
+        EXPECT_EQ(model.peek(addr), after) << cls;
     }
-    expectRefused("class 4", kEthPara, [] { return VQ6192_ETH_SetETH1WRRWeight(kChip, 4, 1); });
+    ETH_REFUSED(VQ6192_ETH_SetETH1WRRWeight(kChip, 4, 1));
     model.poke(0x80C2, 0xE000);
     EXPECT_EQ(VQ6192_ETH_SetEth1Maxlen(kChip, 8191), 0u);
-    EXPECT_EQ(model.peek(0x80C2), 0xFFFF);
-    expectRefused("max length 8192", kEthPara, [] { return VQ6192_ETH_SetEth1Maxlen(kChip, 8192); });
+    ETH_REFUSED(VQ6192_ETH_SetEth1Maxlen(kChip, 8192));
     EXPECT_EQ(VQ6192_ETH_SetEth1PortSendMode(kChip, 1), 0u);
-    EXPECT_EQ(model.peek(0x80C6), 0x4);
     EXPECT_EQ(VQ6192_ETH_SetEthPppLengthEnable(kChip, 1, 0), 0u);
     EXPECT_EQ(VQ6192_ETH_SetEthGlbPauseEnable(kChip, 1), 0u);
-    EXPECT_EQ(model.peek(0x80BA), 0x42);
     EXPECT_EQ(VQ6192_ETH_SetEthAppInterface(kChip, 1), 0u);
-    EXPECT_EQ(model.peek(0x80B8), 0x2);
+    EXPECT_EQ(peek({0x80C2, 0x80C6, 0x80BA, 0x80B8}), (U32s{0xFFFF, 0x4, 0x42, 0x2}));
 }
 
 TEST_F(Ports, SelfTestRun) {
     model.poke(0x80BA, 0xFF00);
     EXPECT_EQ(VQ6192_ETH_SetSelfTestGlbCtl(kChip, 0, 2, 0xA5, 1500), 0u);
-    EXPECT_EQ(model.peek(0x80BA), 0xFF18);
-    EXPECT_EQ(model.peek(0x9020), 0xA5);
-    EXPECT_EQ(model.peek(0x9026), 1500);
+    EXPECT_EQ(peek({0x80BA, 0x9020, 0x9026}), (U32s{0xFF18, 0xA5, 1500}));
     const uint16_t en[4] = {1, 2, 3, 0x8000};
     EXPECT_EQ(VQ6192_ETH_SetSelfTestChnlEn(kChip, en), 0u);
     EXPECT_EQ(model.peek(0x901E), 0x8000);
@@ -264,30 +199,26 @@ TEST_F(Ports, SelfTestRun) {
         head[i] = static_cast<uint8_t>(i + 1);
     }
     EXPECT_EQ(VQ6192_ETH_SetSelfTestTxHeadData(kChip, 63, head, 126), 0u);
-    EXPECT_EQ(word(kTxHead, 63), 0x03040102u);
-    EXPECT_EQ(bits(kTxHead, 63, 480, 32), 0x3F403D3Eu);
-    EXPECT_EQ(model.peek(0x9024), 126);
     EXPECT_EQ(VQ6192_ETH_SetSelfTestShouldRxHeadData(kChip, 0, head, 0), 0u);
-    EXPECT_EQ(word(kRxHead, 0), 0x03040102u);
+    EXPECT_EQ((U32s{word(kTxHead, 63), static_cast<uint32_t>(bits(kTxHead, 63, 480, 32)), word(kRxHead, 0)}),
+              (U32s{0x03040102, 0x3F403D3E, 0x03040102}));
+    EXPECT_EQ(model.peek(0x9024), 126);
     uint8_t back[64] = {};
     uint32_t len = 0;
     EXPECT_EQ(VQ6192_ETH_GetSelfTestTxHeadData(kChip, 63, back, &len), 0u);
     EXPECT_EQ(std::vector<uint8_t>(back, back + 64), std::vector<uint8_t>(head, head + 64));
     EXPECT_EQ(len, 126u);
     EXPECT_EQ(VQ6192_ETH_SetSelfTestPRBS(kChip, 63, 1), 0u);
-    EXPECT_EQ(model.peek(0x9022), 0x13F);
     EXPECT_EQ(VQ6192_ETH_SetSelfTestRate(kChip, 0x1234), 0u);
     EXPECT_EQ(VQ6192_ETH_SetSelfTestEn(kChip, 1, 1), 0u);
-    EXPECT_EQ(model.peek(0x80BA), 0xFFB8);
+    EXPECT_EQ(peek({0x9022, 0x80BA}), (U32s{0x13F, 0xFFB8}));
     uint32_t rate = 0;
     EXPECT_EQ(VQ6192_ETH_GtSelfTestRate(kChip, &rate), 0u);
     EXPECT_EQ(rate, 0x1234u);
-    expectRefused("header length 127", kEthPara,
-                  [&] { return VQ6192_ETH_SetSelfTestTxHeadData(kChip, 0, head, 127); });
-    expectRefused("header 64", kEthPara,
-                  [&] { return VQ6192_ETH_SetSelfTestShouldRxHeadData(kChip, 64, head, 0); });
-    expectRefused("PRBS channel 64", kEthPara, [] { return VQ6192_ETH_SetSelfTestPRBS(kChip, 64, 1); });
-    expectRefused("MAC 3", kEthPara, [] { return VQ6192_ETH_SetSelfTestGlbCtl(kChip, 0, 3, 0, 0); });
+    ETH_REFUSED(VQ6192_ETH_SetSelfTestTxHeadData(kChip, 0, head, 127));
+    ETH_REFUSED(VQ6192_ETH_SetSelfTestShouldRxHeadData(kChip, 64, head, 0));
+    ETH_REFUSED(VQ6192_ETH_SetSelfTestPRBS(kChip, 64, 1));
+    ETH_REFUSED(VQ6192_ETH_SetSelfTestGlbCtl(kChip, 0, 3, 0, 0));
 }
 
 TEST_F(Ports, CaptureHandshake) {
@@ -296,10 +227,7 @@ TEST_F(Ports, CaptureHandshake) {
     const uint8_t opt[4] = {0xFC, 0xFF, 0x12, 0x34};
     model.poke(0x9092, 0xC000);
     EXPECT_EQ(VQ6192_ETH_StartCapEthPkt(kChip, 1, 12, match, opt), 0u);
-    EXPECT_EQ(model.peek(0x9092), 0xF00C);
-    EXPECT_EQ(model.peek(0x90A2), 0x8100);
-    EXPECT_EQ(model.peek(0x9096), 0xFFFC);
-    EXPECT_EQ(model.peek(0x9094), 0x3412);
+    EXPECT_EQ(peek({0x9092, 0x90A2, 0x9096, 0x9094}), (U32s{0xF00C, 0x8100, 0xFFFC, 0x3412}));
     uint8_t buf[64] = {};
     uint16_t len = 9;
     EXPECT_EQ(VQ6192_ETH_GetCapEthPkt(kChip, buf, &len), kEthTimeout);
@@ -312,16 +240,15 @@ TEST_F(Ports, CaptureHandshake) {
     EXPECT_EQ(eth().releases(), 1u);
     EXPECT_EQ(VQ6192_ETH_StopCapEthPkt(kChip), 0u);
     EXPECT_EQ(model.peek(0x9092), 0xD00C);
-    expectRefused("length 4096", kEthPara,
-                  [&] { return VQ6192_ETH_StartCapEthPkt(kChip, 0, 4096, match, opt); });
+    ETH_REFUSED(VQ6192_ETH_StartCapEthPkt(kChip, 0, 4096, match, opt));
 }
 
 TEST_F(Ports, ProtocolPacketsInAndOut) {
     const uint8_t pkt[5] = {0xC0, 0x21, 0x01, 0x02, 0x03};
+    model.poke(0x8154, 0xFFFF);  // the send command is bits 0..4 all written
     EXPECT_EQ(VQ6192_ETH_InsertPppProtocolPkt(kChip, pkt, 5), 0u);
-    EXPECT_EQ(eth().insertWord(0), 0xC021);
-    EXPECT_EQ(eth().insertWord(1), 0x0102);
-    EXPECT_EQ(eth().insertWord(2), 0x0300);
+    EXPECT_EQ((U32s{eth().insertWord(0), eth().insertWord(1), eth().insertWord(2)}),
+              (U32s{0xC021, 0x0102, 0x0300}));
     ASSERT_EQ(eth().inserted().size(), 1u);
     EXPECT_EQ(eth().inserted()[0], std::vector<uint8_t>(pkt, pkt + 5));
     eth().holdInsertBusy(3);
@@ -345,7 +272,16 @@ TEST_F(Ports, ProtocolPacketsInAndOut) {
     EXPECT_EQ(len, 3u);
     EXPECT_EQ(std::vector<uint8_t>(buf, buf + 4), (std::vector<uint8_t>{0x80, 0x21, 0x09, 0}));
     EXPECT_EQ(eth().waiting(), 0u);
-    expectRefused("length 4096", kEthPara, [&] { return VQ6192_ETH_InsertPppProtocolPkt(kChip, pkt, 4096); });
+    // The longest the read RAM holds: 2048 bytes, a length with bit 11 set.
+    std::vector<uint8_t> big(2048), got(4096);
+    for (size_t k = 0; k < big.size(); ++k) {
+        big[k] = static_cast<uint8_t>(k * 7 + 1);
+    }
+    eth().receive(big);
+    EXPECT_EQ(VQ6192_ETH_ReadPppProtocolPkt(kChip, got.data(), &len), 0u);
+    EXPECT_EQ(len, 2048u);
+    EXPECT_TRUE(std::equal(big.begin(), big.end(), got.begin()));
+    ETH_REFUSED(VQ6192_ETH_InsertPppProtocolPkt(kChip, pkt, 4096));
 }
 
 }  // namespace

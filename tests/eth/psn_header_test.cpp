@@ -11,43 +11,42 @@ struct Pos {
     uint32_t start, width;
 };
 // Field positions of a header entry, in the order of the information record.
-const Pos kPos[18] = {
-    {"dwreserved3", 3, 1},    {"dwLblEthType", 204, 2}, {"dwLblVlanId", 192, 12},
-    {"dwLblEthDah", 176, 16}, {"dwLblEthDal", 144, 32}, {"dwLblGreProType", 128, 16},
-    {"dwLblIpDa", 96, 32},    {"dwLblIpSa", 64, 32},    {"dwLblIpProtcl", 56, 8},
-    {"dwLblIpTtl", 48, 8},    {"dwLblIpTos", 40, 8},    {"dwreserved2", 7, 1},
-    {"dwLblPwLable", 16, 20}, {"dwLblPwTtl", 8, 8},     {"dwreserved1", 36, 4},
-    {"dwLblPwCos", 4, 3},     {"dwreserved0", 206, 2},  {"dwLblHdType", 0, 3},
-};
+const Pos kPos[18] = {{"dwreserved3", 3, 1},    {"dwLblEthType", 204, 2}, {"dwLblVlanId", 192, 12},
+                      {"dwLblEthDah", 176, 16}, {"dwLblEthDal", 144, 32}, {"dwLblGreProType", 128, 16},
+                      {"dwLblIpDa", 96, 32},    {"dwLblIpSa", 64, 32},    {"dwLblIpProtcl", 56, 8},
+                      {"dwLblIpTtl", 48, 8},    {"dwLblIpTos", 40, 8},    {"dwreserved2", 7, 1},
+                      {"dwLblPwLable", 16, 20}, {"dwLblPwTtl", 8, 8},     {"dwreserved1", 36, 4},
+                      {"dwLblPwCos", 4, 3},     {"dwreserved0", 206, 2},  {"dwLblHdType", 0, 3}};
 
 uint32_t &at(VQ6192_ETH_PSN_INFO_S &info, int k) {
     return reinterpret_cast<uint32_t *>(&info)[k];
 }
 
 TEST_F(Header, EachServiceKindHasItsSliceOfTheTable) {
-    struct Case {
-        uint32_t type, ch, entry;
-    };
-    const Case cases[] = {{2, 0, 0},    {2, 2047, 2047}, {1, 0, 2048}, {1, 511, 2559},
-                          {0, 0, 2560}, {0, 255, 2815},  {3, 5, 2821}, {3, 351, 3167}};
-    for (const Case &c : cases) {
+    for (const auto &[type, ch, entry] : Rows<3>{{2, 0, 0},
+                                                 {2, 2047, 2047},
+                                                 {1, 0, 2048},
+                                                 {1, 511, 2559},
+                                                 {0, 0, 2560},
+                                                 {0, 255, 2815},
+                                                 {3, 5, 2821},
+                                                 {3, 351, 3167}}) {
         uint32_t idx = 0;
-        EXPECT_EQ(VQ6192_ETH_ConvertSrvChnl2EthChnl(kChip, c.ch, c.type, &idx), 0u);
-        EXPECT_EQ(idx, c.entry) << c.type << "/" << c.ch;
+        EXPECT_EQ(VQ6192_ETH_ConvertSrvChnl2EthChnl(kChip, ch, type, &idx), 0u);
+        EXPECT_EQ(idx, entry) << type << "/" << ch;
         VQ6192_ETH_PSN_INFO_S info{};
-        info.dwLblIpSa = 0x0A000000u + c.entry;
-        EXPECT_EQ(VQ6192_ETH_SetPSNEthInfo(kChip, c.ch, c.type, &info), 0u);
-        EXPECT_EQ(bits(kPsn, c.entry, 64, 32), 0x0A000000u + c.entry);
+        info.dwLblIpSa = 0x0A000000u + entry;
+        EXPECT_EQ(VQ6192_ETH_SetPSNEthInfo(kChip, ch, type, &info), 0u);
+        EXPECT_EQ(bits(kPsn, entry, 64, 32), 0x0A000000u + entry);
     }
-    const Case refused[] = {{2, 2048, 0}, {1, 512, 0}, {0, 256, 0}, {3, 352, 0}, {4, 0, 0}};
-    for (const Case &c : refused) {
+    for (const auto &[type, ch] : Rows<2>{{2, 2048}, {1, 512}, {0, 256}, {3, 352}, {4, 0}}) {
         VQ6192_ETH_PSN_INFO_S info{};
         uint32_t idx = 0;
-        expectRefused("convert", kEthPara,
-                      [&] { return VQ6192_ETH_ConvertSrvChnl2EthChnl(kChip, c.ch, c.type, &idx); });
-        expectRefused("set", kEthPara, [&] { return VQ6192_ETH_SetPSNEthInfo(kChip, c.ch, c.type, &info); });
-        expectRefused("get", kEthPara, [&] { return VQ6192_ETH_GetPSNEthInfo(kChip, c.ch, c.type, &info); });
-        expectRefused("ip", kEthPara, [&] { return VQ6192_ETH_SetPSNEthIPAddr(kChip, c.ch, c.type, 1, 2); });
+        SCOPED_TRACE(testing::Message() << type << "/" << ch);
+        ETH_REFUSED(VQ6192_ETH_ConvertSrvChnl2EthChnl(kChip, ch, type, &idx));
+        ETH_REFUSED(VQ6192_ETH_SetPSNEthInfo(kChip, ch, type, &info));
+        ETH_REFUSED(VQ6192_ETH_GetPSNEthInfo(kChip, ch, type, &info));
+        ETH_REFUSED(VQ6192_ETH_SetPSNEthIPAddr(kChip, ch, type, 1, 2));
     }
 }
 
@@ -85,22 +84,18 @@ TEST_F(Header, ModifyWritesOnlyTheSelectedFields) {
     mask.dwLblGreProType = 2;  // passes the check, writes nothing
     EXPECT_EQ(VQ6192_ETH_ModifyPSNEthInfo(kChip, 100, VQ6192_ETH_SRV_ATM, &mask, &info), 0u);
     EXPECT_EQ(bits(kPsn, 100, 192, 12), 0x123u);
-    EXPECT_EQ(bits(kPsn, 100, 48, 8), 0x40u);
-    EXPECT_EQ(bits(kPsn, 100, 96, 32), 0xFFFFFFFFu);
+    EXPECT_EQ(bits(kPsn, 100, 0, 64), 0xFF40FFFFFFFFFFFFu);  // IP TTL 48..55
+    EXPECT_EQ(bits(kPsn, 100, 64, 64), 0xFFFFFFFFFFFFFFFFu);
     EXPECT_EQ(bits(kPsn, 100, 128, 16), 0xFFFFu);
-    EXPECT_EQ(bits(kPsn, 100, 0, 48), 0xFFFFFFFFFFFFu);
     // A selector of 2 is refused on every field but the reserved ones and the GRE protocol type.
     for (int k = 0; k < 18; ++k) {
         VQ6192_ETH_PSN_INFO_S m{};
         at(m, k) = 2;
-        const bool free = k == 0 || k == 5 || k == 11 || k == 14 || k == 16;
-        if (!free) {
-            expectRefused(kPos[k].name, kEthPara, [&] {
-                return VQ6192_ETH_ModifyPSNEthInfo(kChip, 1, VQ6192_ETH_SRV_ATM, &m, &info);
-            });
+        SCOPED_TRACE(kPos[k].name);
+        if (k == 0 || k == 5 || k == 11 || k == 14 || k == 16) {
+            EXPECT_EQ(VQ6192_ETH_ModifyPSNEthInfo(kChip, 1, VQ6192_ETH_SRV_ATM, &m, &info), 0u);
         } else {
-            EXPECT_EQ(VQ6192_ETH_ModifyPSNEthInfo(kChip, 1, VQ6192_ETH_SRV_ATM, &m, &info), 0u)
-                << kPos[k].name;
+            ETH_REFUSED(VQ6192_ETH_ModifyPSNEthInfo(kChip, 1, VQ6192_ETH_SRV_ATM, &m, &info));
         }
     }
 }
@@ -110,21 +105,16 @@ TEST_F(Header, AddressVlanAndDestinationMacChangeTheirFieldsOnly) {
     EXPECT_EQ(VQ6192_ETH_SetPSNEthIPAddr(kChip, 7, VQ6192_ETH_SRV_PPP, 0x01020304, 0x05060708), 0u);
     EXPECT_EQ(VQ6192_ETH_SetIngVlanID(kChip, VQ6192_ETH_SRV_PPP, 7, 0x456), 0u);
     EXPECT_EQ(VQ6192_ETH_SetSrvPktIngDA(kChip, VQ6192_ETH_SRV_PPP, 7, 0x4455, 0x2233, 0x0011), 0u);
-    EXPECT_EQ(bits(kPsn, 2055, 64, 32), 0x01020304u);
-    EXPECT_EQ(bits(kPsn, 2055, 96, 32), 0x05060708u);
-    EXPECT_EQ(bits(kPsn, 2055, 192, 12), 0x456u);
-    EXPECT_EQ(bits(kPsn, 2055, 144, 32), 0x22334455u);
-    EXPECT_EQ(bits(kPsn, 2055, 176, 16), 0x0011u);
-    EXPECT_EQ(bits(kPsn, 2055, 0, 64), 0xFFFFFFFFFFFFFFFFu);
-    EXPECT_EQ(bits(kPsn, 2055, 128, 16), 0xFFFFu);
-    EXPECT_EQ(bits(kPsn, 2055, 204, 4), 0xFu);
+    // Source 64..95, destination 96..127, MAC 144..191, VLAN 192..203; the rest stays set.
+    EXPECT_EQ((std::vector<uint64_t>{bits(kPsn, 2055, 0, 64), bits(kPsn, 2055, 64, 64),
+                                     bits(kPsn, 2055, 128, 64), bits(kPsn, 2055, 192, 16)}),
+              (std::vector<uint64_t>{~0ull, 0x0506070801020304, 0x001122334455FFFF, 0xF456}));
     uint32_t vlan = 0;
     EXPECT_EQ(VQ6192_ETH_GetIngVlanID(kChip, VQ6192_ETH_SRV_PPP, 7, &vlan), 0u);
     EXPECT_EQ(vlan, 0x456u);
-    expectRefused("vlan 4096", kEthPara, [] { return VQ6192_ETH_SetIngVlanID(kChip, 1, 7, 4096); });
-    expectRefused("type 4", kEthPara, [] { return VQ6192_ETH_SetIngVlanID(kChip, 4, 7, 1); });
-    expectRefused("DA of CES 352", kEthPara,
-                  [] { return VQ6192_ETH_SetSrvPktIngDA(kChip, 3, 352, 1, 2, 3); });
+    ETH_REFUSED(VQ6192_ETH_SetIngVlanID(kChip, 1, 7, 4096));
+    ETH_REFUSED(VQ6192_ETH_SetIngVlanID(kChip, 4, 7, 1));
+    ETH_REFUSED(VQ6192_ETH_SetSrvPktIngDA(kChip, 3, 352, 1, 2, 3));
 }
 
 TEST_F(Header, AtmAndCesEncapsulations) {
@@ -138,15 +128,13 @@ TEST_F(Header, AtmAndCesEncapsulations) {
         int64_t ethType, ipProto;  // -1: left as it was
         uint32_t inLabel, key;     // Mpls2key entry
     };
-    const Case cases[] = {
-        {"remove", 0, 0, -1, -1, 0x10005, 5},
-        {"MPLS unicast", 1, 4, 0, -1, 0x10005, 5},
-        {"MPLS multicast", 2, 4, 1, -1, 0x10005, 5},
-        {"MPLS over IP", 3, 5, 2, 0x89, 0x10005, 5},
-        {"MPLS over GRE", 4, 6, 2, 0x33, 0x10005, 5},
-        {"UDP", 5, 7, 2, 0x11, 2010, 4106},
-        {"MEF", 6, 4, 3, -1, 0x10005, 5},
-    };
+    const Case cases[] = {{"remove", 0, 0, -1, -1, 0x10005, 5},
+                          {"MPLS unicast", 1, 4, 0, -1, 0x10005, 5},
+                          {"MPLS multicast", 2, 4, 1, -1, 0x10005, 5},
+                          {"MPLS over IP", 3, 5, 2, 0x89, 0x10005, 5},
+                          {"MPLS over GRE", 4, 6, 2, 0x33, 0x10005, 5},
+                          {"UDP", 5, 7, 2, 0x11, 2010, 4106},
+                          {"MEF", 6, 4, 3, -1, 0x10005, 5}};
     for (uint32_t type : {2u, 3u}) {
         for (const Case &c : cases) {
             SCOPED_TRACE(std::string(c.name) + (type == 2 ? " ATM" : " CES"));
@@ -164,12 +152,9 @@ TEST_F(Header, AtmAndCesEncapsulations) {
             EXPECT_EQ(bits(kMpls2Key, c.key, 0, 12), key);
         }
     }
-    expectRefused("PPP service", kEthPara,
-                  [] { return VQ6192_ETH_SetAtmCesPMUEncpLbl(kChip, 1, 1, 1, 1, 1); });
-    expectRefused("encapsulation 7", kEthPara,
-                  [] { return VQ6192_ETH_SetAtmCesPMUEncpLbl(kChip, 1, 2, 7, 1, 1); });
-    expectRefused("label", kEthPara,
-                  [] { return VQ6192_ETH_SetAtmCesPMUEncpLbl(kChip, 1, 2, 1, 0x100000, 0x10005); });
+    ETH_REFUSED(VQ6192_ETH_SetAtmCesPMUEncpLbl(kChip, 1, 1, 1, 1, 1));
+    ETH_REFUSED(VQ6192_ETH_SetAtmCesPMUEncpLbl(kChip, 1, 2, 7, 1, 1));
+    ETH_REFUSED(VQ6192_ETH_SetAtmCesPMUEncpLbl(kChip, 1, 2, 1, 0x100000, 0x10005));
 }
 
 TEST_F(Header, PppAndBundleEncapsulations) {
@@ -189,9 +174,8 @@ TEST_F(Header, PppAndBundleEncapsulations) {
             EXPECT_EQ(bits(kPsn, entry, 204, 2), c.ethType) << c.encp;
         }
     }
-    expectRefused("encapsulation 5", kEthPara,
-                  [] { return VQ6192_ETH_SetPppPMUEncpLbl(kChip, 1, 1, 5, 1, 1); });
-    expectRefused("bundle 256", kEthPara, [] { return VQ6192_ETH_SetPppPMUEncpLbl(kChip, 256, 0, 7, 1, 1); });
+    ETH_REFUSED(VQ6192_ETH_SetPppPMUEncpLbl(kChip, 1, 1, 5, 1, 1));
+    ETH_REFUSED(VQ6192_ETH_SetPppPMUEncpLbl(kChip, 256, 0, 7, 1, 1));
 }
 
 TEST_F(Header, AFailedReadIsOredAndTheModifyStillWrites) {

@@ -21,20 +21,17 @@ std::vector<uint8_t> pattern(size_t n) {
 
 class CaptureTest : public PppTest {
   protected:
-    bool traced(const std::string &text) {
-        const auto t = capture.traceTexts();
-        return std::find(t.begin(), t.end(), text) != t.end();
-    }
     uint32_t region(uint32_t inner) { return PppBlock::captureAddr(inner, 0); }
+    std::vector<uint8_t> buf = std::vector<uint8_t>(2048, 0xEE);
+    uint16_t len = 0;
+    uint32_t next = 0;
 };
 
 TEST_F(CaptureTest, CaptureAddressFollowsTheInnerNumberOfTheSlot) {
     uint32_t addr = 0;
-    EXPECT_EQ(VQ6192_PPP_ComputeDdrCapAddr(kChip, 5, 0x40, &addr), 5u);
-    EXPECT_EQ(addr, 0x2280040u);
+    EXPECT_EQ((U32s{VQ6192_PPP_ComputeDdrCapAddr(kChip, 5, 0x40, &addr), addr}), (U32s{5, 0x2280040}));
     model.poke(kVc4Enable, 0x8);
-    EXPECT_EQ(VQ6192_PPP_ComputeDdrCapAddr(kChip, 3, 0, &addr), 0x600u);
-    EXPECT_EQ(addr, 0x32000000u);
+    EXPECT_EQ((U32s{VQ6192_PPP_ComputeDdrCapAddr(kChip, 3, 0, &addr), addr}), (U32s{0x600, 0x32000000}));
 }
 
 TEST_F(CaptureTest, IngressRecordsAreCutToTheReportedLength) {
@@ -42,9 +39,6 @@ TEST_F(CaptureTest, IngressRecordsAreCutToTheReportedLength) {
     // A block without the start bit, then the frame: two blocks, the end block reporting 100 bytes.
     ppp().putCaptureBlock(region(5), {});
     ppp().putIngressFrame(region(5) + 64, frame, 100);
-    std::vector<uint8_t> buf(2048, 0xEE);
-    uint16_t len = 0;
-    uint32_t next = 0;
     ASSERT_EQ(VQ6192_PPP_GetPppDdrCapPkt(kChip, 5, 0, 0, buf.data(), &len, &next), 0u);
     EXPECT_EQ(len, 100u);
     EXPECT_TRUE(std::equal(frame.begin(), frame.begin() + 100, buf.begin()));
@@ -58,9 +52,6 @@ TEST_F(CaptureTest, IngressRecordsAreCutToTheReportedLength) {
 }
 
 TEST_F(CaptureTest, IngressRecordsWithoutEndOrStart) {
-    std::vector<uint8_t> buf(2048);
-    uint16_t len = 0;
-    uint32_t next = 0;
     ppp().putIngressFrame(region(7), pattern(2100), UINT32_MAX, false);
     ASSERT_EQ(VQ6192_PPP_GetPppDdrCapPktUp(kChip, 7, 0, buf.data(), &len, &next), 0u);
     EXPECT_EQ(len, 2000u);
@@ -75,9 +66,6 @@ TEST_F(CaptureTest, IngressRecordsWithoutEndOrStart) {
 TEST_F(CaptureTest, EgressRecords) {
     const auto frame = pattern(150);
     ppp().putEgressFrame(region(9) + 128, frame);
-    std::vector<uint8_t> buf(2048);
-    uint16_t len = 0;
-    uint32_t next = 0;
     ASSERT_EQ(VQ6192_PPP_GetPppDdrCapPkt(kChip, 9, 0, 1, buf.data(), &len, &next), 0u);
     EXPECT_EQ(len, 150u);
     EXPECT_TRUE(std::equal(frame.begin(), frame.end(), buf.begin()));
@@ -88,9 +76,7 @@ TEST_F(CaptureTest, EgressRecords) {
 }
 
 TEST_F(CaptureTest, WorkBufferRefused) {
-    std::vector<uint8_t> buf(2048);
-    uint16_t len = 0;
-    uint32_t next = 0, flen = 0;
+    uint32_t flen = 0;
     VQ6192_Platform_FailAllocs(0, 3);
     EXPECT_EQ(VQ6192_PPP_GetPppDdrCapPktUp(kChip, 5, 0, buf.data(), &len, &next), kNoMem);
     EXPECT_EQ(VQ6192_PPP_GetPppDdrCapPktDown(kChip, 5, 0, buf.data(), &len, &next), kNoMem);
@@ -98,12 +84,10 @@ TEST_F(CaptureTest, WorkBufferRefused) {
 }
 
 TEST_F(CaptureTest, DdrCaptureRunControl) {
-    model.poke(0x13600, 0x0000);
-    model.poke(0x13602, 0xFFFE);
+    poke({{0x13600, 0x0000}, {0x13602, 0xFFFE}});
     model.setTrace(true);
     ASSERT_EQ(VQ6192_PPP_StartPppDdrCapPkt(kChip, 1, 8191), 0u);
-    EXPECT_EQ(model.peek(0x13600), 0x3FFFu);
-    EXPECT_EQ(model.peek(0x13602), 0xFFFEu) << "egress selects 0";
+    EXPECT_EQ(peek({0x13600, 0x13602}), (U32s{0x3FFF, 0xFFFE})) << "egress selects 0";
     const auto w = busWrites();
     ASSERT_EQ(w.size(), 4u);
     EXPECT_EQ(w.front().addr, 0x13600u);
@@ -115,11 +99,17 @@ TEST_F(CaptureTest, DdrCaptureRunControl) {
 }
 
 TEST_F(CaptureTest, CobcCapture) {
-    std::vector<uint8_t> buf(1100, 0);
-    uint16_t len = 7;
+    len = 7;
     EXPECT_EQ(VQ6192_PPP_GetCobcCapPkt(kChip, buf.data(), &len), 0u);
     EXPECT_EQ(len, 0u) << "nothing ready";
 
+    // A start word, 510 data words and an end word: 512 fetches of two bytes.
+    std::vector<PppBlock::CobcWord> longWords(512, {0x4344, 0});
+    longWords.front() = {0x4142, 2}, longWords.back() = {0x4546, 4};
+    std::vector<uint8_t> longBytes;
+    for (const auto &w : longWords) {
+        longBytes.insert(longBytes.end(), {static_cast<uint8_t>(w.data >> 8), static_cast<uint8_t>(w.data)});
+    }
     struct Case {
         const char *name;
         std::vector<PppBlock::CobcWord> words;
@@ -145,7 +135,7 @@ TEST_F(CaptureTest, CobcCapture) {
          0,
          {},
          "VQ6192_PPP_GetCobcCapPkt Can't find SOP!\n"},
-    };
+        {"1024 bytes, the most one capture reads", longWords, 0, longBytes, nullptr}};
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         capture.clear();
@@ -165,13 +155,7 @@ TEST_F(CaptureTest, CobcStartAndStop) {
     model.setTrace(true);
     ASSERT_EQ(VQ6192_PPP_StartCobcCap(kChip, 0x7FF), 0u);
     EXPECT_EQ(model.peek(0x11012), 0xFFFFu);  // channel bits 1..11, start bit 0
-    std::vector<uint32_t> clear;
-    for (const auto &a : busWrites()) {
-        if (a.addr == 0x11014) {
-            clear.push_back(a.value);
-        }
-    }
-    EXPECT_EQ(clear, (std::vector<uint32_t>{0, 1, 0}));
+    EXPECT_EQ(writesTo(0x11014), (U32s{0, 1, 0}));
     ASSERT_EQ(VQ6192_PPP_StopCobcCap(kChip), 0u);
     EXPECT_EQ(model.peek(0x11012), 0xFFFEu);
     // Channels 2048..4095 pass the bound but the field holds 11 bits.
@@ -182,37 +166,23 @@ TEST_F(CaptureTest, CobcStartAndStop) {
 TEST_F(CaptureTest, FifoCapture) {
     const auto frame = pattern(10);
     ppp().loadFifoFrame(frame);
-    std::vector<uint8_t> buf(2048);
-    uint32_t len = 0;
+    uint32_t flen = 0;
     model.poke(kVc4Enable, 0x2);
-    ASSERT_EQ(VQ6192_PPP_CapturePppFifoPkt(kChip, 1, 0, buf.data(), &len), 0u);
-    EXPECT_EQ(len, 10u);
+    ASSERT_EQ(VQ6192_PPP_CapturePppFifoPkt(kChip, 1, 0, buf.data(), &flen), 0u);
+    EXPECT_EQ(flen, 10u);
     EXPECT_TRUE(std::equal(frame.begin(), frame.end(), buf.begin()));
-    EXPECT_EQ(model.peek(0x1300E), 0x200u) << "the channel's inner number";
-    EXPECT_EQ(model.peek(0x1300C), 0u) << "start cleared, type PPP";
+    EXPECT_EQ(peek({0x1300E, 0x1300C}), (U32s{0x200, 0})) << "the inner number; start cleared, type PPP";
 
-    struct Case {
-        const char *name;
-        bool ready;
-        uint32_t ackWords;
-        uint64_t waitUs;
-        const char *message;
-    };
-    const Case cases[] = {
-        {"never ready", false, PppBlock::kForever, 3 * 1000000,
-         "VQ6192_PPP_CapturePppFifoPkt : Get Fifo Cap Ready Failed\n"},
-        {"read not acknowledged", true, 1, 10000 + 3 * 1000000,
-         "VQ6192_PPP_GetPppFifoCapData : Get Fifo Cap Read Ack Failed\n"},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
+    // Never ready; ready but the read never acknowledged.
+    for (const bool ready : {false, true}) {
         ppp().loadFifoFrame(frame);
-        ppp().setFifoReady(c.ready);
-        ppp().stopFifoAckAfter(c.ackWords);
+        ppp().setFifoReady(ready);
+        ppp().stopFifoAckAfter(ready ? 1 : PppBlock::kForever);
         VQ6192_Platform_ResetVirtualTime();
-        EXPECT_EQ(VQ6192_PPP_CapturePppFifoPkt(kChip, 255, 1, buf.data(), &len), kNoData);
-        EXPECT_EQ(virtualUs(), c.waitUs);
-        EXPECT_TRUE(traced(c.message));
+        EXPECT_EQ(VQ6192_PPP_CapturePppFifoPkt(kChip, 255, 1, buf.data(), &flen), kNoData);
+        EXPECT_EQ(virtualUs(), ready ? 10000 + 3 * 1000000 : 3 * 1000000);
+        EXPECT_TRUE(traced(ready ? "VQ6192_PPP_GetPppFifoCapData : Get Fifo Cap Read Ack Failed\n"
+                                 : "VQ6192_PPP_CapturePppFifoPkt : Get Fifo Cap Ready Failed\n"));
         EXPECT_EQ(model.peek(0x1300C), 1u) << "start cleared, type bundle";
     }
 }
@@ -229,29 +199,21 @@ TEST_F(CaptureTest, LinkCountersComeFromEachMembersEntry) {
     VQ6192_PPP_LINK_STAT_S s{};
     ASSERT_EQ(VQ6192_PPP_GetPppLinkStat(kChip, 9, &s), 0u);
     // Member 7, bits 144..175: the block moves ten halves (bits 0..159), so only the low half arrives.
-    EXPECT_EQ(s.dwRxBytesCnt, 0x7009u);
-    EXPECT_EQ(s.dwRxAvailCnt, 0x60086007u);  // member 6, bits 112..143
-    EXPECT_EQ(s.dwRxRightCnt, 0x00010000u);  // member 0, bits 0..31
-    EXPECT_EQ(s.dwRxmLinkCnt, 0x12345678u);
-    EXPECT_EQ(s.dwRxAbortCnt, 0x5006u);  // member 5, bits 96..111
-    EXPECT_EQ(s.dwRxCrcErrCnt, 0x4005u);
-    EXPECT_EQ(s.dwRx8bitErrCnt, 0x3004u);
-    EXPECT_EQ(s.dwRxLongErrCnt, 0x2003u);
-    EXPECT_EQ(s.dwRxShortErrCnt, 0x1002u);
-    EXPECT_EQ(s.dwTxBytesCnt, 0x31053104u);  // member 3, bits 64..95
-    EXPECT_EQ(s.dwTxRightCnt, 0x21032102u);
-    EXPECT_EQ(s.dwTxAbortCnt, 0x1101u);
-    EXPECT_EQ(s.dwTxErrCnt, 0x0100u);
+    // Rx: bytes member 7 (0..15), available member 6 (112..143), right member 0 (0..31), abort member 5
+    // (96..111) down to short member 1; Tx: bytes member 3 (64..95) down to errors member 0.
+    EXPECT_EQ((U32s{s.dwRxBytesCnt, s.dwRxAvailCnt, s.dwRxRightCnt, s.dwRxmLinkCnt, s.dwRxAbortCnt,
+                    s.dwRxCrcErrCnt, s.dwRx8bitErrCnt, s.dwRxLongErrCnt, s.dwRxShortErrCnt, s.dwTxBytesCnt,
+                    s.dwTxRightCnt, s.dwTxAbortCnt, s.dwTxErrCnt}),
+              (U32s{0x7009, 0x60086007, 0x00010000, 0x12345678, 0x5006, 0x4005, 0x3004, 0x2003, 0x1002,
+                    0x31053104, 0x21032102, 0x1101, 0x0100}));
 
     VQ6192_PPP_LINK_STAT_S mp{};
     mp.dwRxAvailCnt = 0xAAAA;
     mp.dwRxmLinkCnt = 0xBBBB;
     ASSERT_EQ(VQ6192_PPP_GetPppLinkStatForMp(kChip, 9, &mp), 0u);
-    EXPECT_EQ(mp.dwRxBytesCnt, 0x7009u);
-    EXPECT_EQ(mp.dwRxRightCnt, 0x00010000u);
-    EXPECT_EQ(mp.dwTxErrCnt, 0x0100u);
-    EXPECT_EQ(mp.dwRxAvailCnt, 0xAAAAu) << "not filled";
-    EXPECT_EQ(mp.dwRxmLinkCnt, 0xBBBBu);
+    EXPECT_EQ((U32s{mp.dwRxBytesCnt, mp.dwRxRightCnt, mp.dwTxErrCnt, mp.dwRxAvailCnt, mp.dwRxmLinkCnt}),
+              (U32s{0x7009, 0x00010000, 0x0100, 0xAAAA, 0xBBBB}))
+        << "available and link counts not filled";
 }
 
 TEST_F(CaptureTest, BundleCounters) {
@@ -269,41 +231,28 @@ TEST_F(CaptureTest, BundleCounters) {
     setEntry(kMprbyte, 4, 0x05060708);
     VQ6192_MP_INGRESS_STAT_S s{};
     ASSERT_EQ(VQ6192_PPP_GetMpIngressStat(kChip, 4, &s), 0u);
-    EXPECT_EQ(s.dwRgrpFragCnt, 0x00010000u);  // member 0, bits 0..31
-    EXPECT_EQ(s.dwRgrpPktCnt, 0x10031002u);   // member 1, bits 32..63
-    EXPECT_EQ(s.dwRgrpAbrCnt, 0x20052004u);   // member 2, bits 64..95
-    EXPECT_EQ(s.dwRgrpRepCnt, 0x4008u);       // member 4, bits 128..143
-    EXPECT_EQ(s.dwRgrpOtCnt, 0x30073006u);    // member 3, bits 96..127
-    EXPECT_EQ(s.dwRgrpSnErrCnt, 0x5009u);     // member 5, bits 144..159
-    EXPECT_EQ(s.dwRxMpBytesCnt, 0xCAFEF00Du);
-    EXPECT_EQ(s.wRxmMpBCnt, 0x1111u);
-    EXPECT_EQ(s.wRxmMpECnt, 0x2222u);
-    for (uint32_t q = 0; q < 8; ++q) {
-        EXPECT_EQ(s.wMcRxCnt[q], q + 1);
-    }
+    // Fragments member 0 (0..31), packets member 1 (32..63), aborts member 2 (64..95), repeats member 4
+    // (128..143), time-outs member 3 (96..127), SN errors member 5 (144..159).
+    EXPECT_EQ(
+        (U32s{s.dwRgrpFragCnt, s.dwRgrpPktCnt, s.dwRgrpAbrCnt, s.dwRgrpRepCnt, s.dwRgrpOtCnt,
+              s.dwRgrpSnErrCnt, s.dwRxMpBytesCnt, s.wRxmMpBCnt, s.wRxmMpECnt}),
+        (U32s{0x00010000, 0x10031002, 0x20052004, 0x4008, 0x30073006, 0x5009, 0xCAFEF00D, 0x1111, 0x2222}));
+    EXPECT_EQ(std::vector<uint16_t>(s.wMcRxCnt, s.wMcRxCnt + 8),
+              (std::vector<uint16_t>{1, 2, 3, 4, 5, 6, 7, 8}));
     VQ6192_MP_EGRESS_STAT_S e{};
     ASSERT_EQ(VQ6192_PPP_GetMpEgressStat(kChip, 4, &e), 0u);
-    EXPECT_EQ(e.dwTxMpRpkt, 0x01020304u);
-    EXPECT_EQ(e.dwTxMpRbyte, 0x05060708u);
+    EXPECT_EQ((U32s{e.dwTxMpRpkt, e.dwTxMpRbyte}), (U32s{0x01020304, 0x05060708}));
     VQ6192_MP_EGRESS_STAT_S n{0, 0x77};
     ASSERT_EQ(VQ6192_PPP_GetMpEgressStatNew(kChip, 4, &n), 0u);
     EXPECT_EQ(n.dwTxMpRbyte, 0x77u);
 }
 
 TEST_F(CaptureTest, GlobalCountersRegisterByRegister) {
-    struct Reg {
-        uint32_t addr;
-        uint16_t value;
-    };
     // Egress: fields in structure order.
-    const Reg eg[] = {{0x12014, 1},  {0x12012, 2},      {0x1201A, 3},  {0x12018, 4},  {0x12016, 5},
-                      {0x1200E, 6},  {0x12010, 7},      {0x12040, 8},  {0x12200, 9},  {0x12030, 10},
-                      {0x12032, 11}, {0x12004, 0xFFFF}, {0x12006, 13}, {0x12008, 14}, {0x1200A, 15},
-                      {0x1200C, 16}, {0x1201C, 17},     {0x1202A, 18}, {0x1202E, 19}, {0x1202C, 20},
-                      {0x1203C, 21}, {0x1203E, 22},     {0x12036, 23}, {0x12038, 24}};
-    for (const Reg &r : eg) {
-        model.poke(r.addr, r.value);
-    }
+    poke({{0x12014, 1},  {0x12012, 2},  {0x1201A, 3},  {0x12018, 4},  {0x12016, 5},  {0x1200E, 6},
+          {0x12010, 7},  {0x12040, 8},  {0x12200, 9},  {0x12030, 10}, {0x12032, 11}, {0x12004, 0xFFFF},
+          {0x12006, 13}, {0x12008, 14}, {0x1200A, 15}, {0x1200C, 16}, {0x1201C, 17}, {0x1202A, 18},
+          {0x1202E, 19}, {0x1202C, 20}, {0x1203C, 21}, {0x1203E, 22}, {0x12036, 23}, {0x12038, 24}});
     VQ6192_PPP_GLOBAL_EG_STAT_S s{};
     ASSERT_EQ(VQ6192_PPP_GetPppGlobalEgressStat(kChip, &s), 0u);
     const uint16_t *f = &s.wTpPppCnt;
@@ -314,68 +263,56 @@ TEST_F(CaptureTest, GlobalCountersRegisterByRegister) {
     for (uint32_t k = 0; k < 16; ++k) {
         model.poke(0x13028 + 2 * k, static_cast<uint16_t>(0x100 + k));
     }
-    model.poke(0x11004, 0xA1);
-    model.poke(0x1100E, 0xA6);
-    model.poke(0x13064, 0xB9);
-    model.poke(0x13224, 0xC5);
+    poke({{0x11004, 0xA1}, {0x1100E, 0xA6}, {0x13064, 0xB9}, {0x13224, 0xC5}});
     VQ6192_PPP_GLOBAL_IN_STAT_S in{};
     in.wTxmTppuCnt = 0x5555;
     in.wRxmTdisDropCnt = 0x6666;
     ASSERT_EQ(VQ6192_PPP_GetPppGlobalIngressStat(kChip, &in), 0u);
-    EXPECT_EQ(in.wRppuRsrCnt, 0xA1u);
-    EXPECT_EQ(in.wTppuTsrCnt, 0xA6u);
-    EXPECT_EQ(in.dwRpHdlcCnt, 0x01010100u);  // low half first
-    EXPECT_EQ(in.dwRpPppDropCnt, 0x010F010Eu);
-    EXPECT_EQ(in.wRpFragErrCnt, 0xB9u);
-    EXPECT_EQ(in.wRxmRerrCnt, 0xC5u);
-    EXPECT_EQ(in.wTxmTppuCnt, 0x5555u) << "left as it was";
-    EXPECT_EQ(in.wRxmTdisDropCnt, 0x6666u);
+    // Pairs low half first; the Txm TPPU and Tdis drop counts left as they were.
+    EXPECT_EQ((U32s{in.wRppuRsrCnt, in.wTppuTsrCnt, in.dwRpHdlcCnt, in.dwRpPppDropCnt, in.wRpFragErrCnt,
+                    in.wRxmRerrCnt, in.wTxmTppuCnt, in.wRxmTdisDropCnt}),
+              (U32s{0xA1, 0xA6, 0x01010100, 0x010F010E, 0xB9, 0xC5, 0x5555, 0x6666}));
 }
 
 TEST_F(CaptureTest, CrcAndFifoFlags) {
-    model.poke(0x11400 + 2 * 12, 0x11);
-    model.poke(0x11500 + 2 * 12, 0x22);
-    model.poke(0x11700 + 2 * 12, 0x33);
+    poke({{0x11400 + 2 * 12, 0x11}, {0x11500 + 2 * 12, 0x22}, {0x11700 + 2 * 12, 0x33}});
     uint16_t crc[3] = {};
     ASSERT_EQ(VQ6192_PPP_GetPppCrcCorrectStat(kChip, 12, crc), 0u);
-    EXPECT_EQ(crc[0], 0x11u);
-    EXPECT_EQ(crc[1], 0x22u);
-    EXPECT_EQ(crc[2], 0x33u);
+    EXPECT_EQ((U32s{crc[0], crc[1], crc[2]}), (U32s{0x11, 0x22, 0x33}));
 
     model.poke(0x11300 + 2 * 12, 0xFFFE);
     VQ6192_PPP_CRC_FIFO_STATUS_S cur{9, 9};
     VQ6192_PPP_CRC_FIFO_HIS_STATUS_S his{9, 9};
     ASSERT_EQ(VQ6192_PPP_GetPppCrcFifoStatus(kChip, 12, &cur, &his), 0u);
-    EXPECT_EQ(cur.bCrcFifoFull, 1u);
-    EXPECT_EQ(cur.bCrcFifoEmpty, 0u);
-    EXPECT_EQ(his.bCrcFifoHisFull, 1u);
-    EXPECT_EQ(his.bCrcFifoHisEmpty, 9u) << "kept";
+    EXPECT_EQ((U32s{cur.bCrcFifoFull, cur.bCrcFifoEmpty, his.bCrcFifoHisFull, his.bCrcFifoHisEmpty}),
+              (U32s{1, 0, 1, 9}))
+        << "history empty flag kept";
 
-    struct Flag {
-        uint32_t addr;
-        uint16_t value;
-        uint32_t cur, his;  // bits expected in each word
-    };
-    const Flag flags[] = {
-        {0x1304C, 0x0008, 1u << 31, 0}, {0x1304E, 0x0001, 0, 1u << 29}, {0x13204, 0x0030, 0, 3u << 26},
-        {0x13204, 0x0001, 1u << 25, 0}, {0x13050, 0x0004, 1u << 23, 0}, {0x13052, 0x0002, 0, 1u << 24},
-        {0x130D6, 0x0020, 1u << 20, 0}, {0x130D8, 0x0001, 0, 1u << 16}, {0x130DA, 0x0200, 1u << 14, 0},
-        {0x130DC, 0x0010, 0, 1u << 14}, {0x130DA, 0x0001, 1u << 5, 0},  {0x130DC, 0x0001, 0, 1u << 6},
-    };
-    for (const Flag &f : flags) {
-        SCOPED_TRACE(testing::Message() << std::hex << f.addr << " " << f.value);
+    // Register and value; bits expected in the current and the history word.
+    for (const auto &[addr, value, cw, hw] : Rows<4>{{0x1304C, 0x0008, 1u << 31, 0},
+                                                     {0x1304E, 0x0001, 0, 1u << 29},
+                                                     {0x13204, 0x0030, 0, 3u << 26},
+                                                     {0x13204, 0x0001, 1u << 25, 0},
+                                                     {0x13050, 0x0004, 1u << 23, 0},
+                                                     {0x13052, 0x0002, 0, 1u << 24},
+                                                     {0x130D6, 0x0020, 1u << 20, 0},
+                                                     {0x130D8, 0x0001, 0, 1u << 16},
+                                                     {0x130DA, 0x0200, 1u << 14, 0},
+                                                     {0x130DC, 0x0010, 0, 1u << 14},
+                                                     {0x130DA, 0x0001, 1u << 5, 0},
+                                                     {0x130DC, 0x0001, 0, 1u << 6}}) {
+        SCOPED_TRACE(testing::Message() << std::hex << addr << " " << value);
         model.reset();
-        model.poke(f.addr, f.value);
+        model.poke(static_cast<uint32_t>(addr), static_cast<uint16_t>(value));
         VQ6192_PPP_FIFO_STATUS_S c{};
         VQ6192_PPP_FIFO_HIS_STATUS_S h{};
         c.bReserved = 0x15;
         h.bReserved = 0x0A;
         ASSERT_EQ(VQ6192_PPP_GetPppFifoStatus(kChip, &c, &h), 0u);
-        uint32_t cw = 0, hw = 0;
-        std::memcpy(&cw, &c, 4);
-        std::memcpy(&hw, &h, 4);
-        EXPECT_EQ(cw, f.cur | 0x15u);
-        EXPECT_EQ(hw, f.his | 0x0Au);
+        uint32_t cwGot = 0, hwGot = 0;
+        std::memcpy(&cwGot, &c, 4);
+        std::memcpy(&hwGot, &h, 4);
+        EXPECT_EQ((U64s{cwGot, hwGot}), (U64s{cw | 0x15u, hw | 0x0Au}));
     }
 }
 
@@ -383,8 +320,7 @@ TEST_F(CaptureTest, DelayTest) {
     setEntry(kLinkcfg, 30, 0x2FFF);
     setEntry(kMptesttxen, 30, 0);
     ASSERT_EQ(VQ6192_PPP_SetPppTestTxEnable(kChip, 30, 1), 0u);
-    EXPECT_EQ(entry(kMptesttxen, 30), 1u);
-    EXPECT_EQ(entry(kLinkcfg, 30), 0x3FFFu);
+    EXPECT_EQ(entries({kMptesttxen, kLinkcfg}, 30), (U64s{1, 0x3FFF}));
     uint32_t en = 0;
     setEntry(kMptesttxen, 30, 0);
     ASSERT_EQ(VQ6192_PPP_GetPppTestTxEnable(kChip, 30, &en), 0u);
@@ -400,19 +336,12 @@ TEST_F(CaptureTest, DelayTest) {
     }
     uint32_t t[4] = {};
     ASSERT_EQ(VQ6192_PPP_GetPppDelayTime(kChip, 30, t), 0u);
-    EXPECT_EQ(t[0], 0x22221111u);
-    EXPECT_EQ(t[3], 0x88887777u);
+    EXPECT_EQ((U32s{t[0], t[3]}), (U32s{0x22221111, 0x88887777}));
 
-    model.poke(0x1340A, 1);
-    model.poke(0x1340C, 2);
-    model.poke(0x1340E, 3);
-    model.poke(0x13410, 4);
+    poke({{0x1340A, 1}, {0x1340C, 2}, {0x1340E, 3}, {0x13410, 4}});
     uint16_t st[4] = {};
     ASSERT_EQ(VQ6192_PPP_GetPppDelayTestStat(kChip, st), 0u);
-    EXPECT_EQ(st[0], 3u);
-    EXPECT_EQ(st[1], 1u);
-    EXPECT_EQ(st[2], 4u);
-    EXPECT_EQ(st[3], 2u);
+    EXPECT_EQ((U32s{st[0], st[1], st[2], st[3]}), (U32s{3, 1, 4, 2}));
 }
 
 }  // namespace

@@ -1,44 +1,43 @@
 // PPP channel numbering against the VC-4 PPP enable register.
-#include "support/test_support.h"
-#include "vq6192/ppp.h"
+#include "ppp_fixture.h"
 
 namespace {
 
-using PppNumbering = vqtest::ChipTest;
-
-constexpr uint32_t kVc4Enable = 0x10048;
+using namespace ppptest;
+using PppNumbering = PppTest;
 
 TEST_F(PppNumbering, EnabledVc4ChannelsLiveAtMultiplesOf512) {
-    struct Case {
-        uint16_t enables;
-        uint32_t channel, inner;
-    };
-    const Case cases[] = {
-        {0x2, 1, 0x200}, {0x0, 1, 1},     {0x1, 0, 0},    {0x0, 0, 0},     {0xF, 3, 0x600},
-        {0xF, 4, 4},     {0xF, 511, 511}, {0xFFF0, 2, 2}, {0x4, 2, 0x400},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(testing::Message() << "enables " << c.enables << " channel " << c.channel);
-        model.poke(kVc4Enable, c.enables);
+    // VC-4 enables, channel, inner number.
+    for (const auto &[enables, channel, inner] : Rows<3>{{0x2, 1, 0x200},
+                                                         {0x0, 1, 1},
+                                                         {0x1, 0, 0},
+                                                         {0x0, 0, 0},
+                                                         {0xF, 3, 0x600},
+                                                         {0xF, 4, 4},
+                                                         {0xF, 511, 511},
+                                                         {0xFFF0, 2, 2},
+                                                         {0x4, 2, 0x400}}) {
+        model.poke(kVc4Enable, static_cast<uint16_t>(enables));
         for (uint32_t dir : {0u, 1u, 2u}) {
-            EXPECT_EQ(VQ6192_PPP_CalcPppChnl(kChip, c.channel, dir), c.inner);
+            EXPECT_EQ(VQ6192_PPP_CalcPppChnl(kChip, static_cast<uint32_t>(channel), dir), inner)
+                << enables << " " << channel;
         }
     }
 }
 
 TEST_F(PppNumbering, InverseGivesBackTheCallersNumber) {
-    struct Case {
-        uint16_t enables;
-        uint32_t inner, channel;
-    };
-    const Case cases[] = {
-        {0x2, 0x200, 1},     {0x0, 0x200, 0x200}, {0x8, 0x600, 3}, {0x8, 0x601, 0x601},
-        {0xF, 0x800, 0x800}, {0xF, 0x100, 0x100}, {0xF, 5, 5},     {0x1, 0, 0},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(testing::Message() << "enables " << c.enables << " inner " << c.inner);
-        model.poke(kVc4Enable, c.enables);
-        EXPECT_EQ(VQ6192_PPP_ReCalcPppChnl(kChip, c.inner, 0), c.channel);
+    // VC-4 enables, inner number, channel.
+    for (const auto &[enables, inner, channel] : Rows<3>{{0x2, 0x200, 1},
+                                                         {0x0, 0x200, 0x200},
+                                                         {0x8, 0x600, 3},
+                                                         {0x8, 0x601, 0x601},
+                                                         {0xF, 0x800, 0x800},
+                                                         {0xF, 0x100, 0x100},
+                                                         {0xF, 5, 5},
+                                                         {0x1, 0, 0}}) {
+        model.poke(kVc4Enable, static_cast<uint16_t>(enables));
+        EXPECT_EQ(VQ6192_PPP_ReCalcPppChnl(kChip, static_cast<uint32_t>(inner), 0), channel)
+            << enables << " " << inner;
     }
     // Round trip over the whole channel space with all four VC-4 channels enabled.
     model.poke(kVc4Enable, 0xF);
@@ -57,7 +56,6 @@ TEST_F(PppNumbering, ReadsTheEnableRegisterEveryTime) {
 }
 
 TEST_F(PppNumbering, EgressTraceForOrdinaryChannels) {
-    VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_PPP, VQ6192_PRINT_ALL);
     model.poke(kVc4Enable, 0x1);
     VQ6192_PPP_CalcPppChnl(kChip, 0, 1);  // VC-4 channel: no trace
     VQ6192_PPP_CalcPppChnl(kChip, 7, 1);

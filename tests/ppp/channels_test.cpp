@@ -14,51 +14,36 @@ using vq6192::sim::PppBlock;
 constexpr uint32_t kTsIngress = 0;
 constexpr uint32_t kTsEgress = 1;
 
-std::vector<uint32_t> resetWrites(const std::vector<vq6192::sim::BusAccess> &w) {
-    std::vector<uint32_t> out;
-    for (const auto &a : w) {
-        if (a.addr == 0x12216) {
-            out.push_back(a.value);
-        }
-    }
-    return out;
-}
-
 TEST_F(PppTest, TypicalRequestPppChannelOnE1Tributary5) {
     // Neighbouring bits set everywhere, the engines closed.
-    setEntry(kTppucfg, 37, 0x3FFF);
-    setEntry(kRppucfg, 37, 0x1FFFFFFF);
-    setEntry(kLinkcfg, 37, 0x3FFE);
-    setEntry(kHdlccfg1, 37, 0x6);
+    const uint32_t sels[] = {kTppucfg, kRppucfg, kLinkcfg, kHdlccfg1};
+    const uint64_t before[] = {0x3FFF, 0x1FFFFFFF, 0x3FFE, 0x6};
+    // Tppucfg Chcen (bit 12) and Rppucfg Chcen (bit 27) opened; Linkpppen and Mprxmlinktype0: PPP link.
+    const uint64_t after[] = {0x2FFF, 0x17FFFFFF, 0x3FFF, 0x7};
+    for (int k = 0; k < 4; ++k) {
+        setEntry(sels[k], 37, before[k]);
+    }
     const VQ6192_PPP_CHAN_S chan{5, 37, 0xFFFFFFFEu, 3};
     ASSERT_EQ(VQ6192_PPP_CreatePppChan(kChip, &chan), 0u);
-
-    EXPECT_EQ(entry(kTppucfg, 37), 0x2FFFu);      // Chcen (bit 12) opened
-    EXPECT_EQ(entry(kRppucfg, 37), 0x17FFFFFFu);  // Chcen (bit 27) opened
-    EXPECT_EQ(entry(kLinkcfg, 37), 0x3FFFu);      // Linkpppen: PPP link
-    EXPECT_EQ(entry(kHdlccfg1, 37), 0x7u);        // Mprxmlinktype0: PPP link
+    for (int k = 0; k < 4; ++k) {
+        EXPECT_EQ(entry(sels[k], 37), after[k]) << sels[k];
+    }
     // One entry per timeslot 1..31 in both directions: En, MLPPP module, 64 kbit/s, channel 37.
     for (uint32_t ts = 0; ts < 32; ++ts) {
-        const uint16_t want = ts == 0 ? 0 : 0xD825;
-        EXPECT_EQ(tsEntry(kTsIngress, 5, ts), want) << "ts " << ts;
-        EXPECT_EQ(tsEntry(kTsEgress, 5, ts), want) << "ts " << ts;
+        const uint32_t want = ts == 0 ? 0 : 0xD825;
+        EXPECT_EQ((U32s{tsEntry(kTsIngress, 5, ts), tsEntry(kTsEgress, 5, ts)}), (U32s{want, want})) << ts;
     }
-    const auto traces = capture.traceTexts();
-    EXPECT_NE(
-        std::find(
-            traces.begin(), traces.end(),
-            "VQ6192_PPP_CreatePppChan : Set E1:[5] TS:[0xfffffffe] To PPP:[37] Speed:[3] Return:[0x0]\n"),
-        traces.end());
+    EXPECT_TRUE(
+        traced("VQ6192_PPP_CreatePppChan : Set E1:[5] TS:[0xfffffffe] To PPP:[37] Speed:[3] Return:[0x0]\n"));
 }
 
 TEST_F(PppTest, CreateOnAnE1TheTimeslotLayerRefusesOrsItsStatus) {
     // Port 400 passes the channel layer's bound (512) but not the timeslot layer's (335).
     setEntry(kTppucfg, 8, 0x1000);
     const VQ6192_PPP_CHAN_S chan{400, 8, 0x2, 3};
-    const uint32_t rc = VQ6192_PPP_CreatePppChan(kChip, &chan);
-    EXPECT_EQ(rc, 0x030E0001u);  // the framer's parameter error, ORed
-    EXPECT_EQ(entry(kTppucfg, 8), 0u) << "later steps still run";
-    EXPECT_EQ(entry(kLinkcfg, 8), 0x1u);
+    EXPECT_EQ(VQ6192_PPP_CreatePppChan(kChip, &chan), 0x030E0001u);  // the framer's parameter error, ORed
+    EXPECT_EQ((U32s{uint32_t(entry(kTppucfg, 8)), uint32_t(entry(kLinkcfg, 8))}), (U32s{0, 1}))
+        << "later steps run";
 }
 
 TEST_F(PppTest, Vc4ChannelLivesAtItsInnerNumber) {
@@ -66,170 +51,107 @@ TEST_F(PppTest, Vc4ChannelLivesAtItsInnerNumber) {
     ASSERT_EQ(VQ6192_PPP_SetMpVc4En(kChip, 1, 1), 0u);
     EXPECT_EQ(model.peek(kVc4Enable), 0x2u);
     // H 0x3FF00 (bits 20..39), L 6400 (0..19), Drop 0x3FFFF (40..59); bits 60..63 kept.
-    EXPECT_EQ(entry(kHdfccfg, 0x200), 0xF000000000000000ull | 0x3FFFFull << 40 | 0x3FF00ull << 20 | 6400u);
+    EXPECT_EQ(entry(kHdfccfg, 0x200), 0xF3FFFF3FF0001900u);
 
     setEntry(kTppucfg, 0x200, 0x1000);
     setEntry(kRppucfg, 0x200, 0x08000000);
     const VQ6192_PPP_CHAN_S chan{2, 1, 0, 0};
     ASSERT_EQ(VQ6192_PPP_CreateVC4PppChan(kChip, &chan), 0u);
-    EXPECT_EQ(entry(kTppucfg, 0x200), 0x2000u);      // Chcen 0, Crcfe 1
-    EXPECT_EQ(entry(kRppucfg, 0x200), 0x10000000u);  // Chcen 0, Crcfe 1
-    EXPECT_EQ(entry(kLinkcfg, 0x200), 0x1u);
-    EXPECT_EQ(entry(kHdlccfg1, 0x200), 0x1u);
-    EXPECT_EQ(entry(kLinkcfg, 1), 0u) << "ordinary channel 1 untouched";
+    // Tppucfg and Rppucfg: Chcen 0, Crcfe 1; ordinary channel 1 untouched.
+    EXPECT_EQ((std::vector<uint64_t>{entry(kTppucfg, 0x200), entry(kRppucfg, 0x200), entry(kLinkcfg, 0x200),
+                                     entry(kHdlccfg1, 0x200), entry(kLinkcfg, 1)}),
+              (std::vector<uint64_t>{0x2000, 0x10000000, 1, 1, 0}));
 
     // Disabled again: the watermarks of a disabled channel land at entry 1.
     ASSERT_EQ(VQ6192_PPP_SetMpVc4En(kChip, 1, 0), 0u);
     EXPECT_EQ(model.peek(kVc4Enable), 0x0u);
-    EXPECT_EQ(entry(kHdfccfg, 1), 255ull << 40 | 51ull << 20 | 25u);
+    EXPECT_EQ(entry(kHdfccfg, 1), 0xFF0003300019u);  // drop 255, high 51, low 25
 }
 
 TEST_F(PppTest, Vc4ChannelRefusedWhileItsEnableIsOff) {
     model.poke(kVc4Enable, 0xD);  // every VC-4 channel but 1
-    model.setTrace(true);
     const VQ6192_PPP_CHAN_S chan{1, 1, 0, 0};
-    EXPECT_EQ(VQ6192_PPP_CreateVC4PppChan(kChip, &chan), kParaErr);
-    EXPECT_TRUE(busWrites().empty());
-    EXPECT_EQ(paraErrs(), std::vector<std::string>{"ParaErr. [ usVc4Enable == VQ6192_PPP_ENABLE ]\r\n"});
+    PPP_REFUSED(VQ6192_PPP_CreateVC4PppChan(kChip, &chan), "usVc4Enable == VQ6192_PPP_ENABLE");
 }
 
 TEST_F(PppTest, DeleteRestoresTheChannelAndResetsIt) {
-    setEntry(kHdlccfg1, 9, 0x7);
-    setEntry(kLinkcfg, 9, 0x3FFF);
-    setEntry(kRppucfg, 9, 0x1FFFFFFF);
-    setEntry(kTppucfg, 9, 0x3FFF);
-    setEntry(kAfidcfg, 9, 0xFFF);
+    const uint32_t sels[] = {kHdlccfg1, kLinkcfg, kRppucfg, kTppucfg, kAfidcfg};
+    const uint64_t before[] = {0x7, 0x3FFF, 0x1FFFFFFF, 0x3FFF, 0xFFF};
+    for (int k = 0; k < 5; ++k) {
+        setEntry(sels[k], 9, before[k]);
+    }
     ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 7, 9, 1, 0x6, 3), 0u);
     model.setTrace(true);
     ASSERT_EQ(VQ6192_PPP_DelPppChan(kChip, 9, 7, 0x6), 0u);
 
-    EXPECT_EQ(entry(kHdlccfg1, 9), 0x4u);    // ingress disabled, plain HDLC, loopback kept
-    EXPECT_EQ(entry(kLinkcfg, 9), 0x33FEu);  // ACFC, PFC and PPP off; bundle bits and the rest kept
-    const uint64_t rppu = (0x1FFFFFFFull & ~(0x7FFull << 11) & ~(3ull << 24) & ~(1ull << 27)) | 2036ull << 11;
-    EXPECT_EQ(entry(kRppucfg, 9), rppu);     // Rxmtu 2036, Crcmod 0, Chcen 0; Crcfe kept
-    EXPECT_EQ(entry(kTppucfg, 9), 0x0FFFu);  // Crcfe 0, Chcen 0
-    EXPECT_EQ(entry(kAfidcfg, 9), 0xFF9u);   // Crcmod 0
-    for (uint32_t ts : {1u, 2u}) {
-        EXPECT_EQ(tsEntry(kTsIngress, 7, ts), 0x7800u);
-        EXPECT_EQ(tsEntry(kTsEgress, 7, ts), 0x7800u);
+    // Hdlccfg1: ingress off, plain HDLC, loopback kept. Linkcfg: ACFC, PFC and PPP off. Rppucfg: Rxmtu 2036,
+    // Crcmod 0, Chcen 0, Crcfe kept. Tppucfg: Crcfe 0, Chcen 0. Afidcfg: Crcmod 0.
+    const uint64_t after[] = {0x4, 0x33FE, 0x14FFA7FF, 0x0FFF, 0xFF9};
+    for (int k = 0; k < 5; ++k) {
+        EXPECT_EQ(entry(sels[k], 9), after[k]) << sels[k];
     }
-    EXPECT_EQ(resetWrites(busWrites()), (std::vector<uint32_t>{0, 9, 0x809, 9, 0}));
+    EXPECT_EQ((U32s{tsEntry(kTsIngress, 7, 1), tsEntry(kTsIngress, 7, 2), tsEntry(kTsEgress, 7, 1),
+                    tsEntry(kTsEgress, 7, 2)}),
+              (U32s{0x7800, 0x7800, 0x7800, 0x7800}));
+    EXPECT_EQ(writesTo(0x12216), (U32s{0, 9, 0x809, 9, 0}));
     EXPECT_EQ(ppp().channelResets(), std::vector<uint32_t>{9});
 }
 
 TEST_F(PppTest, DeleteWithoutTimeslotsAndTheVc4Delete) {
-    struct Case {
-        const char *name;
-        uint32_t (*del)(uint32_t chip);
-        const char *trace;
-    };
-    const Case cases[] = {
-        {"no TS", [](uint32_t c) { return VQ6192_PPP_DelPppChanNoTS(c, 3); },
-         "VQ6192_PPP_DelPppChan : Del Channel:[3]return:[0x0]\n"},
-        {"VC-4", [](uint32_t c) { return VQ6192_PPP_DelVC4PppChan(c, 3, 2); },
-         "VQ6192_PPP_DelPppChan :Del VC4:[2] return:[0x0]\n"},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const bool vc4 : {false, true}) {
         capture.clear();
         setEntry(kLinkcfg, 3, 0x3FFF);
         setEntry(kRppucfg, 3, 0x1FFFFFFF);
-        ASSERT_EQ(c.del(kChip), 0u);
+        ASSERT_EQ(vc4 ? VQ6192_PPP_DelVC4PppChan(kChip, 3, 2) : VQ6192_PPP_DelPppChanNoTS(kChip, 3), 0u);
         EXPECT_EQ(entry(kLinkcfg, 3), 0x33FEu);
         EXPECT_EQ(entry(kRppucfg, 3) >> 28, 1u) << "Crcfe kept";
-        const auto traces = capture.traceTexts();
-        EXPECT_NE(std::find(traces.begin(), traces.end(), c.trace), traces.end());
+        EXPECT_TRUE(traced(vc4 ? "VQ6192_PPP_DelPppChan :Del VC4:[2] return:[0x0]\n"
+                               : "VQ6192_PPP_DelPppChan : Del Channel:[3]return:[0x0]\n"));
     }
     EXPECT_EQ(ppp().channelResets(), (std::vector<uint32_t>{3, 3}));
 }
 
 TEST_F(PppTest, ResetEngineWaitsAndTimeouts) {
-    struct Case {
-        const char *name;
-        uint32_t notReadyBefore;  // reads of 0 before the strobes
-        uint32_t busyAfter;       // reads of 0 after the strobe
-        uint32_t status;
-        uint64_t waitUs;
-        size_t strobes;
-    };
-    const Case cases[] = {
-        {"ready at once", 0, 1, 0, 2 * 1500, 1},
-        {"ready after 10 reads", 10, 1, 0, 10 * 1500 + 2 * 1500, 1},
-        {"never ready", PppBlock::kForever, 1, kTimeout, 1300 * 1500, 0},
-        {"reset never finishes", 0, PppBlock::kForever, kTimeout, 1300 * 1500, 1},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        ppp().holdNotReady(c.notReadyBefore);
-        ppp().setResetBusy(c.busyAfter);
+    constexpr uint64_t F = PppBlock::kForever;
+    // Reads of 0 before the strobe and after it; status; virtual wait; strobes.
+    for (const auto &[notReady, busy, status, waitUs, strobes] :
+         Rows<5>{{0, 1, 0, 2 * 1500, 1},               // ready at once
+                 {10, 1, 0, 10 * 1500 + 2 * 1500, 1},  // ready after 10 reads
+                 {F, 1, kTimeout, 1300 * 1500, 0},     // never ready
+                 {0, F, kTimeout, 1300 * 1500, 1}}) {  // reset never finishes
+        ppp().holdNotReady(static_cast<uint32_t>(notReady));
+        ppp().setResetBusy(static_cast<uint32_t>(busy));
         const size_t before = ppp().channelResets().size();
         VQ6192_Platform_ResetVirtualTime();
-        EXPECT_EQ(VQ6192_PPP_ResetPppChan(kChip, 300), c.status);
-        EXPECT_EQ(virtualUs(), c.waitUs);
-        EXPECT_EQ(ppp().channelResets().size() - before, c.strobes);
+        EXPECT_EQ(VQ6192_PPP_ResetPppChan(kChip, 300), status) << waitUs;
+        EXPECT_EQ((U64s{virtualUs(), ppp().channelResets().size() - before}), (U64s{waitUs, strobes}));
         ppp().holdNotReady(0);
     }
-}
-
-TEST_F(PppTest, ResetTakesTheCallersChannelNotTheInnerNumber) {
+    // The caller's channel is strobed, not the inner number of an enabled VC-4 channel.
+    ppp().setResetBusy(1);
     model.poke(kVc4Enable, 0x4);
     ASSERT_EQ(VQ6192_PPP_ResetPppChan(kChip, 2), 0u);
-    EXPECT_EQ(ppp().channelResets(), std::vector<uint32_t>{2});
+    EXPECT_EQ(ppp().channelResets().back(), 2u);
 }
 
 TEST_F(PppTest, LinkTypeEnablesAndLoopbackFields) {
-    struct Case {
-        const char *name;
-        uint32_t (*op)(uint32_t chip);
-        uint32_t select;
-        uint32_t index;
-        uint64_t before, after;
-    };
-    const Case cases[] = {
-        {"link type 0 ingress", [](uint32_t c) { return VQ6192_PPP_SetLinkToPpp(c, 20, 0); }, kHdlccfg1, 20,
-         0x7, 0x6},
-        {"link type 0 egress", [](uint32_t c) { return VQ6192_PPP_SetLinkToPpp(c, 20, 0); }, kLinkcfg, 20,
-         0x3FFF, 0x3FFE},
-        {"enable ingress", [](uint32_t c) { return VQ6192_PPP_SetPppChanEnable(c, 20, 1, 0); }, kHdlccfg1, 20,
-         0x5, 0x7},
-        {"enable egress bit", [](uint32_t c) { return VQ6192_PPP_SetPppChanEnable(c, 20, 1, 1); }, kPppencfg,
-         2, 0xE0, 0xF0},
-        {"disable both: egress", [](uint32_t c) { return VQ6192_PPP_SetPppChanEnable(c, 20, 0, 2); },
-         kPppencfg, 2, 0xFF, 0xEF},
-        {"disable both: ingress", [](uint32_t c) { return VQ6192_PPP_SetPppChanEnable(c, 20, 0, 2); },
-         kHdlccfg1, 20, 0x7, 0x5},
-        {"direction 3 changes nothing", [](uint32_t c) { return VQ6192_PPP_SetPppChanEnable(c, 20, 1, 3); },
-         kPppencfg, 2, 0x0, 0x0},
-        {"loop ingress", [](uint32_t c) { return VQ6192_PPP_SetPppLoopEnable(c, 20, 0, 1); }, kHdlccfg1, 20,
-         0x3, 0x7},
-        {"loop egress side", [](uint32_t c) { return VQ6192_PPP_SetPppLoopEnable(c, 20, 0, 0); }, kLinkcfg,
-         20, 0x3FFF, 0x1FFF},
-        {"ACFC off", [](uint32_t c) { return VQ6192_PPP_SetPppACFCEnable(c, 20, 0); }, kLinkcfg, 20, 0x3FFF,
-         0x37FF},
-        {"PFC off", [](uint32_t c) { return VQ6192_PPP_SetPppPFCEnable(c, 20, 0); }, kLinkcfg, 20, 0x3FFF,
-         0x3BFF},
-        {"MRU 2036", [](uint32_t c) { return VQ6192_PPP_SetPppMRU(c, 20, 2036); }, kRppucfg, 20, 0x1FFFFFFF,
-         (0x1FFFFFFFull & ~(0x7FFull << 11)) | 2036ull << 11},
-        {"CSPT PPP", [](uint32_t c) { return VQ6192_PPP_SetPppCsptEnable(c, 20, 0, 1); }, kCsptcfg1, 20, 0x0,
-         0x1},
-        {"CSPT MP", [](uint32_t c) { return VQ6192_PPP_SetPppCsptEnable(c, 20, 1, 1); }, kCsptcfg2, 20, 0xFF,
-         0x1FF},
-        {"test tx", [](uint32_t c) { return VQ6192_PPP_SetPppTestTxEnable(c, 20, 1); }, kLinkcfg, 20, 0x2FFF,
-         0x3FFF},
-        {"capture slot", [](uint32_t c) { return VQ6192_PPP_SetPppDdrCapChan(c, 20, 9, 1); }, kMpskyeyecfg,
-         20, 0x0, 0x29},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        model.tables().clear();
-        setEntry(c.select, c.index, c.before);
-        ASSERT_EQ(c.op(kChip), 0u);
-        EXPECT_EQ(entry(c.select, c.index), c.after);
-    }
-    const auto traces = capture.traceTexts();
-    EXPECT_NE(
-        std::find(traces.begin(), traces.end(), "VQ6192_PPP_SetPppMRU : ulPppChanNo:[20] ulMRU:[2036]\n"),
-        traces.end());
+    expectEntryOps({{PPP_OP(VQ6192_PPP_SetLinkToPpp(c, 20, 0)), kHdlccfg1, 20, 0x7, 0x6},
+                    {PPP_OP(VQ6192_PPP_SetLinkToPpp(c, 20, 0)), kLinkcfg, 20, 0x3FFF, 0x3FFE},
+                    {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 1, 0)), kHdlccfg1, 20, 0x5, 0x7},
+                    {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 1, 1)), kPppencfg, 2, 0xE0, 0xF0},
+                    {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 0, 2)), kPppencfg, 2, 0xFF, 0xEF},
+                    {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 0, 2)), kHdlccfg1, 20, 0x7, 0x5},
+                    {PPP_OP(VQ6192_PPP_SetPppChanEnable(c, 20, 1, 3)), kPppencfg, 2, 0x0, 0x0},
+                    {PPP_OP(VQ6192_PPP_SetPppLoopEnable(c, 20, 0, 1)), kHdlccfg1, 20, 0x3, 0x7},
+                    {PPP_OP(VQ6192_PPP_SetPppLoopEnable(c, 20, 0, 0)), kLinkcfg, 20, 0x3FFF, 0x1FFF},
+                    {PPP_OP(VQ6192_PPP_SetPppACFCEnable(c, 20, 0)), kLinkcfg, 20, 0x3FFF, 0x37FF},
+                    {PPP_OP(VQ6192_PPP_SetPppPFCEnable(c, 20, 0)), kLinkcfg, 20, 0x3FFF, 0x3BFF},
+                    {PPP_OP(VQ6192_PPP_SetPppMRU(c, 20, 2036)), kRppucfg, 20, 0x1FFFFFFF, 0x1FFFA7FF},
+                    {PPP_OP(VQ6192_PPP_SetPppCsptEnable(c, 20, 0, 1)), kCsptcfg1, 20, 0x0, 0x1},
+                    {PPP_OP(VQ6192_PPP_SetPppCsptEnable(c, 20, 1, 1)), kCsptcfg2, 20, 0xFF, 0x1FF},
+                    {PPP_OP(VQ6192_PPP_SetPppTestTxEnable(c, 20, 1)), kLinkcfg, 20, 0x2FFF, 0x3FFF},
+                    {PPP_OP(VQ6192_PPP_SetPppDdrCapChan(c, 20, 9, 1)), kMpskyeyecfg, 20, 0x0, 0x29}});
+    EXPECT_TRUE(traced("VQ6192_PPP_SetPppMRU : ulPppChanNo:[20] ulMRU:[2036]\n"));
 }
 
 TEST_F(PppTest, CrcModeGoesToThreeIngressPlacesAndOneEgress) {
@@ -244,11 +166,9 @@ TEST_F(PppTest, CrcModeGoesToThreeIngressPlacesAndOneEgress) {
     EXPECT_EQ(entry(kTppucfg, 40), 0x3FFFu) << "egress untouched";
     ASSERT_EQ(VQ6192_PPP_SetPppCRCMode(kChip, 40, 1, 1), 0u);
     EXPECT_EQ(entry(kTppucfg, 40), 0x3FF7u);  // Crcmod bits 2..3 = 1
-    uint32_t mode = 9;
-    EXPECT_EQ(VQ6192_PPP_GetPppCRCMode(kChip, 40, 1, &mode), 0u);
-    EXPECT_EQ(mode, 1u);
-    EXPECT_EQ(VQ6192_PPP_GetPppCRCMode(kChip, 40, 0, &mode), 0u);
-    EXPECT_EQ(mode, 2u);
+    uint32_t eg = 9, in = 9;
+    EXPECT_EQ(VQ6192_PPP_GetPppCRCMode(kChip, 40, 1, &eg) | VQ6192_PPP_GetPppCRCMode(kChip, 40, 0, &in), 0u);
+    EXPECT_EQ((U32s{eg, in}), (U32s{1, 2}));
 }
 
 TEST_F(PppTest, PpuConfigWritesOnlyTheSelectedFields) {
@@ -256,15 +176,13 @@ TEST_F(PppTest, PpuConfigWritesOnlyTheSelectedFields) {
     setEntry(kTppucfg, 50, 0x3FFF);
     setEntry(kAfidcfg, 50, 0xFFF);
     VQ6192_PPP_PPU_CFG_S cfg{}, sel{};
-    cfg.bRxCrcMod = 1;
-    cfg.bTxCrcMod = 2;
-    cfg.dwRxMintu = 64;
-    sel.bRxCrcMod = 1;
-    sel.bTxCrcMod = 2;  // a multi-bit selector other than 1 selects nothing
+    cfg.bRxCrcMod = 1, cfg.bTxCrcMod = 2, cfg.dwRxMintu = 64;
+    sel.bRxCrcMod = 1, sel.bTxCrcMod = 2;  // a multi-bit selector other than 1 selects nothing
     const uint64_t writesBefore = model.tables().writesExecuted(kPppBlock);
     ASSERT_EQ(VQ6192_PPP_SetPppPpuCfg(kChip, 50, &cfg, &sel), 0u);
-    EXPECT_EQ(entry(kRppucfg, 50), 0x1DFFFFFFu);  // bits 24..25 = 1, Rxmintu untouched
-    EXPECT_EQ(entry(kTppucfg, 50), 0x3FFFu);
+    // Rppucfg bits 24..25 = 1, Rxmintu untouched.
+    EXPECT_EQ((std::vector<uint64_t>{entry(kRppucfg, 50), entry(kTppucfg, 50)}),
+              (std::vector<uint64_t>{0x1DFFFFFF, 0x3FFF}));
     EXPECT_EQ(model.tables().writesExecuted(kPppBlock) - writesBefore, 1u);
 
     // Every field, through the getter.
@@ -273,22 +191,14 @@ TEST_F(PppTest, PpuConfigWritesOnlyTheSelectedFields) {
     all.bTxcfcs = 1, all.bTxfMod = 9, all.bTxFillMod = 1, all.bRxFillMod = 1, all.bTxCrcMod = 2;
     all.bRxCrcMod = 2, all.bTxDie = 1, all.bRxDie = 1, all.bByteFe = 1, all.bRxPlDet = 1, all.bRxByteFe = 1;
     all.dwRxMtu = 1500, all.dwRxMintu = 10;
-    VQ6192_PPP_PPU_CFG_S pick{};
-    pick.bRxafi = 1, pick.bMpv = 1, pick.bChnEn = 1, pick.bCorrect = 1, pick.bTxaifs = 1, pick.bTxifs = 1;
-    pick.bTxcfcs = 1, pick.bTxfMod = 1, pick.bTxFillMod = 1, pick.bRxFillMod = 1, pick.bTxCrcMod = 1;
-    pick.bRxCrcMod = 1, pick.bTxDie = 1, pick.bRxDie = 1, pick.bByteFe = 1, pick.bRxPlDet = 1,
-    pick.bRxByteFe = 1;
-    pick.dwRxMtu = 1, pick.dwRxMintu = 1;
+    VQ6192_PPP_PPU_CFG_S pick{0, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1};  // every selector
     model.tables().clear();
     ASSERT_EQ(VQ6192_PPP_SetPppPpuCfg(kChip, 51, &all, &pick), 0u);
     // Afidcfg: Rxafi 11, Mpv 3..10, Bytefe 0. Tppucfg: Chcen 12, Txaifs 11, Txifs 10, Txcfcs 9,
     // Txfmod 5..8, Fillmod 4, Crcmod 2..3, Die 1, Bytefe 0.
-    EXPECT_EQ(entry(kAfidcfg, 51), 0x800u | 0xA5u << 3 | 0x1u);
-    EXPECT_EQ(entry(kTppucfg, 51),
-              0x1000u | 0x800u | 0x400u | 0x200u | 9u << 5 | 0x10u | 2u << 2 | 0x2u | 0x1u);
     // Rppucfg: Chcen 27, Fillmod 26, Crcmod 24..25, Die 23, Rxpldet 22, Rxmtu 11..21, Rxmintu 0..10.
-    EXPECT_EQ(entry(kRppucfg, 51),
-              1ull << 27 | 1ull << 26 | 2ull << 24 | 1ull << 23 | 1ull << 22 | 1500ull << 11 | 10u);
+    EXPECT_EQ((std::vector<uint64_t>{entry(kAfidcfg, 51), entry(kTppucfg, 51), entry(kRppucfg, 51)}),
+              (std::vector<uint64_t>{0xD29, 0x1F3B, 0xEEEE00A}));
     EXPECT_EQ(model.peek(0x11200 + 2 * 51) >> 3 & 3u, 2u);
     VQ6192_PPP_PPU_CFG_S back{};
     ASSERT_EQ(VQ6192_PPP_GetPppPpuCfg(kChip, 51, &back), 0u);
@@ -299,7 +209,7 @@ TEST_F(PppTest, QueueWeightsAndWatermarksKeepTheirNeighbours) {
     setEntry(kPppwgtcfg, 6, 0xFFFFFFFFFFFFFFFFull);
     // Queue 4: low 4 bits to bits 28..31, high 3 bits to bits 32..34.
     ASSERT_EQ(VQ6192_PPP_SetPppQueWeight(kChip, 6, 4, 0x15), 0u);
-    EXPECT_EQ(entry(kPppwgtcfg, 6), (0xFFFFFFFFFFFFFFFFull & ~(0x7Full << 28)) | 0x15ull << 28);
+    EXPECT_EQ(entry(kPppwgtcfg, 6), 0xFFFFFFF95FFFFFFFu);
     uint32_t w = 0;
     ASSERT_EQ(VQ6192_PPP_GetPppQueWeight(kChip, 6, 4, &w), 0u);
     EXPECT_EQ(w, 0x15u);
@@ -307,12 +217,11 @@ TEST_F(PppTest, QueueWeightsAndWatermarksKeepTheirNeighbours) {
     setEntry(kHdfccfg, 6, 0xFFFFFFFFFFFFFFFFull);
     const VQ6192_PPP_WATERMARK_S wm{0x12345, 0x6789A, 0xBCDEF};
     ASSERT_EQ(VQ6192_PPP_SetPppTxLinkWaterMark(kChip, 6, &wm), 0u);
-    EXPECT_EQ(entry(kHdfccfg, 6), 0xF000000000000000ull | 0xBCDEFull << 40 | 0x12345ull << 20 | 0x6789Au);
+    EXPECT_EQ(entry(kHdfccfg, 6), 0xFBCDEF123456789Au);  // drop 40..59, high 20..39, low 0..19
     VQ6192_PPP_WATERMARK_S back{};
     ASSERT_EQ(VQ6192_PPP_GetPppTxLinkWaterMark(kChip, 6, &back), 0u);
-    EXPECT_EQ(back.dwWaterMarkH, 0x12345u);
-    EXPECT_EQ(back.dwWaterMarkL, 0x6789Au);
-    EXPECT_EQ(back.dwWaterMarkDrop, 0xBCDEFu);
+    EXPECT_EQ((U32s{back.dwWaterMarkH, back.dwWaterMarkL, back.dwWaterMarkDrop}),
+              (U32s{0x12345, 0x6789A, 0xBCDEF}));
 }
 
 TEST_F(PppTest, TableFailuresAreOredAndLaterStepsStillRun) {
@@ -329,8 +238,8 @@ TEST_F(PppTest, TableFailuresAreOredAndLaterStepsStillRun) {
     setEntry(kRppucfg, 15, 0x08000000);
     model.tables().holdBusy(kPppBlock, 500);  // the first table access of the create fails
     EXPECT_EQ(VQ6192_PPP_CreatePppChanNoTS(kChip, 15, 1), kTableTimeout);
-    EXPECT_EQ(entry(kRppucfg, 15), 0u);
-    EXPECT_EQ(entry(kLinkcfg, 15), 1u);
+    EXPECT_EQ((std::vector<uint64_t>{entry(kRppucfg, 15), entry(kLinkcfg, 15)}),
+              (std::vector<uint64_t>{0, 1}));
     EXPECT_EQ(failCounters()[3], 2u) << "both time-outs counted in the chip record";
     EXPECT_EQ(capture.traceTexts().back(), "Err. VQ6192_PPP_CreatePppChanNoTS Return:[0x30c0003]\n");
 }
@@ -364,56 +273,26 @@ TEST_F(PppTest, EgressQueueEnableOfALinkAndAFailedRead) {
 }
 
 TEST_F(PppTest, ModuleRegistersKeepTheirNeighbours) {
-    struct Case {
-        const char *name;
-        uint32_t (*op)(uint32_t chip);
-        uint32_t addr;
-        uint16_t before, after;
-    };
-    const Case cases[] = {
-        {"MP mode", [](uint32_t c) { return VQ6192_PPP_SetMpMode(c, 0); }, 0x1004A, 0xFFFF, 0xFFFE},
-        {"abort threshold", [](uint32_t c) { return VQ6192_PPP_SetMpAbortThld(c, 0x5A); }, 0x130D4, 0xFFFF,
-         0xFF5A},
-        {"unidentified mode", [](uint32_t c) { return VQ6192_PPP_SetPppUnidentifyMode(c, 1); }, 0x13004,
-         0xFFFF, 0xFFFD},
-        {"ESPT", [](uint32_t c) { return VQ6192_PPP_SetPppESPTEnable(c, 0); }, 0x13008, 0xFFFF, 0xFFFE},
-        {"DCN", [](uint32_t c) { return VQ6192_PPP_SetPppDCNEnable(c, 1); }, 0x13006, 0xFFFE, 0xFFFF},
-        {"CfgPrtc enable", [](uint32_t c) { return VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0); }, 0x13066,
-         0xFFFF, 0xFFFE},
-        {"CfgPrtc value", [](uint32_t c) { return VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0); }, 0x13068,
-         0xFFFF, 0xC021},
-        {"DCN label high", [](uint32_t c) { return VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0); },
-         0x1301E, 0, 0x1234},
-        {"DCN label low", [](uint32_t c) { return VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0); },
-         0x13020, 0, 0x5678},
-        {"DCN mask high", [](uint32_t c) { return VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0); },
-         0x13022, 0, 0x9ABC},
-        {"DCN mask low", [](uint32_t c) { return VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0); },
-         0x13024, 0, 0xDEF0},
-        {"DFIFO high", [](uint32_t c) { return VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1); }, 0x12022,
-         0xF000, 0xFFFF},
-        {"DFIFO low", [](uint32_t c) { return VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1); }, 0x12024, 0xFFFF,
-         0xF001},
-        {"scheduling 0/3", [](uint32_t c) { return VQ6192_PPP_SetPppMpSchMode(c, 0, 3); }, 0x12000, 0xFFFD,
-         0xFFFE},
-        {"scheduling 1/2", [](uint32_t c) { return VQ6192_PPP_SetPppMpSchMode(c, 1, 2); }, 0x12000, 0xFFFE,
-         0xFFFD},
-        {"VC-4 scrambler", [](uint32_t c) { return VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0); }, 0x11000,
-         0xFFF0, 0xFFF4},
-        {"VC-4 descrambler", [](uint32_t c) { return VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0); }, 0x11002,
-         0xFFFF, 0xFFFB},
-        {"max fragments", [](uint32_t c) { return VQ6192_PPP_SetMpMaxFragNum(c, 127); }, 0x130C6, 0xFF80,
-         0xFFFF},
-        {"COBC mode", [](uint32_t c) { return VQ6192_PPP_SetCobcMode(c, 5, 2); }, 0x1120A, 0xFFFF, 0xFFFD},
-        {"test config", [](uint32_t c) { return VQ6192_PPP_SetPppTestConfig(c, 9, 0x21, 0x57); }, 0x13402, 0,
-         9},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        model.poke(c.addr, c.before);
-        ASSERT_EQ(c.op(kChip), 0u);
-        EXPECT_EQ(model.peek(c.addr), c.after);
-    }
+    expectRegOps({{PPP_OP(VQ6192_PPP_SetMpMode(c, 0)), 0x1004A, 0xFFFF, 0xFFFE},
+                  {PPP_OP(VQ6192_PPP_SetMpAbortThld(c, 0x5A)), 0x130D4, 0xFFFF, 0xFF5A},
+                  {PPP_OP(VQ6192_PPP_SetPppUnidentifyMode(c, 1)), 0x13004, 0xFFFF, 0xFFFD},
+                  {PPP_OP(VQ6192_PPP_SetPppESPTEnable(c, 0)), 0x13008, 0xFFFF, 0xFFFE},
+                  {PPP_OP(VQ6192_PPP_SetPppDCNEnable(c, 1)), 0x13006, 0xFFFE, 0xFFFF},
+                  {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13066, 0xFFFF, 0xFFFE},
+                  {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13068, 0xFFFF, 0xC021},
+                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x1301E, 0, 0x1234},
+                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13020, 0, 0x5678},
+                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13022, 0, 0x9ABC},
+                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13024, 0, 0xDEF0},
+                  {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12022, 0xF000, 0xFFFF},
+                  {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12024, 0xFFFF, 0xF001},
+                  {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 0, 3)), 0x12000, 0xFFFD, 0xFFFE},
+                  {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 1, 2)), 0x12000, 0xFFFE, 0xFFFD},
+                  {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11000, 0xFFF0, 0xFFF4},
+                  {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11002, 0xFFFF, 0xFFFB},
+                  {PPP_OP(VQ6192_PPP_SetMpMaxFragNum(c, 127)), 0x130C6, 0xFF80, 0xFFFF},
+                  {PPP_OP(VQ6192_PPP_SetCobcMode(c, 5, 2)), 0x1120A, 0xFFFF, 0xFFFD},
+                  {PPP_OP(VQ6192_PPP_SetPppTestConfig(c, 9, 0x21, 0x57)), 0x13402, 0, 9}});
 }
 
 TEST_F(PppTest, ModuleGettersReadTheirRegisters) {

@@ -2,7 +2,10 @@
 // 0x8000, as the chip's table list gives them.
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,41 +17,13 @@
 namespace ppptest {
 
 // Select codes of the PPP tables in block 0x8000.
-enum Select : uint32_t {
-    kRppucfg = 0,
-    kTppucfg = 1,
-    kAfidcfg = 2,
-    kRppustat = 3,
-    kTppustat = 5,
-    kQmencfg = 7,
-    kPppencfg = 8,
-    kFragcfg = 9,
-    kLinkcfg = 11,
-    kHdfccfg = 14,
-    kMcfccfg = 15,
-    kMcqst = 17,
-    kPppwgtcfg = 22,
-    kMpwgtcfg = 23,
-    kMprpbytecnt = 27,
-    kMplooptimestp = 29,
-    kMprxmmccnt = 31,
-    kMpskyeyecfg = 32,
-    kMptesttxen = 33,
-    kHdlccfg1 = 34,
-    kHdlccfg2 = 35,
-    kMprxmmpcfg1 = 36,
-    kMprxmhdlcpktcnt = 38,
-    kMprxmbecnt = 39,
-    kMprgrpcfg = 41,
-    kMprgrppktcnt = 42,
-    kCsptcfg1 = 43,
-    kCsptcfg2 = 44,
-    kSnctrlcfg = 45,
-    kMprpmrrucfg = 48,
-    kMptestrefstat = 49,
-    kMprpkt = 50,
-    kMprbyte = 51,
-};
+constexpr uint32_t kRppucfg = 0, kTppucfg = 1, kAfidcfg = 2, kRppustat = 3, kTppustat = 5, kQmencfg = 7,
+                   kPppencfg = 8, kFragcfg = 9, kLinkcfg = 11, kHdfccfg = 14, kMcfccfg = 15, kMcqst = 17,
+                   kPppwgtcfg = 22, kMpwgtcfg = 23, kMprpbytecnt = 27, kMplooptimestp = 29, kMprxmmccnt = 31,
+                   kMpskyeyecfg = 32, kMptesttxen = 33, kHdlccfg1 = 34, kHdlccfg2 = 35, kMprxmmpcfg1 = 36,
+                   kMprxmhdlcpktcnt = 38, kMprxmbecnt = 39, kMprgrpcfg = 41, kMprgrppktcnt = 42,
+                   kCsptcfg1 = 43, kCsptcfg2 = 44, kSnctrlcfg = 45, kMprpmrrucfg = 48, kMptestrefstat = 49,
+                   kMprpkt = 50, kMprbyte = 51;
 
 constexpr uint32_t kPppBlock = 0x8000;
 constexpr uint32_t kTsBlock = 0x10ab;
@@ -60,6 +35,32 @@ constexpr uint32_t kNoMem = 0x03040002;
 constexpr uint32_t kTimeout = 0x03040004;
 constexpr uint32_t kNoData = 0x03040007;
 
+using U32s = std::vector<uint32_t>;
+using U64s = std::vector<uint64_t>;
+// Rows of a table-driven test, N numbers each, bound by name in the loop.
+template <size_t N>
+using Rows = std::initializer_list<std::array<uint64_t, N>>;
+using Reg = std::pair<uint32_t, uint32_t>;
+
+// A call on chip c and its text, for table rows {name, op, ...}.
+#define PPP_REFUSED(call, condition) \
+    expectRefused(                   \
+        #call, [&] { return call; }, condition)
+#define PPP_OP(call) #call, [](uint32_t c) { return call; }
+
+// An operation from an entry's value before to its value after, and from a register's.
+struct EntryCase {
+    const char *name;
+    uint32_t (*op)(uint32_t chip);
+    uint32_t select, index;
+    uint64_t before, after;
+};
+struct RegCase {
+    const char *name;
+    uint32_t (*op)(uint32_t chip);
+    uint32_t addr, before, after;
+};
+
 class PppTest : public vqtest::ChipTest {
   protected:
     void SetUp() override {
@@ -70,6 +71,14 @@ class PppTest : public vqtest::ChipTest {
     uint64_t entry(uint32_t select, uint32_t index) {
         const auto e = model.tables().entry(kPppBlock, select, index);
         return uint64_t{e[0]} | uint64_t{e[1]} << 16 | uint64_t{e[2]} << 32 | uint64_t{e[3]} << 48;
+    }
+    // Entries of several tables at one index, in a list.
+    U64s entries(std::initializer_list<uint32_t> selects, uint32_t index) {
+        U64s v;
+        for (uint32_t s : selects) {
+            v.push_back(entry(s, index));
+        }
+        return v;
     }
     void setEntry(uint32_t select, uint32_t index, uint64_t bits) {
         vq6192::sim::TableEngine::Entry e{};
@@ -99,7 +108,60 @@ class PppTest : public vqtest::ChipTest {
         }
         return out;
     }
+    // A call refused with the parameter error: the condition traced and no register written.
+    void expectRefused(const char *call, const std::function<uint32_t()> &op, const std::string &condition) {
+        SCOPED_TRACE(call);
+        capture.clear();
+        model.setTrace(true);
+        model.clearTrace();
+        EXPECT_EQ(op(), kParaErr);
+        EXPECT_TRUE(busWrites().empty());
+        EXPECT_EQ(paraErrs(), std::vector<std::string>{"ParaErr. [ " + condition + " ]\r\n"});
+    }
+    void expectEntryOps(std::initializer_list<EntryCase> cases) {
+        for (const EntryCase &c : cases) {
+            SCOPED_TRACE(c.name);
+            model.tables().clear();
+            setEntry(c.select, c.index, c.before);
+            ASSERT_EQ(c.op(kChip), 0u);
+            EXPECT_EQ(entry(c.select, c.index), c.after);
+        }
+    }
+    void expectRegOps(std::initializer_list<RegCase> cases) {
+        for (const RegCase &c : cases) {
+            SCOPED_TRACE(c.name);
+            model.poke(c.addr, static_cast<uint16_t>(c.before));
+            ASSERT_EQ(c.op(kChip), 0u);
+            EXPECT_EQ(model.peek(c.addr), c.after);
+        }
+    }
     uint64_t virtualUs() { return VQ6192_Platform_GetVirtualTimeUs(); }
+    bool traced(const std::string &text) {
+        const auto t = capture.traceTexts();
+        return std::find(t.begin(), t.end(), text) != t.end();
+    }
+    void poke(std::initializer_list<Reg> regs) {
+        for (const auto &[addr, value] : regs) {
+            model.poke(addr, static_cast<uint16_t>(value));
+        }
+    }
+    U32s peek(std::initializer_list<uint32_t> addrs) {
+        U32s v;
+        for (uint32_t a : addrs) {
+            v.push_back(model.peek(a));
+        }
+        return v;
+    }
+    // The values written to one register, in order.
+    U32s writesTo(uint32_t addr) {
+        U32s out;
+        for (const auto &a : busWrites()) {
+            if (a.addr == addr) {
+                out.push_back(a.value);
+            }
+        }
+        return out;
+    }
 };
 
 }  // namespace ppptest

@@ -1,28 +1,21 @@
 // Tab completion driven directly: a line typed so far in, the candidates for its last word out, for
 // command names, installed chips, chip tables by name and id, the members of the table given before,
 // and the print-control modules.
-#include <sstream>
-
 #include "completion.h"
-#include "session.h"
-#include "support/test_support.h"
+#include "shell_fixture.h"
 
 namespace {
 
 using Words = std::vector<std::string>;
 
-class ShellCompletion : public ::testing::Test {
+class ShellCompletion : public shelltest::ShellTest {
   protected:
-    vqtest::PlatformCapture capture;
-    std::ostringstream out;
-    std::ostringstream err;
-    vqshell::Session session{out, err};
-
     void SetUp() override {
         vqshell::SessionOptions options;
         options.chips = 3;
-        ASSERT_TRUE(session.start(options)) << err.str();
+        start(options);
     }
+    vqshell::Completion complete(const std::string &line) { return vqshell::complete(session(), line); }
 };
 
 TEST_F(ShellCompletion, ArgumentsCompleteByWhatTheyStandFor) {
@@ -74,10 +67,9 @@ TEST_F(ShellCompletion, ArgumentsCompleteByWhatTheyStandFor) {
         // Only the command under the cursor counts; nothing inside quotes or a comment.
         {"rr 0 2; tr 0 Atmswv", {"Atmswvct", "Atmswvcxfifo"}},
         {"tr 0 \"Atmswv", {}},
-        {"rr 0 2 # tr 0 Atmswv", {}},
-    };
+        {"rr 0 2 # tr 0 Atmswv", {}}};
     for (const Case &c : cases) {
-        EXPECT_EQ(vqshell::complete(session, c.line).candidates, c.candidates) << c.line;
+        EXPECT_EQ(complete(c.line).candidates, c.candidates) << c.line;
     }
 }
 
@@ -86,17 +78,15 @@ TEST_F(ShellCompletion, CommandNamesFirstAndAfterHelp) {
         const char *line;
         Words mustOffer;
     };
-    const Case cases[] = {
-        {"t", {"tables", "tf", "tr", "tw"}},
-        {"VQ6192_R", {"VQ6192_Rt"}},
-        {"VQ6192_S", {"VQ6192_Set_Diag_Printf_Flag", "VQ6192_Show_Printf_Flag"}},
-        {"", {"VQ6192_Rt", "help", "quit", "rr", "tables"}},
-        {"help ", {"VQ6192_Rt", "rd", "tf"}},
-        {"help rr VQ6192_Sh", {"VQ6192_Show_Printf_Flag"}},
-        {"rr 0 2;r", {"rd", "rr", "rw"}},
-    };
+    const Case cases[] = {{"t", {"tables", "tf", "tr", "tw"}},
+                          {"VQ6192_R", {"VQ6192_Rt"}},
+                          {"VQ6192_S", {"VQ6192_Set_Diag_Printf_Flag", "VQ6192_Show_Printf_Flag"}},
+                          {"", {"VQ6192_Rt", "help", "quit", "rr", "tables"}},
+                          {"help ", {"VQ6192_Rt", "rd", "tf"}},
+                          {"help rr VQ6192_Sh", {"VQ6192_Show_Printf_Flag"}},
+                          {"rr 0 2;r", {"rd", "rr", "rw"}}};
     for (const Case &c : cases) {
-        const vqshell::Completion got = vqshell::complete(session, c.line);
+        const vqshell::Completion got = complete(c.line);
         const std::string line = c.line;
         const std::string prefix = line.substr(got.start);
         for (const std::string &name : c.mustOffer) {
@@ -110,7 +100,7 @@ TEST_F(ShellCompletion, CommandNamesFirstAndAfterHelp) {
         EXPECT_EQ(std::adjacent_find(got.candidates.begin(), got.candidates.end()), got.candidates.end())
             << c.line << " offers a name twice";
     }
-    EXPECT_TRUE(vqshell::complete(session, "xyzzy").candidates.empty());
+    EXPECT_TRUE(complete("xyzzy").candidates.empty());
 }
 
 TEST_F(ShellCompletion, WordStartAndCommonStart) {
@@ -127,10 +117,9 @@ TEST_F(ShellCompletion, WordStartAndCommonStart) {
         {"VQ6192_Set_Diag_Printf_Flag 0 at", 30, 2, "ATM"},
         // A bare Tab on a table lists the names of the 217 chip tables but the four "Reserved" ones.
         {"tr\t0\t", 5, 213, ""},
-        {"VQ6192_Set_Diag_Printf_Flag 0 ", 30, 23, ""},
-    };
+        {"VQ6192_Set_Diag_Printf_Flag 0 ", 30, 23, ""}};
     for (const Case &c : cases) {
-        const vqshell::Completion got = vqshell::complete(session, c.line);
+        const vqshell::Completion got = complete(c.line);
         EXPECT_EQ(got.start, c.start) << c.line;
         EXPECT_EQ(got.candidates.size(), c.count) << c.line;
         EXPECT_EQ(vqshell::commonStart(got.candidates), c.common) << c.line;

@@ -3,35 +3,22 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <sstream>
 
-#include "session.h"
-#include "support/test_support.h"
+#include "shell_fixture.h"
 
 namespace {
 
-class ShellDump : public ::testing::Test {
-  protected:
-    vqtest::PlatformCapture capture;
-    std::ostringstream out;
-    std::ostringstream err;
-    std::unique_ptr<vqshell::Session> session = std::make_unique<vqshell::Session>(out, err);
-    std::string path =
-        (std::filesystem::temp_directory_path() / ("vq6192-dump-" + std::to_string(getpid()) + ".bd"))
-            .string();
-
-    void SetUp() override { ASSERT_TRUE(session->start({})); }
-    void TearDown() override {
-        session.reset();
-        std::filesystem::remove(path);
-    }
-};
+using ShellDump = shelltest::ShellTest;
 
 TEST_F(ShellDump, LongDumpShowsProgressInTenths) {
-    ASSERT_TRUE(session->runLine("dump 0 all " + path));
+    const std::string path =
+        (std::filesystem::temp_directory_path() / ("vq6192-dump-" + std::to_string(getpid()) + ".bd"))
+            .string();
+    const std::string out = run("dump 0 all " + path);
     const auto size = std::filesystem::file_size(path);
-    EXPECT_EQ(out.str(), "chip 0 dumped to " + path + ": " + std::to_string(size) + " bytes\n");
-    std::istringstream lines(err.str());
+    std::filesystem::remove(path);
+    EXPECT_EQ(out, "chip 0 dumped to " + path + ": " + std::to_string(size) + " bytes\n");
+    std::istringstream lines(err());
     std::string line;
     int tenth = 0;
     while (std::getline(lines, line)) {

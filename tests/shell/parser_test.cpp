@@ -1,10 +1,8 @@
 // The shell's line parser, and a randomized run of whole lines through a session.
 #include <random>
-#include <sstream>
 
 #include "parser.h"
-#include "session.h"
-#include "support/test_support.h"
+#include "shell_fixture.h"
 
 namespace {
 
@@ -36,23 +34,21 @@ TEST(ShellParser, Integers) {
         bool ok;
         uint32_t value;
     };
-    const Case cases[] = {
-        {"0", true, 0},
-        {"4294967295", true, 0xFFFFFFFF},
-        {"4294967296", false, 0},
-        {"0x0", true, 0},
-        {"0xFFFFFFFF", true, 0xFFFFFFFF},
-        {"0x100000000", false, 0},
-        {"0XaB", true, 0xAB},
-        {"0x", false, 0},
-        {"", false, 0},
-        {"-1", false, 0},
-        {"12a", false, 0},
-        {"0x1g", false, 0},
-        {"00000000012", false, 0},
-        {"0x0000000001", false, 0},
-        {" 1", false, 0},
-    };
+    const Case cases[] = {{"0", true, 0},
+                          {"4294967295", true, 0xFFFFFFFF},
+                          {"4294967296", false, 0},
+                          {"0x0", true, 0},
+                          {"0xFFFFFFFF", true, 0xFFFFFFFF},
+                          {"0x100000000", false, 0},
+                          {"0XaB", true, 0xAB},
+                          {"0x", false, 0},
+                          {"", false, 0},
+                          {"-1", false, 0},
+                          {"12a", false, 0},
+                          {"0x1g", false, 0},
+                          {"00000000012", false, 0},
+                          {"0x0000000001", false, 0},
+                          {" 1", false, 0}};
     for (const Case &c : cases) {
         uint32_t v = 0;
         EXPECT_EQ(parseU32(c.text, &v), c.ok) << c.text;
@@ -83,11 +79,9 @@ TEST(ShellParser, ByteStringsAndLists) {
 // the chip model. Nothing may crash, overrun a buffer or leak (the sanitizer build checks the last two).
 TEST(ShellParser, RandomLinesNeverBreakTheSession) {
     vqtest::PlatformCapture capture;
-    std::ostringstream out;
-    std::ostringstream err;
-    vqshell::Session session(out, err);
-    ASSERT_TRUE(session.start({}));
-    const std::vector<std::string> names = session.commandNames();
+    shelltest::Shell s;
+    ASSERT_TRUE(s.started);
+    const std::vector<std::string> names = s.session.commandNames();
     const std::vector<std::string> pieces = {
         " ",   ";",   "#",        "\"",         "\\",          "0",     "1",     "3",
         "263", "264", "0x",       "0xffffffff", "99999999999", "-",     ":",     ",",
@@ -114,12 +108,12 @@ TEST(ShellParser, RandomLinesNeverBreakTheSession) {
         if (line.find("quit") != std::string::npos || line.find("exit") != std::string::npos) {
             continue;  // keep the session going
         }
-        session.runLine(line);
-        out.str("");
-        err.str("");
+        s.session.runLine(line);
+        s.out.str("");
+        s.err.str("");
     }
     std::printf("[ fuzz ] %d random lines run through the shell session\n", kLines);
-    EXPECT_FALSE(session.quitRequested());
+    EXPECT_FALSE(s.session.quitRequested());
 }
 
 }  // namespace

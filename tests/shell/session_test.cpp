@@ -5,33 +5,13 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <sstream>
 
-#include "session.h"
-#include "support/test_support.h"
+#include "shell_fixture.h"
 
 namespace {
 
-class ShellSession : public ::testing::Test {
-  protected:
-    vqtest::PlatformCapture capture;
-    uint64_t baseline = vqtest::outstandingAllocations();
-    std::ostringstream out;
-    std::ostringstream err;
-    std::unique_ptr<vqshell::Session> session = std::make_unique<vqshell::Session>(out, err);
-
-    void SetUp() override { ASSERT_TRUE(session->start({})); }
-    void TearDown() override {
-        session.reset();
-        EXPECT_EQ(vqtest::outstandingAllocations(), baseline);
-    }
-    std::string run(const std::string &line, bool expectOk = true) {
-        out.str("");
-        err.str("");
-        EXPECT_EQ(session->runLine(line), expectOk) << line;
-        return out.str();
-    }
-};
+using shelltest::Shell;
+using ShellSession = shelltest::ShellTest;
 
 TEST_F(ShellSession, PrintsTheCommandsTextAndItsStatus) {
     const std::string flags = run("VQ6192_Show_Printf_Flag 0");
@@ -47,7 +27,7 @@ TEST_F(ShellSession, PrintsTheCommandsTextAndItsStatus) {
 
 TEST_F(ShellSession, EntryWrittenFromTheShellLandsInTheModelAndReadsBack) {
     run("tf 0 Atmpwe3pritab 5 Cbrpri 3; tf 0 1 5 ubrpri 0x5");
-    vq6192::sim::ChipModel *model = session->model(0);
+    vq6192::sim::ChipModel *model = session().model(0);
     ASSERT_NE(model, nullptr);
     EXPECT_EQ(model->tables().entry(0x5000, 38, 5)[0], (3 << 12) | 5);
     const std::string text = run("VQ6192_Rt 0 1 5");
@@ -87,11 +67,10 @@ TEST_F(ShellSession, BadInputGetsOneLineErrors) {
         {"tr 0 Nosuchtable 1", "error: no chip table 'Nosuchtable' (tables lists them; ids 0..216)\n"},
         {"tr 0 217 1", "error: no chip table '217' (tables lists them; ids 0..216)\n"},
         {"tf 0 1 0 Nomember 1", "error: Atmpwe3pritab has no member 'Nomember'\n"},
-        {"rd 0 0 0", "error: count is 1..4096 registers\n"},
-    };
+        {"rd 0 0 0", "error: count is 1..4096 registers\n"}};
     for (const Case &c : cases) {
         run(c.line, false);
-        EXPECT_EQ(err.str(), c.error) << c.line;
+        EXPECT_EQ(err(), c.error) << c.line;
     }
     // A failing command does not stop the others on the line.
     EXPECT_EQ(run("nosuch; rr 0 0x300", false), "0x00000300 = 0x0000\n");
@@ -117,7 +96,7 @@ TEST_F(ShellSession, HelpAndQuit) {
         "  shell command; arguments: [filter] (text)\n");
     EXPECT_EQ(run("help nosuch"), "no command 'nosuch'\n");
     EXPECT_EQ(run("quit; rr 0 2"), "");
-    EXPECT_TRUE(session->quitRequested());
+    EXPECT_TRUE(session().quitRequested());
 }
 
 TEST_F(ShellSession, TableAndModuleArgumentsOfDiagnosticCommandsTakeNames) {
@@ -131,8 +110,7 @@ TEST_F(ShellSession, TableAndModuleArgumentsOfDiagnosticCommandsTakeNames) {
         {"VQ6192_Set_Diag_Printf_Flag 0 frm 3", 15, 3, "Diag set module FRM flag 3 success\n"},
         {"VQ6192_Set_Diag_Printf_Flag 0 IMA_ASI 1", 21, 1, "Diag set module IMA_ASI flag 1 success\n"},
         {"VQ6192_Set_Diag_Printf_Flag 0 Table 9", 12, 9, "Diag set module TABLE flag 9 success\n"},
-        {"VQ6192_Set_Diag_Printf_Flag 0 off 5", 0, 5, "Diag set module OFF flag 5 success\n"},
-    };
+        {"VQ6192_Set_Diag_Printf_Flag 0 off 5", 0, 5, "Diag set module OFF flag 5 success\n"}};
     for (const Case &c : cases) {
         EXPECT_EQ(run(c.line), c.output);
         EXPECT_EQ(g_vq6192[0].aulPrintFlag[c.module], c.flag) << c.line;
@@ -177,37 +155,34 @@ TEST(ShellBanner, NamesTheChipsWhereTheyAreTheirBringUpAndLineEditing) {
          "vq6192-shell: chip 0 on the mapped window " + window + ", not brought up" + help},
         {1, false, true, false,
          "vq6192-shell: chip 0 on the chip model, brought up" + help +
-             " (no line editing: built without libedit)"},
-    };
+             " (no line editing: built without libedit)"}};
     for (const Case &c : cases) {
-        std::ostringstream out;
-        std::ostringstream err;
-        vqshell::Session session(out, err);
         vqshell::SessionOptions options;
         options.chips = c.chips;
         options.bringUp = c.bringUp;
         if (c.mapped) {
             options.mapped.push_back({window, 0, 0x1000, 0, 0});
         }
-        ASSERT_TRUE(session.start(options)) << err.str();
-        EXPECT_EQ(session.banner(c.lineEditing), c.banner);
-        EXPECT_EQ(session.chipCount(), c.chips + (c.mapped ? 1 : 0));
-        EXPECT_EQ(out.str(), "") << "the banner is the caller's to print";
+        Shell s(options);
+        ASSERT_TRUE(s.started) << s.err.str();
+        EXPECT_EQ(s.session.banner(c.lineEditing), c.banner);
+        EXPECT_EQ(s.session.chipCount(), c.chips + (c.mapped ? 1 : 0));
+        EXPECT_EQ(s.out.str(), "") << "the banner is the caller's to print";
     }
     close(fd);
     unlink(path);
 }
 
 TEST(ShellStatus, DecodesChipModuleAndError) {
-    EXPECT_EQ(vqshell::describeStatus(0x030C0003), "status 0x030c0003: chip 3, TABLE, error 3 (time-out)");
-    EXPECT_EQ(vqshell::describeStatus(0x00010002),
-              "status 0x00010002: chip 0, BASE, error 2 (null pointer or resource not obtained)");
-    EXPECT_EQ(vqshell::describeStatus(0x00010007),
-              "status 0x00010007: chip 0, BASE, error 7 (arbitration refused)");
-    EXPECT_EQ(vqshell::describeStatus(0x050D0009), "status 0x050d0009: chip 5, IMA, error 9");
-    EXPECT_EQ(vqshell::describeStatus(0x000E0001),
-              "status 0x000e0001: chip 0, FRM, error 1 (parameter error)");
-    EXPECT_EQ(vqshell::describeStatus(8), "status 0x00000008: chip 0, OFF, error 8 (lock failure)");
+    for (const auto &[status, text] : std::initializer_list<std::pair<uint32_t, const char *>>{
+             {0x030C0003, "status 0x030c0003: chip 3, TABLE, error 3 (time-out)"},
+             {0x00010002, "status 0x00010002: chip 0, BASE, error 2 (null pointer or resource not obtained)"},
+             {0x00010007, "status 0x00010007: chip 0, BASE, error 7 (arbitration refused)"},
+             {0x050D0009, "status 0x050d0009: chip 5, IMA, error 9"},
+             {0x000E0001, "status 0x000e0001: chip 0, FRM, error 1 (parameter error)"},
+             {8, "status 0x00000008: chip 0, OFF, error 8 (lock failure)"}}) {
+        EXPECT_EQ(vqshell::describeStatus(status), text);
+    }
 }
 
 TEST(ShellMapped, DrivesARegisterWindowMappedFromAFile) {
@@ -217,15 +192,13 @@ TEST(ShellMapped, DrivesARegisterWindowMappedFromAFile) {
     ASSERT_GE(fd, 0);
     ASSERT_EQ(ftruncate(fd, 0x20000), 0);
     {
-        std::ostringstream out;
-        std::ostringstream err;
-        vqshell::Session session(out, err);
         vqshell::SessionOptions options;
         options.mapped.push_back({path, 0x10000, 0x8000, 0, 0});
-        ASSERT_TRUE(session.start(options)) << err.str();
-        EXPECT_EQ(session.model(1), nullptr);
-        EXPECT_TRUE(session.runLine("rw 1 0x10 0x1234; rr 1 0x10"));
-        EXPECT_EQ(out.str(), "0x00000010 = 0x1234\n");
+        Shell s(options);
+        ASSERT_TRUE(s.started) << s.err.str();
+        EXPECT_EQ(s.session.model(1), nullptr);
+        EXPECT_TRUE(s.session.runLine("rw 1 0x10 0x1234; rr 1 0x10"));
+        EXPECT_EQ(s.out.str(), "0x00000010 = 0x1234\n");
     }
     uint8_t bytes[2] = {};
     ASSERT_EQ(pread(fd, bytes, 2, 0x10010), 2);
@@ -234,54 +207,38 @@ TEST(ShellMapped, DrivesARegisterWindowMappedFromAFile) {
     close(fd);
     unlink(path);
 
-    std::ostringstream out;
-    std::ostringstream err;
-    vqshell::Session missing(out, err);
     vqshell::SessionOptions options;
     options.mapped.push_back({"/nonexistent/window", 0, 0x1000, 0, 0});
-    EXPECT_FALSE(missing.start(options));
-    EXPECT_EQ(err.str().substr(0, 37), "error: cannot open /nonexistent/windo");
+    Shell missing(options);
+    EXPECT_FALSE(missing.started);
+    EXPECT_EQ(missing.err.str().substr(0, 37), "error: cannot open /nonexistent/windo");
 }
 
 TEST(ShellBringUp, ChipsOnTheModelComeUpWithAProgressLinePerStep) {
     vqtest::PlatformCapture capture;
     const uint64_t baseline = vqtest::outstandingAllocations();
-    struct Case {
-        const char *name;
-        bool bringUp;
-        bool progress;
-        size_t lines;
-        uint16_t clocks;  // reg 0x06: every module clock but module 5's once up
-    };
-    const Case cases[] = {
-        {"terminal", true, true, 2 * 18, 0x7FDF},
-        {"pipe", true, false, 0, 0x7FDF},
-        {"no bring-up", false, true, 0, 0},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        std::ostringstream out;
-        std::ostringstream err;
-        {
-            vqshell::Session session(out, err);
-            vqshell::SessionOptions options;
-            options.chips = 2;
-            options.bringUp = c.bringUp;
-            options.progress = c.progress;
-            ASSERT_TRUE(session.start(options)) << err.str();
-            for (uint32_t chip : {0u, 1u}) {
-                EXPECT_EQ(session.broughtUp(chip), c.bringUp);
-                EXPECT_EQ(session.model(chip)->peek(0x06), c.clocks);
-            }
-            EXPECT_FALSE(session.broughtUp(2));
+    // Bring-up, progress lines (a terminal), lines printed, reg 0x06: every module clock but module 5's once
+    // up.
+    for (const auto &[bringUp, progress, lines, clocks] :
+         std::initializer_list<std::tuple<bool, bool, size_t, uint32_t>>{
+             {true, true, 2 * 18, 0x7FDF}, {true, false, 0, 0x7FDF}, {false, true, 0, 0}}) {
+        SCOPED_TRACE(testing::Message() << bringUp << progress);
+        vqshell::SessionOptions options;
+        options.chips = 2, options.bringUp = bringUp, options.progress = progress;
+        Shell s(options);
+        ASSERT_TRUE(s.started) << s.err.str();
+        for (uint32_t chip : {0u, 1u}) {
+            EXPECT_EQ(s.session.broughtUp(chip), bringUp);
+            EXPECT_EQ(s.session.model(chip)->peek(0x06), clocks);
         }
-        const std::string text = out.str();
-        EXPECT_EQ(static_cast<size_t>(std::count(text.begin(), text.end(), '\n')), c.lines);
-        if (c.lines != 0) {
+        EXPECT_FALSE(s.session.broughtUp(2));
+        const std::string text = s.out.str();
+        EXPECT_EQ(static_cast<size_t>(std::count(text.begin(), text.end(), '\n')), lines);
+        if (lines != 0) {
             EXPECT_EQ(text.substr(0, 37), "chip 0 bring-up: settle           ok\n");
             EXPECT_EQ(text.substr(text.size() - 37), "chip 1 bring-up: MAC ports        ok\n");
         }
-        EXPECT_TRUE(err.str().empty());
+        EXPECT_TRUE(s.err.str().empty());
         // The waits ran on the virtual clock, which the test had switched on and still has.
         EXPECT_EQ(VQ6192_Platform_GetVirtualClock(), 1u);
     }
