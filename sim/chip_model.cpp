@@ -68,6 +68,7 @@ void ChipModel::reset() {
     for (auto &[index, p] : pages_) {
         p->regs.fill(0);
     }
+    oddAccesses_ = 0;
 }
 
 std::map<uint32_t, uint16_t> ChipModel::registers() const {

@@ -130,7 +130,7 @@ class ChipModel {
     // Register file, byte-addressed (even addresses). peek and poke have no side effects.
     uint16_t peek(uint32_t addr) const;
     void poke(uint32_t addr, uint16_t value);
-    void reset();  // all registers back to 0, behaviours and tables kept
+    void reset();  // all registers back to 0 and the odd-access count cleared; behaviours and tables kept
     // Every register that is not 0, by byte address, to compare two models' register files.
     std::map<uint32_t, uint16_t> registers() const;
     // Host accesses at an odd byte address: the chip's registers are 16 bits wide at even addresses,
