@@ -1,7 +1,9 @@
 // The IMA processor mailbox, the block start and reset, UNI links, VC-4 ports, TC resets and the link
 // parameters.
 #include <array>
+#include <numeric>
 #include <tuple>
+#include <vector>
 
 #include "ima_fixture.h"
 
@@ -188,6 +190,10 @@ TEST_F(MailboxTest, TcResetDrainsTheTransmitLink) {
     EXPECT_EQ(VQ6192_IMA_ResetTc(kChip, 2, 2, links), 0x000D0004u) << "no chip bits";
     expectRefused("which 0", [&] { return VQ6192_IMA_ResetTc(kChip, 0, 2, links); });
     expectRefused("n 337", [&] { return VQ6192_IMA_ResetTc(kChip, 1, 337, links); });
+    proc().setDrainReads(0);
+    std::vector<uint16_t> all(336);
+    std::iota(all.begin(), all.end(), uint16_t{0});
+    EXPECT_EQ(VQ6192_IMA_ResetTc(kChip, 1, 336, all.data()), 0u) << "every TC link in one call";
     expectRefused("no list", [] { return VQ6192_IMA_ResetTc(kChip, 1, 1, nullptr); });
     model.poke(0x000A, 0x1234);
     ASSERT_EQ(VQ6192_IMA_ResetVc(kChip), 0u);
