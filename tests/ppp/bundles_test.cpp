@@ -151,6 +151,12 @@ TEST_F(BundleTest, ResetHandshakesCodesAndWaits) {
         ppp().setResetBusy(1);
         ppp().refuseGroupReset(60, false);
     }
+    // Only the bundle's own queues count: the next bundle's first queue never drains.
+    ppp().fillQueue(61, 0, 5, static_cast<uint32_t>(F));
+    VQ6192_Platform_ResetVirtualTime();
+    EXPECT_EQ(VQ6192_PPP_ResetMpBundle(kChip, 60, 3), 0u);
+    EXPECT_EQ(virtualUs(), 30000u);
+    ppp().fillQueue(61, 0, 0, 0);
 }
 
 TEST_F(BundleTest, ReassemblyResetStrobeSequence) {

@@ -123,8 +123,14 @@ TEST_F(PppTest, ResetEngineWaitsAndTimeouts) {
         ppp().setResetBusy(static_cast<uint32_t>(busy));
         const size_t before = ppp().channelResets().size();
         VQ6192_Platform_ResetVirtualTime();
+        capture.clear();
         EXPECT_EQ(VQ6192_PPP_ResetPppChan(kChip, 300), status) << waitUs;
         EXPECT_EQ((U64s{virtualUs(), ppp().channelResets().size() - before}), (U64s{waitUs, strobes}));
+        const char *trace = status == 0 ? nullptr
+                            : strobes == 0
+                                ? "Err. VQ6192_PPP_ResetPppChan : reset engine not ready, channel:[300]\n"
+                                : "Err. VQ6192_PPP_ResetPppChan : reset not finished, channel:[300]\n";
+        EXPECT_EQ(capture.traceTexts(), trace ? std::vector<std::string>{trace} : std::vector<std::string>{});
         ppp().holdNotReady(0);
     }
     // The caller's channel is strobed, not the inner number of an enabled VC-4 channel.
