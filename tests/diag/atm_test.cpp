@@ -41,6 +41,9 @@ TEST_F(AtmDiagTest, FramedValues) {
     EXPECT_EQ(getatmvcx(kChip, 4096, 1, buf.data()), 0x03020001u)
         << "the operation's status, text still printed";
     EXPECT_EQ(text(), framed("GetAtmVcx()", " wVCX    :    0x0(0)\n", kLSep));
+    EXPECT_EQ(getatmccsrcstat(kChip, 8193, buf.data()), 0x03020001u);
+    EXPECT_EQ(text(),
+              framed("GetAtmCcSrcStat()", " wSrcTimer    :    0x0(0)\n wTtcc    :    0x0(0)\n", kLSep));
 
     const uint32_t th[3] = {0x100, 0x80, 0x7FFFF};
     ASSERT_EQ(VQ6192_ATM_AddAtmTransConn(kChip, 9, 99, th), 0u);

@@ -51,6 +51,8 @@ TEST_F(EthDiag, ReportsByteForByte) {
          0},
         {"setserdeschnlreset", [](char *b) { return setserdeschnlreset(kChip, 1, 1, b); },
          "        setserdeschnlreset() OK\n", 0},
+        {"setpmugreglbattr type 0x10000", [](char *b) { return setpmugreglbattr(kChip, 5, 0x10000, 0, b); },
+         "        setpmugreglbattr() FAIL\n", 0x03050001},
         {"setserdeschnlreset lane 3", [](char *b) { return setserdeschnlreset(kChip, 3, 1, b); },
          "        setserdeschnlreset() FAIL\n", 0x03050001},
         {"seteth1portsendmode", [](char *b) { return seteth1portsendmode(kChip, 1, b); },

@@ -119,6 +119,7 @@ TEST_F(SdhDiagTest, TelecomReportsAndStatuses) {
 TEST_F(SdhDiagTest, NullBufferQueriesNothing) {
     model.setTrace(true);
     EXPECT_EQ(getrxhpj1(kChip, 0, nullptr), 0u);
+    EXPECT_EQ(gettxhpj1(kChip, 0, nullptr), 0u);
     EXPECT_EQ(getsdhmaps(kChip, nullptr), 0u);
     EXPECT_EQ(gettelerxb2cnt(kChip, 0, nullptr), 0u);
     EXPECT_EQ(gettxhpj1_h(kChip, nullptr), 0u);

@@ -110,6 +110,12 @@ TEST_F(Maps, ChannelToCpuPid) {
     EXPECT_EQ(bits(kNo2Pid, 3, 0, 13), 0x123u);
     EXPECT_EQ(traced([] { EXPECT_EQ(VQ6192_ETH_SetIngPPPMP2PID(kChip, 3, 4, 1, 1), kEthKind); }).size(), 0u);
     ETH_REFUSED(VQ6192_ETH_SetIngPPPMP2PID(kChip, 256, 2, 1, 1));
+    // The index conversion itself: 512 PPP channels of each kind, 256 bundles of each kind.
+    uint32_t index = 0;
+    for (const auto &[ch, kind] : Rows<2>{{512, 0}, {512, 1}, {256, 2}, {256, 3}}) {
+        ETH_REFUSED(VQ6192_ETH_ConvertPPPChnlPktType(kChip, ch, kind, &index));
+        EXPECT_EQ(VQ6192_ETH_ConvertPPPChnlPktType(kChip, ch - 1, kind, &index), 0u);
+    }
     ETH_REFUSED(VQ6192_ETH_SetIngPPPMP2PID(kChip, 1, 0, 4096, 1));
 }
 

@@ -101,6 +101,9 @@ TEST_F(Ports, MacAndSerDesLoops) {
         const uint32_t want = lane == 1 ? 0xFF00u | (codes & 0xF) : 0xFF0Fu | (codes & 0xF0);
         EXPECT_EQ(peek({0x21E, flagReg}), (U32s{want, 0xFFFEu | parFlag})) << lane << "/" << point;
         EXPECT_EQ(mac().reg(lane, 119), reg119);
+        uint32_t gotPoint = 9, gotEn = 9;
+        EXPECT_EQ(VQ6192_ETH_GetSerdesLoop(kChip, lane, &gotPoint, &gotEn), 0u);
+        EXPECT_EQ((U32s{gotPoint, gotEn}), (U32s{en != 0 ? uint32_t(point) : 0u, uint32_t(en)}));
     }
     ETH_REFUSED(VQ6192_ETH_SetSerdesLoop(kChip, 0, 0, 1));
     ETH_REFUSED(VQ6192_ETH_SetSerdesLoop(kChip, 3, 0, 1));
