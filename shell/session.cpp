@@ -352,8 +352,13 @@ bool Session::runRegistered(const std::vector<std::string> &words) {
     const vq::diag::Command &cmd = *vq::diag::findCommand(words[0]);
     const size_t given = words.size() - 1;
     if (given != cmd.argc) {
-        err_ << "error: " << cmd.name << " takes " << static_cast<unsigned>(cmd.argc) << " argument"
-             << (cmd.argc == 1 ? "" : "s") << ": " << cmd.args << "\n";
+        err_ << "error: " << cmd.name;
+        if (cmd.argc == 0) {
+            err_ << " takes no arguments\n";
+        } else {
+            err_ << " takes " << static_cast<unsigned>(cmd.argc) << " argument" << (cmd.argc == 1 ? "" : "s")
+                 << ": " << cmd.args << "\n";
+        }
         return false;
     }
     const std::vector<std::string> names = argNames(cmd.args);

@@ -148,12 +148,13 @@ constexpr const char *kMacPerNames[VQ6192_ETH_MAC_PER_NUM] = {
     X(byCfSlientEn)                                                                                        \
     X(bySoftRstMII)                                                                                        \
     X(bySoftRstRx)                                                                                         \
-    X(bySoftRstTx) X(wMaxFrmSize) X(sFdFcAddrL) X(sFdFcAddrM) X(sFdFcAddrH) X(wAddrL) X(wAddrM) X(wAddrH)  \
-        X(byPadEnable) X(byStripPadEn) X(byRxRuntPktEn) X(byShortRuntsThr) X(byCrcAdd) X(byStripCRCEn)     \
-            X(byCRCErrPass) X(byIpgTxTimer) X(byRxDflSgl) X(byCf2DfTwoPartDf1) X(bySerDesOrd) X(wVLanType) \
-                X(byVlanDropEn) X(byBcDropEn) X(byMcMatchEn) X(byUcMatchEn) X(byTxFdFc) X(byRxFdFc)        \
-                    X(byAutoEegEnable) X(wFdFcType) X(wFcTxTimer) X(wPauseThr) X(byDropUnkCtlFrm)          \
-                        X(byPauseFrmPass) X(byNoRmiiPreamble) X(byNoMiiPreamble) X(byNoGmiiPreamble)
+    X(bySoftRstTx)                                                                                         \
+    X(wMaxFrmSize) X(sFdFcAddrL) X(sFdFcAddrM) X(sFdFcAddrH) X(wAddrL) X(wAddrM) X(wAddrH) X(byPadEnable)  \
+        X(byStripPadEn) X(byRxRuntPktEn) X(byShortRuntsThr) X(byCrcAdd) X(byStripCRCEn) X(byCRCErrPass)    \
+            X(byIpgTxTimer) X(byRxDflSgl) X(byCf2DfTwoPartDf1) X(bySerDesOrd) X(wVLanType) X(byVlanDropEn) \
+                X(byBcDropEn) X(byMcMatchEn) X(byUcMatchEn) X(byTxFdFc) X(byRxFdFc) X(byAutoEegEnable)     \
+                    X(wFdFcType) X(wFcTxTimer) X(wPauseThr) X(byDropUnkCtlFrm) X(byPauseFrmPass)           \
+                        X(byNoRmiiPreamble) X(byNoMiiPreamble) X(byNoGmiiPreamble)
 
 #define VQ6192_COUNT_FIELD(f) +1
 constexpr size_t kMacAttrFields = 0 VQ6192_MAC_ATTR_FIELDS(VQ6192_COUNT_FIELD);
@@ -978,7 +979,7 @@ VQ6192_API uint32_t cdk_getportpauseaddr(uint32_t chip, uint32_t port, char *buf
     return rc;
 }
 
-// Takes no chip and does nothing; it has no registry row (rows begin with an argument).
+// Takes no chip and does nothing: the MAC side needs no set-up before its ports are used.
 VQ6192_API uint32_t initcdkmac(void) {
     return 0;
 }
@@ -1107,6 +1108,7 @@ constexpr Command kCommands[] = {
     VQ6192_DIAG_COMMAND(readpppprotocolpkt, "ETH", "chip", "show a received PPP protocol packet"),
     // MAC ports
     VQ6192_DIAG_COMMAND(cdk_setportworkmode, "MAC", "chip port mode", "set a port's work mode"),
+    VQ6192_DIAG_COMMAND(initcdkmac, "MAC", "", "MAC set-up (nothing to do on this chip)"),
     VQ6192_DIAG_COMMAND(cdk_getportworkmode, "MAC", "chip port", "show a port's work mode"),
     VQ6192_DIAG_COMMAND(cdk_getportlinkstatus, "MAC", "chip port x", "show a port's link state"),
     VQ6192_DIAG_COMMAND(cdk_setporttxen, "MAC", "chip port enable", "enable a port's transmitter"),

@@ -115,7 +115,7 @@ struct Adapter<Fn> {
 
     static constexpr std::array<ArgKind, argc> makeKinds() {
         std::array<ArgKind, argc> kinds{};
-        size_t n = 0;
+        [[maybe_unused]] size_t n = 0;  // unused by a command without arguments
         (addKind<A>(kinds, n), ...);
         return kinds;
     }

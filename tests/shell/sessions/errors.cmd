@@ -1,6 +1,8 @@
 nosuch 1
 VQ6192_Rt 0 1
 VQ6192_Rt 0 zz 1
+initcdkmac
+initcdkmac 1
 VQ6192_Rt 0 1 32
 VQ6192_Rt 0 "1 2
 rr 3 0
