@@ -57,27 +57,6 @@ class CesTest : public vqtest::ChipTest {
         }
         model.tables().setEntry(kCesBlock, select, index, e);
     }
-
-    void poke(std::initializer_list<std::pair<uint32_t, uint32_t>> regs) {
-        for (const auto &[addr, value] : regs) {
-            model.poke(addr, static_cast<uint16_t>(value));
-        }
-    }
-    U32s peek(std::initializer_list<uint32_t> addrs) {
-        U32s v;
-        for (uint32_t a : addrs) {
-            v.push_back(model.peek(a));
-        }
-        return v;
-    }
-    std::vector<BusAccess> traced(const std::function<void()> &op) {
-        model.clearTrace();
-        model.setTrace(true);
-        op();
-        model.setTrace(false);
-        return model.trace();
-    }
-
     void expectRefused(const std::string &what, const std::function<uint32_t()> &op) {
         SCOPED_TRACE(what);
         capture.clear();

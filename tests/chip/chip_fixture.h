@@ -51,15 +51,6 @@ class ChipFixture : public vqtest::ChipTest {
     vq6192::sim::InterruptBlock &irq() { return model.block<vq6192::sim::InterruptBlock>(); }
     vq6192::sim::RamBistBlock &bist() { return model.block<vq6192::sim::RamBistBlock>(); }
     vq6192::sim::DdrBlock &ddr() { return model.block<vq6192::sim::DdrBlock>(); }
-
-    // Runs an operation with the bus trace on, from a clean trace.
-    Accesses traced(const std::function<void()> &op) {
-        model.clearTrace();
-        model.setTrace(true);
-        op();
-        model.setTrace(false);
-        return model.trace();
-    }
     static Accesses writes(const Accesses &t) { return vqtest::writes(t); }
     // The registers at `addrs`, as the model holds them.
     std::vector<uint16_t> peeks(std::initializer_list<uint32_t> addrs) {

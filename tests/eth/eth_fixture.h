@@ -63,21 +63,7 @@ class EthFixture : public vqtest::ChipTest {
         e[0] = static_cast<uint16_t>(value);
         e[1] = static_cast<uint16_t>(value >> 16);
         model.tables().setEntry(kBlock, sel, index, e);
-    }
-
-    void poke(std::initializer_list<Reg> regs) {
-        for (const auto &[addr, value] : regs) {
-            model.poke(addr, static_cast<uint16_t>(value));
-        }
-    }
-    U32s peek(std::initializer_list<uint32_t> addrs) {
-        U32s v;
-        for (uint32_t a : addrs) {
-            v.push_back(model.peek(a));
-        }
-        return v;
-    }
-    // MAC registers of one MAC, set or read in a list.
+    }  // MAC registers of one MAC, set or read in a list.
     void setMac(uint32_t m, std::initializer_list<Reg> regs) {
         for (const auto &[n, value] : regs) {
             mac().setReg(m, n, value);
@@ -89,14 +75,6 @@ class EthFixture : public vqtest::ChipTest {
             v.push_back(mac().reg(m, n));
         }
         return v;
-    }
-
-    std::vector<BusAccess> traced(const std::function<void()> &op) {
-        model.clearTrace();
-        model.setTrace(true);
-        op();
-        model.setTrace(false);
-        return model.trace();
     }
 
     // A call that must be refused with `status`, trace `line` and touch no register.

@@ -96,9 +96,9 @@ TEST_F(ControlTest, TimeTickLoopsAndInterruptEnables) {
         ASSERT_EQ(VQ6192_IMA_SetImaTimeTick(kChip, t.first), 0u);
         EXPECT_EQ(model.peek(0x4418), t.second) << t.first;
     }
-    pokes({{0x4002, 0xFFF8}, {0x5026, 0xFFFE}});
+    poke({{0x4002, 0xFFF8}, {0x5026, 0xFFFE}});
     ASSERT_EQ(VQ6192_IMA_SetImaLoop(kChip, 0xA, 1), 0u);
-    EXPECT_EQ(peeks({0x4002, 0x5026}), (std::vector<uint32_t>{0xFFFA, 0xFFFF}));
+    EXPECT_EQ(peek({0x4002, 0x5026}), (std::vector<uint32_t>{0xFFFA, 0xFFFF}));
     uint32_t loop = 0;
     ASSERT_EQ(VQ6192_IMA_GetImaLoop(kChip, &loop), 0u);
     EXPECT_EQ(loop, 0xAu);
@@ -285,11 +285,11 @@ TEST_F(ControlTest, CaptureFiltersAndReadout) {
     IMA_CAP_FILTER f{};
     f.wCapMode = 5, f.wSelect = 1024, f.wSubMode = 6, f.wValueA = 3, f.wValueB = 4, f.wFilterNum = 1,
     f.awLink[0] = 77;
-    pokes({{0x4C3C, 0x0FFF}, {0x4C40 + 10, 0xFFFF}, {0x4C40 + 6, 0xFC00}});
+    poke({{0x4C3C, 0x0FFF}, {0x4C40 + 10, 0xFFFF}, {0x4C40 + 6, 0xFC00}});
     ASSERT_EQ(VQ6192_IMA_SetImaCapture(kChip, &f), 0u);
     // Block 0 programmed; block 1 unused: disabled, no link, the rest kept.
     EXPECT_EQ(
-        peeks({0x4C3C, 0x4C40, 0x4C42, 0x4C46, 0x4C40 + 10}),
+        peek({0x4C3C, 0x4C40, 0x4C42, 0x4C46, 0x4C40 + 10}),
         (std::vector<uint32_t>{0x5FFF, 0x1000u | 77u, (1024u << 4) | 6u, 0xFC00u | (4u << 5) | 3u, 0xEFFF}));
     f.wSubMode = 5;
     EXPECT_EQ(VQ6192_IMA_SetImaCapture(kChip, &f), kPara);

@@ -68,14 +68,6 @@ class ImaTest : public vqtest::ChipTest {
         return n;
     }
 
-    std::vector<BusAccess> traced(const std::function<void()> &op) {
-        model.clearTrace();
-        model.setTrace(true);
-        op();
-        model.setTrace(false);
-        return model.trace();
-    }
-
     // Refused with `status`, "ParaErr.\r\n" traced (or nothing when quiet) and no register touched.
     void expectRefused(const char *what, const std::function<uint32_t()> &op, bool quiet = false,
                        uint32_t status = kPara) {
@@ -87,20 +79,6 @@ class ImaTest : public vqtest::ChipTest {
         EXPECT_TRUE(t.empty()) << t.size() << " bus accesses";
         EXPECT_EQ(capture.traceTexts(),
                   quiet ? std::vector<std::string>{} : std::vector<std::string>{"ParaErr.\r\n"});
-    }
-
-    // Several registers seeded, or read back, at once.
-    void pokes(std::initializer_list<std::pair<uint32_t, uint16_t>> regs) {
-        for (const auto &[addr, value] : regs) {
-            model.poke(addr, value);
-        }
-    }
-    std::vector<uint32_t> peeks(std::initializer_list<uint32_t> addrs) {
-        std::vector<uint32_t> v;
-        for (uint32_t a : addrs) {
-            v.push_back(model.peek(a));
-        }
-        return v;
     }
 
     void SetUp() override {

@@ -72,16 +72,16 @@ TEST_F(MailboxTest, BusyRefusedAndWaits) {
 }
 
 TEST_F(MailboxTest, InitImaStartsTheBlock) {
-    pokes({{0x5030, 0xFFF8},
-           {0x4008, 0xFFFE},
-           {0x5024, 0xFFFE},
-           {0x4C20, 0xFFFF},
-           {0x5028, 0xFFFF},
-           {0x000A, 0x00FF}});
+    poke({{0x5030, 0xFFF8},
+          {0x4008, 0xFFFE},
+          {0x5024, 0xFFFE},
+          {0x4C20, 0xFFFF},
+          {0x5028, 0xFFFF},
+          {0x000A, 0x00FF}});
     setBits(kPpB, kTxc, 335, 0, 32, 0xC0050000);
     ASSERT_EQ(VQ6192_IMA_InitIma(kChip, 1), 0u);
     // VC-4 group and enable cleared (0x4C20); the block reset pulsed and released (0x000A).
-    EXPECT_EQ(peeks({0x5030, 0x4008, 0x5024, 0x4C20, 0x5028, 0x000A}),
+    EXPECT_EQ(peek({0x5030, 0x4008, 0x5024, 0x4C20, 0x5028, 0x000A}),
               (std::vector<uint32_t>{0xFFFA, 0xFFFF, 0xFFFF, 0xFC00, 0xFFF0, 0x00FF}));
     EXPECT_EQ(word(kPpB, kTxc, 335), 0u);
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 200 * kTickUs) << "reset pulse 100 ticks, settle 100 ticks";
@@ -156,9 +156,9 @@ TEST_F(MailboxTest, UniLinkAddAndDelete) {
 }
 
 TEST_F(MailboxTest, Vc4TransparentPort) {
-    pokes({{0x4C22, 0xFC00}, {0x5028, 0xFFF0}});
+    poke({{0x4C22, 0xFC00}, {0x5028, 0xFFF0}});
     ASSERT_EQ(VQ6192_IMA_AddVc4(kChip, 1, 7), 0u);
-    EXPECT_EQ(peeks({0x4C22, 0x5028}), (std::vector<uint32_t>{0xFE07, 0xFFF2}))
+    EXPECT_EQ(peek({0x4C22, 0x5028}), (std::vector<uint32_t>{0xFE07, 0xFFF2}))
         << "group 7, enable bit 9, 10..15 kept";
     uint16_t en = 0, port = 0, grp = 0;
     ASSERT_EQ(VQ6192_IMA_GetImaVC4Cfg(kChip, 1, &en, &port, &grp), 0u);

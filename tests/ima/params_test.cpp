@@ -72,11 +72,11 @@ TEST_F(ParamsTest, RunningGroupParameters) {
 }
 
 TEST_F(ParamsTest, Vc4PortRemoval) {
-    pokes({{0x4C24, 0xFFFF}, {0x5028, 0xFFFF}});
+    poke({{0x4C24, 0xFFFF}, {0x5028, 0xFFFF}});
     setBits(kTxB, kInGrp, 170, 0, 256, 0);
     setBits(kTxB, kInGrp, 170, 168, 3, 7);
     ASSERT_EQ(VQ6192_IMA_DelVc4(kChip, 2, 9), 0u);
-    EXPECT_EQ(peeks({0x4C24, 0x5028}), (std::vector<uint32_t>{0xFDFF, 0xFFFB}))
+    EXPECT_EQ(peek({0x4C24, 0x5028}), (std::vector<uint32_t>{0xFDFF, 0xFFFB}))
         << "only the enable bits cleared";
     EXPECT_EQ(bits(kTxB, kInGrp, 170, 168, 3), 3u) << "link 170 (bit 2 of the three) leaves group 170";
     ASSERT_EQ(proc().commands().size(), 84u);

@@ -43,8 +43,8 @@ TEST_F(BundleTest, FirstEgressMemberSwitchesTheQueuesOnAndTheLastOff) {
               (U64s{0, 0x3C1D, 0x007}));
     // 30 ms after the queues go off, one 30 ms drain attempt, two 10 ms ready waits of the reset.
     EXPECT_EQ(virtualUs(), 30000u + 30000u + 5u + 20000u);
-    EXPECT_TRUE(traced("VQ6192_PPP_AddPppChanToMp:[20] To MP Bundle:[7] Direct:[2]\n"));
-    EXPECT_TRUE(traced("VQ6192_PPP_RemovePppChanFromMp : Remove PPP:[20] From MP Bundle Direct:[2]\n"));
+    EXPECT_TRUE(tracedLine("VQ6192_PPP_AddPppChanToMp:[20] To MP Bundle:[7] Direct:[2]\n"));
+    EXPECT_TRUE(tracedLine("VQ6192_PPP_RemovePppChanFromMp : Remove PPP:[20] From MP Bundle Direct:[2]\n"));
 }
 
 TEST_F(BundleTest, MemberCountingRules) {

@@ -56,10 +56,10 @@ TEST_F(CaptureTest, IngressRecordsWithoutEndOrStart) {
     ASSERT_EQ(VQ6192_PPP_GetPppDdrCapPktUp(kChip, 7, 0, buf.data(), &len, &next), 0u);
     EXPECT_EQ(len, 2000u);
     EXPECT_EQ(next, 36u * 64) << "the start block and 35 more";
-    EXPECT_TRUE(traced("CDrvVQ6192 : Get DDR Pkt Failed! Can't Find The End Head!\n"));
+    EXPECT_TRUE(tracedLine("CDrvVQ6192 : Get DDR Pkt Failed! Can't Find The End Head!\n"));
 
     EXPECT_EQ(VQ6192_PPP_GetPppDdrCapPktUp(kChip, 8, 0, buf.data(), &len, &next), kNoData);
-    EXPECT_TRUE(traced("CDrvVQ6192::GetPppDdrCapPktUp : Get DDR Pkt Begin Head Failed!\n"));
+    EXPECT_TRUE(tracedLine("CDrvVQ6192::GetPppDdrCapPktUp : Get DDR Pkt Begin Head Failed!\n"));
     EXPECT_EQ(model.block<vq6192::sim::DdrBlock>().blockReads(), 36u + 40u);
 }
 
@@ -72,7 +72,7 @@ TEST_F(CaptureTest, EgressRecords) {
     EXPECT_EQ(next, 128u + 3 * 64);
 
     EXPECT_EQ(VQ6192_PPP_GetPppDdrCapPktDown(kChip, 10, 0, buf.data(), &len, &next), kNoData);
-    EXPECT_TRUE(traced("NO BEGIN!"));
+    EXPECT_TRUE(tracedLine("NO BEGIN!"));
 }
 
 TEST_F(CaptureTest, WorkBufferRefused) {
@@ -145,7 +145,7 @@ TEST_F(CaptureTest, CobcCapture) {
         ASSERT_EQ(len, c.bytes.size());
         EXPECT_TRUE(std::equal(c.bytes.begin(), c.bytes.end(), buf.begin()));
         if (c.message != nullptr) {
-            EXPECT_TRUE(traced(c.message));
+            EXPECT_TRUE(tracedLine(c.message));
         }
     }
 }
@@ -181,8 +181,8 @@ TEST_F(CaptureTest, FifoCapture) {
         VQ6192_Platform_ResetVirtualTime();
         EXPECT_EQ(VQ6192_PPP_CapturePppFifoPkt(kChip, 255, 1, buf.data(), &flen), kNoData);
         EXPECT_EQ(virtualUs(), ready ? 10000 + 3 * 1000000 : 3 * 1000000);
-        EXPECT_TRUE(traced(ready ? "VQ6192_PPP_GetPppFifoCapData : Get Fifo Cap Read Ack Failed\n"
-                                 : "VQ6192_PPP_CapturePppFifoPkt : Get Fifo Cap Ready Failed\n"));
+        EXPECT_TRUE(tracedLine(ready ? "VQ6192_PPP_GetPppFifoCapData : Get Fifo Cap Read Ack Failed\n"
+                                     : "VQ6192_PPP_CapturePppFifoPkt : Get Fifo Cap Ready Failed\n"));
         EXPECT_EQ(model.peek(0x1300C), 1u) << "start cleared, type bundle";
     }
 }

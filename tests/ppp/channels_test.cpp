@@ -33,8 +33,8 @@ TEST_F(PppTest, TypicalRequestPppChannelOnE1Tributary5) {
         const uint32_t want = ts == 0 ? 0 : 0xD825;
         EXPECT_EQ((U32s{tsEntry(kTsIngress, 5, ts), tsEntry(kTsEgress, 5, ts)}), (U32s{want, want})) << ts;
     }
-    EXPECT_TRUE(
-        traced("VQ6192_PPP_CreatePppChan : Set E1:[5] TS:[0xfffffffe] To PPP:[37] Speed:[3] Return:[0x0]\n"));
+    EXPECT_TRUE(tracedLine(
+        "VQ6192_PPP_CreatePppChan : Set E1:[5] TS:[0xfffffffe] To PPP:[37] Speed:[3] Return:[0x0]\n"));
 }
 
 TEST_F(PppTest, CreateOnAnE1TheTimeslotLayerRefusesOrsItsStatus) {
@@ -105,8 +105,8 @@ TEST_F(PppTest, DeleteWithoutTimeslotsAndTheVc4Delete) {
         ASSERT_EQ(vc4 ? VQ6192_PPP_DelVC4PppChan(kChip, 3, 2) : VQ6192_PPP_DelPppChanNoTS(kChip, 3), 0u);
         EXPECT_EQ(entry(kLinkcfg, 3), 0x33FEu);
         EXPECT_EQ(entry(kRppucfg, 3) >> 28, 1u) << "Crcfe kept";
-        EXPECT_TRUE(traced(vc4 ? "VQ6192_PPP_DelPppChan :Del VC4:[2] return:[0x0]\n"
-                               : "VQ6192_PPP_DelPppChan : Del Channel:[3]return:[0x0]\n"));
+        EXPECT_TRUE(tracedLine(vc4 ? "VQ6192_PPP_DelPppChan :Del VC4:[2] return:[0x0]\n"
+                                   : "VQ6192_PPP_DelPppChan : Del Channel:[3]return:[0x0]\n"));
     }
     EXPECT_EQ(ppp().channelResets(), (std::vector<uint32_t>{3, 3}));
 }
@@ -157,7 +157,7 @@ TEST_F(PppTest, LinkTypeEnablesAndLoopbackFields) {
                     {PPP_OP(VQ6192_PPP_SetPppCsptEnable(c, 20, 1, 1)), kCsptcfg2, 20, 0xFF, 0x1FF},
                     {PPP_OP(VQ6192_PPP_SetPppTestTxEnable(c, 20, 1)), kLinkcfg, 20, 0x2FFF, 0x3FFF},
                     {PPP_OP(VQ6192_PPP_SetPppDdrCapChan(c, 20, 9, 1)), kMpskyeyecfg, 20, 0x0, 0x29}});
-    EXPECT_TRUE(traced("VQ6192_PPP_SetPppMRU : ulPppChanNo:[20] ulMRU:[2036]\n"));
+    EXPECT_TRUE(tracedLine("VQ6192_PPP_SetPppMRU : ulPppChanNo:[20] ulMRU:[2036]\n"));
 }
 
 TEST_F(PppTest, CrcModeGoesToThreeIngressPlacesAndOneEgress) {

@@ -136,21 +136,9 @@ class PppTest : public vqtest::ChipTest {
         }
     }
     uint64_t virtualUs() { return VQ6192_Platform_GetVirtualTimeUs(); }
-    bool traced(const std::string &text) {
+    bool tracedLine(const std::string &text) {
         const auto t = capture.traceTexts();
         return std::find(t.begin(), t.end(), text) != t.end();
-    }
-    void poke(std::initializer_list<Reg> regs) {
-        for (const auto &[addr, value] : regs) {
-            model.poke(addr, static_cast<uint16_t>(value));
-        }
-    }
-    U32s peek(std::initializer_list<uint32_t> addrs) {
-        U32s v;
-        for (uint32_t a : addrs) {
-            v.push_back(model.peek(a));
-        }
-        return v;
     }
     // The values written to one register, in order.
     U32s writesTo(uint32_t addr) {

@@ -87,6 +87,28 @@ std::vector<uint32_t> ChipTest::failCounters() const {
     return {c[0], c[1], c[2], c[3]};
 }
 
+void ChipTest::poke(std::initializer_list<std::pair<uint32_t, uint32_t>> regs) {
+    for (const auto &[addr, value] : regs) {
+        model.poke(addr, static_cast<uint16_t>(value));
+    }
+}
+
+std::vector<uint32_t> ChipTest::peek(std::initializer_list<uint32_t> addrs) const {
+    std::vector<uint32_t> v;
+    for (uint32_t a : addrs) {
+        v.push_back(model.peek(a));
+    }
+    return v;
+}
+
+std::vector<vq6192::sim::BusAccess> ChipTest::traced(const std::function<void()> &op) {
+    model.clearTrace();
+    model.setTrace(true);
+    op();
+    model.setTrace(false);
+    return model.trace();
+}
+
 void ChipTest::TearDown() {
     EXPECT_EQ(model.oddAccesses(), 0u) << "register accesses at an odd address";
     EXPECT_EQ(VQ6192_UnInstall_SDK(kChip), 0u);

@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "vq6192/core.h"
@@ -54,6 +56,11 @@ class ChipTest : public ::testing::Test {
     // The chip's four failure counters: arbitration refusals, semaphore take and give failures, table
     // time-outs.
     std::vector<uint32_t> failCounters() const;
+    // Registers of the model set or read in a list, without bus accesses.
+    void poke(std::initializer_list<std::pair<uint32_t, uint32_t>> regs);
+    std::vector<uint32_t> peek(std::initializer_list<uint32_t> addrs) const;
+    // The bus accesses of one call, from a clean trace (the trace is off afterwards).
+    std::vector<vq6192::sim::BusAccess> traced(const std::function<void()> &op);
 
     PlatformCapture capture;
     vq6192::sim::ChipModel model;
