@@ -42,6 +42,12 @@ TEST(Bounded, MemoryAndStringCopiesRefuseOverruns) {
     EXPECT_STREQ(dst, "");
     EXPECT_EQ(vq::strncpy_s(dst, sizeof dst, "abcdef", 2), 0);
     EXPECT_STREQ(dst, "ab");
+    // A one-byte destination holds the empty text; no destination at all is refused untouched.
+    EXPECT_EQ(vq::strncpy_s(dst, 1, "", 5), 0);
+    EXPECT_STREQ(dst, "");
+    dst[0] = 'x';
+    EXPECT_NE(vq::strncpy_s(dst, 0, "", 5), 0);
+    EXPECT_EQ(dst[0], 'x');
 }
 
 TEST(Bounded, TextBuilderNeverPassesTheBuffer) {
