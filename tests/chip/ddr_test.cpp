@@ -110,7 +110,16 @@ TEST_F(Ddr, BlockWriteAndReadRoundTripWithAndWithoutSwap) {
     EXPECT_EQ(ddr().blockWrites(), 1u);
 
     uint16_t out[32] = {};
-    EXPECT_EQ(VQ6192_Base_ReadDdr64Bytes(kChip, addr, out, 0, 64), 0u);
+    // The read strobe is bit 4 of 0xC062 alone: 0, 1, and 0 again after the data.
+    model.poke(0xC062, 0xFFEF);
+    std::vector<BusAccess> strobe;
+    for (const BusAccess &a :
+         writes(traced([&] { EXPECT_EQ(VQ6192_Base_ReadDdr64Bytes(kChip, addr, out, 0, 64), 0u); }))) {
+        if (a.addr == 0xC062) {
+            strobe.push_back(a);
+        }
+    }
+    EXPECT_EQ(strobe, (std::vector<BusAccess>{wr(0xC062, 0xFFEF), wr(0xC062, 0xFFFF), wr(0xC062, 0xFFEF)}));
     EXPECT_EQ(std::vector<uint16_t>(out, out + 32), std::vector<uint16_t>(data, data + 32));
     EXPECT_EQ(VQ6192_Base_ReadDdr64Bytes(kChip, addr, out, 1, 64), 0u);
     for (uint32_t j = 0; j < 8; ++j) {
@@ -118,7 +127,7 @@ TEST_F(Ddr, BlockWriteAndReadRoundTripWithAndWithoutSwap) {
             EXPECT_EQ(out[4 * j + i], data[4 * j + 3 - i]) << j << " " << i;
         }
     }
-    EXPECT_EQ(model.peek(0xC062), 0);
+    EXPECT_EQ(model.peek(0xC062), 0xFFEF) << "the strobe bit left clear, the others as they were";
 }
 
 TEST_F(Ddr, BlockLengthIsCountLessOne) {
@@ -176,40 +185,50 @@ TEST_F(Ddr, BusyTableTimesOut) {
     g_ulVQ6192DDRRWWaitTimes = 3;
 }
 
-TEST_F(Ddr, FifoFlagsLandInTheirNamedFields) {
-    struct Case {
-        uint32_t reg, bit;
-        size_t field;  // offset in the record, or SIZE_MAX for a bit the record does not hold
-    };
+TEST_F(Ddr, FifoFlagsLandInRecordOrder) {
     using F = VQ6192_DDR_FIFO_STAT;
-    // clang-format off
-    const Case cases[] = {
-        {0xC004, 10, offsetof(F, bddr2cmpicrcerr)}, {0xC004, 0, offsetof(F, bddr2catmcrcerr)},
-        {0xC004, 6, offsetof(F, bddr2cpppicrcerr)}, {0xC060, 1, offsetof(F, btabrfull)},
-        {0xC060, 0, offsetof(F, btabwfull)},        {0xC100, 3, offsetof(F, brrecfiforerr)},
-        {0xC126, 0, offsetof(F, btabcfifowerr)},    {0xC12E, 5, offsetof(F, batmrdfiforerr)},
-        {0xC136, 2, offsetof(F, bpwe3wdfifowerr)},  {0xC13E, 1, offsetof(F, bimacfiforerr)},
-        {0xC146, 4, offsetof(F, bcesirdfifowerr)},  {0xC14E, 3, offsetof(F, bcesewdfiforerr)},
-        {0xC156, 0, offsetof(F, bcrpcfifowerr)},    {0xC15E, 5, offsetof(F, bpppirdfiforerr)},
-        {0xC166, 3, offsetof(F, bpktwdfiforerr)},   {0xC166, 0, offsetof(F, bpktcfifowerr)},
-        {0xC16E, 5, offsetof(F, bppperdfiforerr)},  {0xC16E, 0, offsetof(F, bpppecfifowerr)},
-        {0xC176, 5, offsetof(F, bppurdfiforerr)},   {0xC176, 4, offsetof(F, bppurdfifowerr)},
-        {0xC176, 1, offsetof(F, bppucfiforerr)},    {0xC176, 0, offsetof(F, bppucfifowerr)},
-        {0xC176, 2, SIZE_MAX},                      {0xC004, 11, SIZE_MAX},
+    // The registers in record order with their flag bits, most significant first.
+    const std::vector<uint32_t> six = {5, 4, 3, 2, 1, 0}, four = {3, 2, 1, 0};
+    const std::pair<uint32_t, std::vector<uint32_t>> order[] = {
+        {0xC004, {10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0}},
+        {0xC060, {1, 0}},
+        {0xC100, four},
+        {0xC126, four},
+        {0xC12E, six},
+        {0xC136, six},
+        {0xC13E, six},
+        {0xC146, six},
+        {0xC14E, six},
+        {0xC156, six},
+        {0xC15E, six},
+        {0xC166, four},
+        {0xC16E, six},
+        {0xC176, {5, 4, 1, 0}},
+        {0xC176, {2}},   // no flag
+        {0xC004, {11}},  // no flag
     };
-    // clang-format on
-    for (const Case &c : cases) {
-        SCOPED_TRACE(testing::Message() << std::hex << c.reg << " bit " << std::dec << c.bit);
-        model.poke(c.reg, static_cast<uint16_t>(1u << c.bit));
-        F f;
-        std::memset(&f, 7, sizeof f);
-        EXPECT_EQ(VQ6192_Base_GetDDRFifoStats(kChip, &f), 0u);
-        const auto *bytes = reinterpret_cast<const uint8_t *>(&f);
-        for (size_t k = 0; k < sizeof f; ++k) {
-            EXPECT_EQ(bytes[k], k == c.field ? 1 : 0) << k;
+    size_t k = 0;
+    for (const auto &[reg, bits] : order) {
+        for (uint32_t bit : bits) {
+            SCOPED_TRACE(testing::Message() << std::hex << reg << " bit " << std::dec << bit);
+            model.poke(reg, static_cast<uint16_t>(1u << bit));
+            F f;
+            std::memset(&f, 7, sizeof f);
+            EXPECT_EQ(VQ6192_Base_GetDDRFifoStats(kChip, &f), 0u);
+            const auto *bytes = reinterpret_cast<const uint8_t *>(&f);
+            for (size_t i = 0; i < sizeof f; ++i) {
+                EXPECT_EQ(bytes[i], i == k ? 1 : 0) << i;
+            }
+            model.poke(reg, 0);
+            ++k;
         }
-        model.poke(c.reg, 0);
     }
+    EXPECT_EQ(k, sizeof(F) + 2);
+    // The names at a few places of the record.
+    EXPECT_EQ((std::vector<size_t>{offsetof(F, bddr2catmcrcerr), offsetof(F, btabwfull),
+                                   offsetof(F, batmrdfiforerr), offsetof(F, bpppecfifowerr),
+                                   offsetof(F, bppucfifowerr)}),
+              (std::vector<size_t>{10, 12, 21, 72, 76}));
 }
 
 TEST_F(Ddr, CrcCountersEightBytesApart) {

@@ -227,6 +227,8 @@ TEST_F(HostPathTest, IndirectPathWithoutFunctionsDoesNothing) {
     uint16_t v = 0x99;
     EXPECT_EQ(VQ6192_Indirect_ReadReg16(kChip, 0x20, &v), 0u);
     EXPECT_EQ(v, 0x99);
+    EXPECT_EQ(VQ6192_Indirect_ReadReg16(100000, 0x20, &v), 0u) << "no such chip: 0";
+    EXPECT_EQ(v, 0x99);
     EXPECT_TRUE(model.trace().empty());
     EXPECT_EQ(model.peek(0x20), 0x77);
 }

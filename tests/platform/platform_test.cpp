@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstring>
+#include <cwchar>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,10 @@ TEST(Bounded, FormatterTruncatesAndReportsWhatItWrote) {
     EXPECT_EQ(vq::snprintf_truncated_s(nullptr, 8, "x"), -1);
     EXPECT_EQ(vq::snprintf_truncated_s(buf, 0, "x"), -1);
     EXPECT_EQ(vq::snprintf_truncated_s(buf, 1, "x"), 0);
+    EXPECT_STREQ(buf, "");
+    // A wide character the C locale cannot convert makes the formatter fail: empty text, -1.
+    std::memset(buf, 'x', sizeof buf);
+    EXPECT_EQ(vq::snprintf_truncated_s(buf, sizeof buf, "%lc", static_cast<wint_t>(0x20AC)), -1);
     EXPECT_STREQ(buf, "");
 }
 
