@@ -106,12 +106,15 @@ TEST_F(TrafficTest, PolicerEntries) {
         EXPECT_EQ((V{raw.wIncrA, raw.wLimitB}), (V{c[1], c[5]}));
     }
     model.clearTrace();
+    capture.clear();
     ATM_TRAFFIC_DESC d16{1000, 0, 0, 0, 16}, d0{1000, 0, 0, 0, 0}, d{1000, 0, 0, 0, 2};
     EXPECT_EQ(
         (V32{VQ6192_ATM_SetAtmPolcfgQos(kChip, 1, &d16), VQ6192_ATM_SetAtmPolcfgQos(kChip, 1, &d0),
              VQ6192_ATM_SetAtmPolcfgQos(kChip, 8192, &d), VQ6192_ATM_SetAtmPolcfgQos(kChip, 1, nullptr)}),
         V32(4, kPara));
     EXPECT_TRUE(model.trace().empty());
+    EXPECT_FALSE(traced("Err. VQ6192_ATM_SetAtmPolcfgQos: CONFIGURE error!  ChipID: 0x3\r\n"))
+        << "refused before the policer is written";
 
     // A policer write that does not complete.
     model.tables().failCommand(kAtmBlock, 2);

@@ -120,6 +120,9 @@ TEST_F(ControlTest, TimeTickLoopsAndInterruptEnables) {
     setBits(kPpB, kRxc, 12, 0, 32, 0xFFFFFFFF);
     ASSERT_EQ(VQ6192_IMA_SetImaLinkInt(kChip, 12, 2, 0x3FF, 0), 0u);
     EXPECT_EQ(word(kPpB, kRxc, 12), 0xFFFFFC00u);
+    setBits(kPpB, kTxc, 12, 0, 32, 0xFFFFFFF0);
+    ASSERT_EQ(VQ6192_IMA_SetImaLinkInt(kChip, 12, 1, 0x5, 1), 0u);
+    EXPECT_EQ(word(kPpB, kTxc, 12), 0xFFFFFFF5u);
 }
 
 TEST_F(ControlTest, InterruptEvents) {
