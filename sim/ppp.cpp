@@ -98,6 +98,13 @@ PppBlock::PppBlock(ChipModel &model) : model_(model) {
         }
         return stored;
     });
+    model.onRead(kCobcReady, [this](uint32_t, uint16_t stored) -> uint16_t {
+        if (cobcReadyHold_ > 0) {
+            --cobcReadyHold_;
+            return 0;
+        }
+        return stored;
+    });
     model.onWrite(kCobcRead, [this](uint32_t, uint16_t written, uint16_t old) {
         if (rising(written, old, 1)) {
             if (cobcMisses_ > 0 || cobc_.empty()) {

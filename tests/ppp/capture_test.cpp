@@ -116,6 +116,7 @@ TEST_F(CaptureTest, CobcCapture) {
         uint32_t misses;
         std::vector<uint8_t> bytes;
         const char *message;
+        uint32_t readyHold = 0;  // reads of 0 from the ready bit before the first fetch
     };
     const Case cases[] = {
         {"a frame after noise",
@@ -135,12 +136,15 @@ TEST_F(CaptureTest, CobcCapture) {
          0,
          {},
          "VQ6192_PPP_GetCobcCapPkt Can't find SOP!\n"},
-        {"1024 bytes, the most one capture reads", longWords, 0, longBytes, nullptr}};
+        {"1024 bytes, the most one capture reads", longWords, 0, longBytes, nullptr},
+        {"ready at the third look", {{0x4142, 2}, {0x4344, 4}}, 0, {0x41, 0x42, 0x43, 0x44}, nullptr, 2},
+        {"not ready after three looks", {{0x4142, 2}, {0x4344, 4}}, 0, {}, nullptr, 3}};
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         capture.clear();
         ppp().loadCobcWords(c.words);
         ppp().missCobcPulses(c.misses);
+        ppp().holdCobcReady(c.readyHold);
         ASSERT_EQ(VQ6192_PPP_GetCobcCapPkt(kChip, buf.data(), &len), 0u);
         ASSERT_EQ(len, c.bytes.size());
         EXPECT_TRUE(std::equal(c.bytes.begin(), c.bytes.end(), buf.begin()));

@@ -63,6 +63,8 @@ class PppBlock : public ChipBlock {
     void loadCobcWords(const std::vector<CobcWord> &words);
     // The next n read pulses deliver nothing (ready stays 0).
     void missCobcPulses(uint32_t n) { cobcMisses_ = n; }
+    // The ready bit reads 0 for the next n reads, whatever it holds.
+    void holdCobcReady(uint32_t reads) { cobcReadyHold_ = reads; }
 
     // ---- FIFO capture (0x1300C start, 0x13010 ready, 0x13014 read pulse, 0x13016 acknowledge) ----
     // A frame the next capture delivers, four bytes per word.
@@ -90,6 +92,7 @@ class PppBlock : public ChipBlock {
 
     std::deque<CobcWord> cobc_;
     uint32_t cobcMisses_ = 0;
+    uint32_t cobcReadyHold_ = 0;
 
     std::deque<std::array<uint16_t, 3>> fifo_;  // data 0x1301A, data 0x13018, flags
     bool fifoReady_ = true;
