@@ -189,6 +189,18 @@ TEST_F(Settings, CountersFromTheirTables) {
     uint32_t drop = 0;
     ASSERT_EQ(VQ6192_CES_GetCesJtrBufDataStat(kChip, 12, &over, &under, &drop), 0u);
     EXPECT_EQ((U32s{over, under, drop}), (U32s{11, 22, 0x10033}));
+    // The debug counters: Ceststxcnt (select 8), Cestsrxcnt (12), Cestxtbrdcnt (6), Cestxtbwrcnt (7),
+    // Cesrxjbrdcnt (11), Cesrxjbwrcnt (10); the far-end fields stay 0.
+    for (const auto &[sel, value] :
+         Rows<2>{{8, 0x80000001}, {12, 0x12}, {6, 0x6}, {7, 0x7}, {11, 0xB}, {10, 0xA}}) {
+        setEntry(static_cast<uint32_t>(sel), 12, value);
+    }
+    VQ6192_CES_DBG_STAT_S dbg;
+    std::memset(&dbg, 0xEE, sizeof dbg);
+    ASSERT_EQ(VQ6192_CES_GetCesDbgStat(kChip, 12, &dbg), 0u);
+    EXPECT_EQ((U64s{dbg.dwTsTxCnt, dbg.dwTsRxCnt, dbg.dwDdrRdCnt, dbg.dwDdrWrCnt, dbg.dwJtrBufRdCnt,
+                    dbg.dwJtrBufWrCnt, dbg.wOppositeSn, dbg.wLocalTs1}),
+              (U64s{0x80000001, 0x12, 6, 7, 0xB, 0xA, 0, 0}));
     model.tables().holdBusy(kCesBlock, TableEngine::kForever);
     EXPECT_EQ(VQ6192_CES_GetCesPktSendStat(kChip, 12, &drop), kCesStep);
     model.tables().holdBusy(kCesBlock, 0);
