@@ -5,7 +5,6 @@
 //    that was never installed is a zeroed record the operation acts on, so no status is expected);
 //  - on the installed chip with each pointer null and with each integer at its type's maximum: no
 //    crash or sanitizer report, no allocation kept, and a parameter error writes no register.
-#include <regex>
 #include <set>
 #include <string>
 #include <vector>
@@ -235,7 +234,10 @@ TEST_F(BadInputSweep, NullPointersAndIntegersAtTheirMaximum) {
     std::printf("null pointers and integer maxima: %zu operations, %zu calls\n", swept, calls);
     // Only the raw register operations, whose address is the caller's, reach an odd address.
     for (const std::string &name : oddOps) {
-        EXPECT_TRUE(std::regex_search(name, std::regex("^VQ6192_(Indirect_)?(Read|Write)Reg"))) << name;
+        const bool raw = name.starts_with("VQ6192_ReadReg") || name.starts_with("VQ6192_WriteReg") ||
+                         name.starts_with("VQ6192_Indirect_ReadReg") ||
+                         name.starts_with("VQ6192_Indirect_WriteReg");
+        EXPECT_TRUE(raw) << name;
     }
 }
 
