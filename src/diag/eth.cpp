@@ -141,20 +141,16 @@ constexpr const char *kMacPerNames[VQ6192_ETH_MAC_PER_NUM] = {
 // clang-format on
 
 // The MAC attribute record as one u16 per field, in record order.
-#define VQ6192_MAC_ATTR_FIELDS(X)                                                                          \
-    X(byPortEn)                                                                                            \
-    X(byTxEn)                                                                                              \
-    X(byRxEn)                                                                                              \
-    X(byCfSlientEn)                                                                                        \
-    X(bySoftRstMII)                                                                                        \
-    X(bySoftRstRx)                                                                                         \
-    X(bySoftRstTx)                                                                                         \
-    X(wMaxFrmSize) X(sFdFcAddrL) X(sFdFcAddrM) X(sFdFcAddrH) X(wAddrL) X(wAddrM) X(wAddrH) X(byPadEnable)  \
-        X(byStripPadEn) X(byRxRuntPktEn) X(byShortRuntsThr) X(byCrcAdd) X(byStripCRCEn) X(byCRCErrPass)    \
-            X(byIpgTxTimer) X(byRxDflSgl) X(byCf2DfTwoPartDf1) X(bySerDesOrd) X(wVLanType) X(byVlanDropEn) \
-                X(byBcDropEn) X(byMcMatchEn) X(byUcMatchEn) X(byTxFdFc) X(byRxFdFc) X(byAutoEegEnable)     \
-                    X(wFdFcType) X(wFcTxTimer) X(wPauseThr) X(byDropUnkCtlFrm) X(byPauseFrmPass)           \
-                        X(byNoRmiiPreamble) X(byNoMiiPreamble) X(byNoGmiiPreamble)
+// clang-format off
+#define VQ6192_MAC_ATTR_FIELDS(X)                                                                           \
+    X(byPortEn) X(byTxEn) X(byRxEn) X(byCfSlientEn) X(bySoftRstMII) X(bySoftRstRx) X(bySoftRstTx)         \
+    X(wMaxFrmSize) X(sFdFcAddrL) X(sFdFcAddrM) X(sFdFcAddrH) X(wAddrL) X(wAddrM) X(wAddrH)                 \
+    X(byPadEnable) X(byStripPadEn) X(byRxRuntPktEn) X(byShortRuntsThr) X(byCrcAdd) X(byStripCRCEn)         \
+    X(byCRCErrPass) X(byIpgTxTimer) X(byRxDflSgl) X(byCf2DfTwoPartDf1) X(bySerDesOrd) X(wVLanType)         \
+    X(byVlanDropEn) X(byBcDropEn) X(byMcMatchEn) X(byUcMatchEn) X(byTxFdFc) X(byRxFdFc)                    \
+    X(byAutoEegEnable) X(wFdFcType) X(wFcTxTimer) X(wPauseThr) X(byDropUnkCtlFrm) X(byPauseFrmPass)        \
+    X(byNoRmiiPreamble) X(byNoMiiPreamble) X(byNoGmiiPreamble)
+// clang-format on
 
 #define VQ6192_COUNT_FIELD(f) +1
 constexpr size_t kMacAttrFields = 0 VQ6192_MAC_ATTR_FIELDS(VQ6192_COUNT_FIELD);
