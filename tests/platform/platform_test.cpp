@@ -69,6 +69,9 @@ TEST(Bounded, TextBuilderNeverPassesTheBuffer) {
     std::string untouched(4, '\xEE');
     vq::TextBuilder empty(untouched.data(), 4);
     EXPECT_EQ(untouched[0], '\0');
+    untouched[0] = '\xEE';
+    vq::TextBuilder oneByte(untouched.data(), 1);
+    EXPECT_EQ(untouched[0], '\0') << "a one-byte buffer holds the empty text";
     vq::TextBuilder none(nullptr);
     none.add("ignored");
     EXPECT_EQ(none.length(), 0u);
@@ -182,6 +185,18 @@ TEST(Semaphore, ChipLockOnHostSemaphoresIsCreatedFreeAndBinary) {
         VQ6192_UnInstall_SDK(5);
     }
     VQ6192_Platform_SetHooks(nullptr);
+}
+
+// Without file functions the dump's file hooks do nothing and succeed, leaving the handle 0.
+TEST(DumpFiles, WithoutFileFunctionsEachHookDoesNothingAndReturns0) {
+    VQ6192_Platform_SetFileHooks(nullptr);
+    uintptr_t handle = 0;
+    const char data[4] = "abc";
+    EXPECT_EQ(
+        (std::vector<uint32_t>{vq6192_fileopen_func("f", "wb", &handle),
+                               vq6192_filewrite_func(data, 1, 3, handle), vq6192_fileclose_func(&handle)}),
+        (std::vector<uint32_t>{0, 0, 0}));
+    EXPECT_EQ(handle, 0u);
 }
 
 TEST(Clock, VirtualClockTotalsEveryWait) {
