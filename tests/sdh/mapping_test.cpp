@@ -292,9 +292,9 @@ TEST_F(SdhMapTest, MapLoopConfigurationAndDs3FifoReset) {
     EXPECT_EQ(VQ6192_SDH_SetMapLoopCfg(kChip, 0, 2, 0), kParaErr);
     EXPECT_EQ(VQ6192_SDH_GetMapLoopCfg(kChip, &a, nullptr, &c), kParaErr);
 
-    model.poke(0x2C040 + 0x40 * 2, 0x0003);
+    model.poke(0x2C040 + 0x40 * 2, 0xFFF7);
     ASSERT_EQ(VQ6192_SDH_SetDS3RxFifoRst(kChip, 2, 1), 0u);
-    EXPECT_EQ(model.peek(0x2C0C0), 0x000B) << "beside the VT/TU type";
+    EXPECT_EQ(model.peek(0x2C0C0), 0xFFFF) << "bit 3 alone, beside the VT/TU type";
     EXPECT_EQ(VQ6192_SDH_SetDS3RxFifoRst(kChip, 4, 1), kParaErr);
     EXPECT_EQ(VQ6192_SDH_SetDS3RxFifoRst(kChip, 0, 2), kParaErr);
 }
