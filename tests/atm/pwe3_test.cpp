@@ -201,6 +201,8 @@ TEST_F(Pwe3Test, FieldSettersChangeOnlyTheirField) {
         ASSERT_EQ(set(kChip), 0u);
         EXPECT_EQ(bits(sel, index, 0, width), after);
     }
+    uint16_t pri = 99;
+    EXPECT_EQ(VQ6192_ATM_GetPwPriTemplate(kChip, 31, 1, &pri), 0u) << "service types 1..5";
 }
 
 TEST_F(Pwe3Test, ControlWordRuleOfTheOneToOneModes) {

@@ -175,6 +175,10 @@ TEST_F(PrbsTest, TimeslotGenerator) {
         EXPECT_EQ(ints(back.ulMode, back.ulPattern, back.ulFlag, back.usPath, en),
                   ints(c.gen.ulMode, c.gen.ulPattern, c.gen.ulFlag, c.gen.usPath, c.flag));
     }
+    // Bits 3..8 (rate, single, enable) are not the timeslot generator's: they are kept.
+    model.poke(0x257C, 0x01F8);
+    ASSERT_EQ(VQ6192_Framer_SetTsPRBSInsAttr(kChip, 1, &cases[1].gen, 1), 0u);
+    EXPECT_EQ(model.peek(0x257C), 0x01FBu);
     // E3/T3 and VC-4 paths cannot insert towards the line.
     const VQ6192_FRM_PRBS_INS_ATTR_S egress{0, 2, 0, 0, 1, 1};
     model.setTrace(true);

@@ -54,6 +54,7 @@ TEST_F(ControlTest, CommandWrappersSendTheirParameters) {
         "LID 33", [&] { return VQ6192_IMA_SetImaLinkStatus(kChip, 9, 1, 0, rx, lid33, 1, 1, 0); }, true);
     expectRefused("pattern 256", [] { return VQ6192_IMA_UpdateTestPtn(kChip, 9, 1, 256, 3, 1, 0); });
     EXPECT_EQ(VQ6192_IMA_UpdateTestPtn(kChip, 9, 1, 255, 3, 1, 255), 0u) << "both patterns up to 255";
+    EXPECT_EQ(VQ6192_IMA_Lasr(kChip, 9, 0, 2, nullptr, tx, 0), 0u) << "transmit links alone";
 }
 
 TEST_F(ControlTest, ForcedLinkDeletion) {
