@@ -235,6 +235,7 @@ TEST_F(CaptureTest, BundleCounters) {
     setEntry(kMprbyte, 4, 0x05060708);
     VQ6192_MP_INGRESS_STAT_S s{};
     ASSERT_EQ(VQ6192_PPP_GetMpIngressStat(kChip, 4, &s), 0u);
+    EXPECT_EQ(VQ6192_PPP_GetMpIngressStat(kChip, VQ6192_SCH_MP_MAX, &s), kParaErr) << "bundles below 256";
     // Fragments member 0 (0..31), packets member 1 (32..63), aborts member 2 (64..95), repeats member 4
     // (128..143), time-outs member 3 (96..127), SN errors member 5 (144..159).
     EXPECT_EQ(
