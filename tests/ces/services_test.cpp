@@ -76,6 +76,7 @@ TEST_F(Services, RefusalsTouchNothing) {
         {"64 frames", [](VQ6192_CES_PW_S &p) { p.ucFramNum = 64; }},
         {"jitter depth 21504", [](VQ6192_CES_PW_S &p) { p.usJbDepth = 21504; }},
         {"PT 128", [](VQ6192_CES_PW_S &p) { p.stRtpCfg.dwPayloadType = 128; }},
+        {"SN mode 4", [](VQ6192_CES_PW_S &p) { p.stRtpCfg.dwTxSnGenmode = 4; }},
         {"VLAN 4096", [](VQ6192_CES_PW_S &p) { p.ulVlanId = 4096; }},
         {"PW label above 20 bits", [](VQ6192_CES_PW_S &p) { p.ulPwLabel = 0x100000; }},
         {"in-label above 20 bits", [](VQ6192_CES_PW_S &p) { p.ulInLabel = 0x100000; }}};
