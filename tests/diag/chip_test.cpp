@@ -163,6 +163,7 @@ TEST_F(ChipDiag, WithoutABuffer) {
         {"getchipstatus", [] { return getchipstatus(kChip, nullptr); }, false, 0},
         {"getpllpowerdown, bad pll", [] { return getpllpowerdown(kChip, 4, nullptr); }, false, 0},
         {"getddrfifostats", [] { return getddrfifostats(kChip, nullptr); }, false, 0},
+        {"getddrteststats", [] { return getddrteststats(kChip, nullptr); }, false, 0},
         {"getsdstxclksel", [] { return getsdstxclksel(kChip, nullptr); }, true, 0},
         {"getclkdetectsel, bad chip", [] { return getclkdetectsel(kBadChip, nullptr); }, false, kBadChipPara},
         {"getsrvpowerdownen", [] { return getsrvpowerdownen(kChip, nullptr); }, true, 0},
