@@ -124,8 +124,7 @@ VQ6192_API uint32_t getatmvcx(uint32_t chip, uint32_t link, uint32_t dir, char *
     }
     uint16_t vcx = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmVcx(chip, link, dir, &vcx);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmVcx()", {{"wVCX", vcx}});
+    framed(buf, kMacSep, "GetAtmVcx()", {{"wVCX", vcx}});
     return rc;
 }
 
@@ -168,8 +167,7 @@ VQ6192_API uint32_t getatmpolicingid(uint32_t chip, uint32_t vcx, char *buf) {
     }
     uint16_t id = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmPolicingID(chip, vcx, &id);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmPolicingID()", {{"wPolicingID", id}});
+    framed(buf, kMacSep, "GetAtmPolicingID()", {{"wPolicingID", id}});
     return rc;
 }
 
@@ -179,8 +177,7 @@ VQ6192_API uint32_t getlinktype(uint32_t chip, uint32_t vcx, char *buf) {
     }
     uint16_t type = 0;
     const uint32_t rc = VQ6192_ATM_GetLinkType(chip, vcx, &type);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetLinkType()", {{"wType", type}});
+    framed(buf, kMacSep, "GetLinkType()", {{"wType", type}});
     return rc;
 }
 
@@ -190,8 +187,7 @@ VQ6192_API uint32_t getatmportenstat(uint32_t chip, uint32_t port, uint32_t side
     }
     uint8_t en = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmPortEnStat(chip, port, side, &en);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmPortEnStat()", {{"byEnable", en}});
+    framed(buf, kMacSep, "GetAtmPortEnStat()", {{"byEnable", en}});
     return rc;
 }
 
@@ -201,8 +197,7 @@ VQ6192_API uint32_t getatmporttype(uint32_t chip, uint32_t port, uint32_t side, 
     }
     uint8_t uni = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmPortType(chip, port, side, &uni);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmPortType()", {{"byUniFlag", uni}});
+    framed(buf, kMacSep, "GetAtmPortType()", {{"byUniFlag", uni}});
     return rc;
 }
 
@@ -213,8 +208,7 @@ VQ6192_API uint32_t getatmtransconnsingle(uint32_t chip, uint32_t port, uint32_t
     uint8_t map = 0;
     uint16_t dst = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmTransConnSingle(chip, port, side, &map, &dst);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmTransConnSingle()", {{"byPortMap", map}, {"wDstPort", dst}});
+    framed(buf, kMacSep, "GetAtmTransConnSingle()", {{"byPortMap", map}, {"wDstPort", dst}});
     return rc;
 }
 
@@ -224,8 +218,7 @@ VQ6192_API uint32_t getatmtransfifo(uint32_t chip, uint32_t linePort, char *buf)
     }
     uint32_t th[3] = {};
     const uint32_t rc = VQ6192_ATM_GetAtmTransFiFo(chip, linePort, th);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmTransFiFo()",
+    framed(buf, kMacSep, "GetAtmTransFiFo()",
            {{"dwBmPause", th[0]}, {"dwBmCancel", th[1]}, {"dwBmFifoDrop", th[2]}});
     return rc;
 }
@@ -238,8 +231,7 @@ VQ6192_API uint32_t getatmqm(uint32_t chip, uint32_t queueIndex, char *buf) {
     uint32_t type = 0;
     uint16_t qid = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmQm(chip, queueIndex, &port, &type, &qid);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmQm()", {{"wPort", port}, {"renServiceType", type}, {"wQid", qid}});
+    framed(buf, kMacSep, "GetAtmQm()", {{"wPort", port}, {"renServiceType", type}, {"wQid", qid}});
     return rc;
 }
 
@@ -249,8 +241,7 @@ VQ6192_API uint32_t getatmbmpvc(uint32_t chip, uint32_t vcx, char *buf) {
     }
     uint8_t bm[5] = {};
     const uint32_t rc = VQ6192_ATM_GetAtmBmPvc(chip, vcx, bm);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmBmPvc()",
+    framed(buf, kMacSep, "GetAtmBmPvc()",
            {{"byClpt", bm[0]}, {"byFd", bm[1]}, {"byPfd", bm[2]}, {"byRed", bm[3]}, {"byIdx", bm[4]}});
     return rc;
 }
@@ -261,8 +252,7 @@ VQ6192_API uint32_t getatmbmth(uint32_t chip, uint32_t idx, uint32_t serviceType
     }
     ATM_BM_TH t{};
     const uint32_t rc = VQ6192_ATM_GetAtmBmTh(chip, idx, serviceType, &t);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmBmTh()",
+    framed(buf, kMacSep, "GetAtmBmTh()",
            {{"wBmClp0S0", t.wBmClp0S0},
             {"wBmClp1S1", t.wBmClp1S1},
             {"bBmWeight", t.bBmWeight},
@@ -281,8 +271,7 @@ VQ6192_API uint32_t getatmbmreg(uint32_t chip, char *buf) {
     }
     uint32_t v[7] = {};
     const uint32_t rc = VQ6192_ATM_GetAtmBmReg(chip, v);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmBmReg()",
+    framed(buf, kMacSep, "GetAtmBmReg()",
            {{"dwAllTh", v[0]},
             {"dwCbrTh", v[1]},
             {"dwRtVbrTh", v[2]},
@@ -299,8 +288,7 @@ VQ6192_API uint32_t getatmpolcfg(uint32_t chip, uint32_t policingId, char *buf) 
     }
     ATM_POLICING_CFG p{};
     const uint32_t rc = VQ6192_ATM_GetAtmPolcfg(chip, policingId, &p);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmPolcfg()",
+    framed(buf, kMacSep, "GetAtmPolcfg()",
            {{"wIncrB", p.wIncrB},
             {"wPBMode", p.wPBMode},
             {"wLimitB", p.wLimitB},
@@ -316,8 +304,7 @@ VQ6192_API uint32_t getatmebs(uint32_t chip, uint32_t linePort, char *buf) {
     }
     ATM_EBS_CFG e{};
     const uint32_t rc = VQ6192_ATM_GetAtmEbs(chip, linePort, &e);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmEbs()",
+    framed(buf, kMacSep, "GetAtmEbs()",
            {{"byVbrEn", e.byVbrEn},
             {"byNvbrEn", e.byNvbrEn},
             {"wRtvbrWeight", e.wRtvbrWeight},
@@ -333,8 +320,7 @@ VQ6192_API uint32_t getatmshvc(uint32_t chip, uint32_t linePort, uint32_t cls, c
     }
     uint32_t cells = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmShVc(chip, linePort, cls, &cells);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmShVc()", {{"dwShvcCell", cells}});
+    framed(buf, kMacSep, "GetAtmShVc()", {{"dwShvcCell", cells}});
     return rc;
 }
 
@@ -344,8 +330,7 @@ VQ6192_API uint32_t getoamcrcenstat(uint32_t chip, char *buf) {
     }
     uint8_t en = 0;
     const uint32_t rc = VQ6192_ATM_GetOamCrcEnStat(chip, &en);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetOamCrcEnStat()", {{"byEnable", en}});
+    framed(buf, kMacSep, "GetOamCrcEnStat()", {{"byEnable", en}});
     return rc;
 }
 
@@ -357,8 +342,7 @@ VQ6192_API uint32_t getoamlinkcc(uint32_t chip, uint32_t vcx, char *buf) {
     uint8_t sink = 0;
     uint32_t state = 0;
     const uint32_t rc = VQ6192_ATM_GetOamLinkCC(chip, vcx, &src, &sink, &state);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetOamLinkCC()", {{"bySrcType", src}, {"bySinkType", sink}, {"dwState", state}});
+    framed(buf, kMacSep, "GetOamLinkCC()", {{"bySrcType", src}, {"bySinkType", sink}, {"dwState", state}});
     return rc;
 }
 
@@ -368,8 +352,7 @@ VQ6192_API uint32_t getoamsegend(uint32_t chip, uint32_t vcx, char *buf) {
     }
     uint32_t type = 0;
     const uint32_t rc = VQ6192_ATM_GetOamSegEnd(chip, vcx, &type);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetOamSegEnd()", {{"renSegEndType", type}}, vq::diag::kSignedValueLine);
+    framed(buf, kMacSep, "GetOamSegEnd()", {{"renSegEndType", type}}, vq::diag::kSignedValueLine);
     return rc;
 }
 
@@ -491,8 +474,7 @@ VQ6192_API uint32_t getatmportstat(uint32_t chip, uint32_t port, uint32_t side, 
     }
     uint32_t rcc = 0, tcc = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmPortStat(chip, port, side, &rcc, &tcc);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmPortStat()", {{"dwRcc", rcc}, {"dwTcc", tcc}});
+    framed(buf, kMacSep, "GetAtmPortStat()", {{"dwRcc", rcc}, {"dwTcc", tcc}});
     return rc;
 }
 
@@ -502,8 +484,7 @@ VQ6192_API uint32_t getatmvcsstat(uint32_t chip, uint32_t vcx, char *buf) {
     }
     uint32_t tt = 0, tr = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmVcsStat(chip, vcx, &tt, &tr);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmVcsStat()", {{"dwTTcc", tt}, {"dwTRcc", tr}});
+    framed(buf, kMacSep, "GetAtmVcsStat()", {{"dwTTcc", tt}, {"dwTRcc", tr}});
     return rc;
 }
 
@@ -513,8 +494,7 @@ VQ6192_API uint32_t getatmccsrcstat(uint32_t chip, uint32_t vcx, char *buf) {
     }
     uint16_t timer = 0, cc = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmCcSrcStat(chip, vcx, &timer, &cc);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmCcSrcStat()", {{"wSrcTimer", timer}, {"wTtcc", cc}});
+    framed(buf, kMacSep, "GetAtmCcSrcStat()", {{"wSrcTimer", timer}, {"wTtcc", cc}});
     return rc;
 }
 
@@ -524,8 +504,7 @@ VQ6192_API uint32_t getatmvcxdropstat(uint32_t chip, uint32_t vcx, char *buf) {
     }
     uint16_t drop = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmVcxDropStat(chip, vcx, &drop);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmVcxDropStat()", {{"wDropCell", drop}});
+    framed(buf, kMacSep, "GetAtmVcxDropStat()", {{"wDropCell", drop}});
     return rc;
 }
 
@@ -535,8 +514,7 @@ VQ6192_API uint32_t getatmportdropstat(uint32_t chip, uint32_t linePort, char *b
     }
     uint16_t drop = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmPortDropStat(chip, linePort, &drop);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmPortDropStat()", {{"wDropCell", drop}});
+    framed(buf, kMacSep, "GetAtmPortDropStat()", {{"wDropCell", drop}});
     return rc;
 }
 
@@ -546,8 +524,7 @@ VQ6192_API uint32_t getvcxdropinfo(uint32_t chip, uint32_t vcx, char *buf) {
     }
     uint8_t all5 = 0, fd = 0, pfd = 0;
     const uint32_t rc = VQ6192_ATM_GetVcxDropInfo(chip, vcx, &all5, &fd, &pfd);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetVcxDropInfo()", {{"byBmAll5", all5}, {"byBmFD", fd}, {"byBmPFD", pfd}});
+    framed(buf, kMacSep, "GetVcxDropInfo()", {{"byBmAll5", all5}, {"byBmFD", fd}, {"byBmPFD", pfd}});
     return rc;
 }
 
@@ -632,8 +609,7 @@ VQ6192_API uint32_t getatmccstat(uint32_t chip, char *buf) {
     }
     uint16_t fifo = 0, cc = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmCcStat(chip, &fifo, &cc);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmCcStat()", {{"wCcFifoNum", fifo}, {"wCcCnt", cc}});
+    framed(buf, kMacSep, "GetAtmCcStat()", {{"wCcFifoNum", fifo}, {"wCcCnt", cc}});
     return rc;
 }
 
@@ -643,8 +619,7 @@ VQ6192_API uint32_t getatmfifooverflow(uint32_t chip, char *buf) {
     }
     uint16_t v[3] = {};
     const uint32_t rc = VQ6192_ATM_GetAtmFifoOverflow(chip, v);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmFifoOverflow()",
+    framed(buf, kMacSep, "GetAtmFifoOverflow()",
            {{"wFifoOverflow[0]", v[0]}, {"wFifoOverflow[1]", v[1]}, {"wFifoOverflow[2]", v[2]}});
     return rc;
 }
@@ -655,8 +630,7 @@ VQ6192_API uint32_t getatmtabrambusy(uint32_t chip, char *buf) {
     }
     uint16_t busy = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmTabRamBusy(chip, &busy);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmTabRamBusy()", {{"byRam", busy}});
+    framed(buf, kMacSep, "GetAtmTabRamBusy()", {{"byRam", busy}});
     return rc;
 }
 
@@ -666,8 +640,7 @@ VQ6192_API uint32_t getatmswalarm(uint32_t chip, char *buf) {
     }
     uint16_t v[3] = {};
     const uint32_t rc = VQ6192_ATM_GetAtmSwAlarm(chip, v);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmSwAlarm()",
+    framed(buf, kMacSep, "GetAtmSwAlarm()",
            {{"wTcamRepeat", v[0]}, {"wTcamRepeatHis", v[1]}, {"wDDR2FullAlm", v[2]}});
     return rc;
 }
@@ -679,8 +652,7 @@ VQ6192_API uint32_t getvpcdelack(uint32_t chip, char *buf) {
     uint8_t del = 0, type = 0;
     uint16_t port = 0;
     const uint32_t rc = VQ6192_ATM_GetVpcDelAck(chip, &del, &type, &port);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetVpcDelAck()", {{"byDelStat", del}, {"byType", type}, {"wLinkPort", port}});
+    framed(buf, kMacSep, "GetVpcDelAck()", {{"byDelStat", del}, {"byType", type}, {"wLinkPort", port}});
     return rc;
 }
 
@@ -792,8 +764,7 @@ VQ6192_API uint32_t getsendpwe3time(uint32_t chip, char *buf) {
     }
     uint16_t t = 0;
     const uint32_t rc = VQ6192_ATM_GetSendPwe3Time(chip, &t);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetSendPwe3Time()", {{"wTime", t}});
+    framed(buf, kMacSep, "GetSendPwe3Time()", {{"wTime", t}});
     return rc;
 }
 
@@ -861,8 +832,7 @@ VQ6192_API uint32_t getatmpwcwen(uint32_t chip, uint32_t pw, char *buf) {
     }
     uint8_t en = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmPwCWEn(chip, pw, &en);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmPwCWEn()", {{"rbyEnable", en}});
+    framed(buf, kMacSep, "GetAtmPwCWEn()", {{"rbyEnable", en}});
     return rc;
 }
 
@@ -872,8 +842,7 @@ VQ6192_API uint32_t getatmpwencpmode(uint32_t chip, uint32_t pw, char *buf) {
     }
     uint32_t mode = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmPwEncpMode(chip, pw, &mode);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmPwEncpMode()", {{"renPwEnMode", mode}}, vq::diag::kSignedValueLine);
+    framed(buf, kMacSep, "GetAtmPwEncpMode()", {{"renPwEnMode", mode}}, vq::diag::kSignedValueLine);
     return rc;
 }
 
@@ -883,8 +852,7 @@ VQ6192_API uint32_t getatmpwcellconcattr(uint32_t chip, uint32_t pw, char *buf) 
     }
     uint32_t cells = 0, time = 0;
     const uint32_t rc = VQ6192_ATM_GetAtmPwCellConcAttr(chip, pw, &cells, &time);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetAtmPwCellConcAttr()", {{"rdwCellNum", cells}, {"rdwMaxEncpTime", time}});
+    framed(buf, kMacSep, "GetAtmPwCellConcAttr()", {{"rdwCellNum", cells}, {"rdwMaxEncpTime", time}});
     return rc;
 }
 
@@ -911,8 +879,7 @@ VQ6192_API uint32_t getpwenable(uint32_t chip, uint32_t pw, char *buf) {
     }
     uint8_t en = 0;
     const uint32_t rc = VQ6192_ATM_GetPwEnable(chip, pw, &en);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetPwEnable()", {{"byPwEnable", en}});
+    framed(buf, kMacSep, "GetPwEnable()", {{"byPwEnable", en}});
     return rc;
 }
 
@@ -922,8 +889,7 @@ VQ6192_API uint32_t getpwchkerralm(uint32_t chip, uint32_t pw, char *buf) {
     }
     uint8_t alm = 0;
     const uint32_t rc = VQ6192_ATM_GetPwChkErrAlm(chip, pw, &alm);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetPwChkErrAlm()", {{"byAlmStat", alm}});
+    framed(buf, kMacSep, "GetPwChkErrAlm()", {{"byAlmStat", alm}});
     return rc;
 }
 
@@ -933,8 +899,7 @@ VQ6192_API uint32_t getpwsnchkadd(uint32_t chip, uint32_t pw, char *buf) {
     }
     uint16_t chk = 0, add = 0;
     const uint32_t rc = VQ6192_ATM_GetPwSnChkAdd(chip, pw, &chk, &add);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetPwSnChkAdd()", {{"rwSnChkEn", chk}, {"rwSnAddEn", add}});
+    framed(buf, kMacSep, "GetPwSnChkAdd()", {{"rwSnChkEn", chk}, {"rwSnAddEn", add}});
     return rc;
 }
 
@@ -944,8 +909,7 @@ VQ6192_API uint32_t getpwpritemplate(uint32_t chip, uint32_t tmpl, uint32_t serv
     }
     uint16_t pri = 0;
     const uint32_t rc = VQ6192_ATM_GetPwPriTemplate(chip, tmpl, serviceType, &pri);
-    TextBuilder text(buf);
-    framed(text, kMacSep, "GetPwPriTemplate()", {{"rwPriority", pri}});
+    framed(buf, kMacSep, "GetPwPriTemplate()", {{"rwPriority", pri}});
     return rc;
 }
 

@@ -17,15 +17,13 @@ constexpr char kRecordLine[] = "    | %-20s : 0x%-8x(%-10u) \n";
 
 // A single-value report: "        <title>()\n" between CES separators, one value line per field.
 uint32_t single(char *buf, const char *title, uint32_t rc, std::initializer_list<Field> fields) {
-    TextBuilder text(buf);
-    framed(text, kSep, title, fields);
+    framed(buf, kSep, title, fields);
     return rc;
 }
 
 // A record report: the title line, one line per field, PRINT_END.
 uint32_t record(char *buf, const char *title, uint32_t rc, std::initializer_list<Field> fields) {
-    TextBuilder text(buf);
-    fieldTable(text, title, fields, kRecordLine);
+    fieldTable(buf, title, fields, kRecordLine);
     return rc;
 }
 

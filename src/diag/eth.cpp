@@ -25,10 +25,7 @@ constexpr uint32_t kCapPrintMax = 48;
 
 uint32_t single(char *buf, const char *sep, const char *title, std::initializer_list<Field> fields,
                 uint32_t rc) {
-    if (buf != nullptr) {
-        TextBuilder text(buf);
-        framed(text, sep, title, fields);
-    }
+    framed(buf, sep, title, fields);
     return rc;
 }
 
@@ -41,10 +38,7 @@ uint32_t nSingle(char *buf, const char *title, std::initializer_list<Field> fiel
 }
 
 uint32_t table(char *buf, const char *title, std::initializer_list<Field> fields, uint32_t rc) {
-    if (buf != nullptr) {
-        TextBuilder text(buf);
-        fieldTable(text, title, fields, kStructLine);
-    }
+    fieldTable(buf, title, fields, kStructLine);
     return rc;
 }
 

@@ -36,4 +36,15 @@ void setResult(TextBuilder &text, const char *name, uint32_t status) {
     text.add("        %s() is %s\n", name, status == 0 ? "OK" : "FAIL");
 }
 
+void framed(char *buf, const char *sep, const char *title, std::initializer_list<Field> fields,
+            const char *format) {
+    TextBuilder text(buf);
+    framed(text, sep, title, fields, format);
+}
+
+void fieldTable(char *buf, const char *title, std::initializer_list<Field> fields, const char *format) {
+    TextBuilder text(buf);
+    fieldTable(text, title, fields, format);
+}
+
 }  // namespace vq::diag

@@ -43,4 +43,9 @@ void fieldTable(TextBuilder &text, const char *title, std::initializer_list<Fiel
 
 void setResult(TextBuilder &text, const char *name, uint32_t status);
 
+// The same reports written into a command's own buffer; without a buffer nothing is written.
+void framed(char *buf, const char *sep, const char *title, std::initializer_list<Field> fields,
+            const char *format = kValueLine);
+void fieldTable(char *buf, const char *title, std::initializer_list<Field> fields, const char *format);
+
 }  // namespace vq::diag

@@ -26,15 +26,13 @@ constexpr uint32_t kPktBuf = 2048;
 
 // A framed report of single values; the operation's status is returned as it is.
 uint32_t values(char *buf, const char *title, uint32_t rc, std::initializer_list<Field> fields) {
-    TextBuilder text(buf);
-    framed(text, kPppSep, title, fields);
+    framed(buf, kPppSep, title, fields);
     return rc;
 }
 
 // A structure report: title, one line per field, PRINT_END.
 uint32_t fields(char *buf, const char *title, uint32_t rc, std::initializer_list<Field> list) {
-    TextBuilder text(buf);
-    fieldTable(text, title, list, kStructLine);
+    fieldTable(buf, title, list, kStructLine);
     return rc;
 }
 

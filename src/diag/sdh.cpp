@@ -17,8 +17,7 @@ constexpr uint32_t low16(uint32_t status) {
 }
 
 uint32_t report(char *buf, const char *title, uint32_t status, std::initializer_list<Field> fields) {
-    TextBuilder text(buf);
-    framed(text, kSep, title, fields);
+    framed(buf, kSep, title, fields);
     return low16(status);
 }
 
@@ -1092,8 +1091,7 @@ VQ6192_API uint32_t getlpalms(uint32_t chip, uint32_t vc4, uint32_t tug3, uint32
     }
     uint8_t a[VQ6192_SDH_LP_ALARM_NUM] = {};
     const uint32_t status = VQ6192_SDH_GetLpAlms(chip, vc4, tug3, tu, a);
-    TextBuilder text(buf);
-    framed(text, kSep, "GetLpAlms()",
+    framed(buf, kSep, "GetLpAlms()",
            {{"ucLpRfiAlarmHis", a[0]},
             {"ucLpPdiAlarmHis", a[1]},
             {"ucLpSdiAlarmHis", a[2]},
@@ -1117,8 +1115,7 @@ VQ6192_API uint32_t getsdhe1fifoalm(uint32_t chip, uint32_t e1, char *buf) {
     }
     uint8_t a[4] = {};
     const uint32_t status = VQ6192_SDH_GetSDHET1FifoAlm(chip, e1, a);
-    TextBuilder text(buf);
-    fieldTable(text, "GetSDHE1FifoAlm()",
+    fieldTable(buf, "GetSDHE1FifoAlm()",
                {{"byMapFifoFoAlarm", a[0]},
                 {"byMapFifoFuAlarm", a[1]},
                 {"byMapFifoFoHisAlarm", a[2]},
@@ -1133,8 +1130,7 @@ VQ6192_API uint32_t getsdhe3fifoalm(uint32_t chip, uint32_t e3, char *buf) {
     }
     uint8_t a[2] = {};
     const uint32_t status = VQ6192_SDH_GetSDHET3FifoAlm(chip, e3, a);
-    TextBuilder text(buf);
-    fieldTable(text, "GetSDHE3FifoAlm()", {{"byMaT3Fifoo", a[0]}, {"byMaT3Fifou", a[1]}}, kRecordLine);
+    fieldTable(buf, "GetSDHE3FifoAlm()", {{"byMaT3Fifoo", a[0]}, {"byMaT3Fifou", a[1]}}, kRecordLine);
     return low16(status);
 }
 
