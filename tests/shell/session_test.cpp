@@ -13,64 +13,39 @@ namespace {
 using shelltest::Shell;
 using ShellSession = shelltest::ShellTest;
 
-TEST_F(ShellSession, PrintsTheCommandsTextAndItsStatus) {
-    const std::string flags = run("VQ6192_Show_Printf_Flag 0");
-    EXPECT_EQ(flags.substr(0, 78),
-              "---------------ModuleID------------------------------\n"
-              "0 :   OFF   FLAG is  14\n");
-    EXPECT_EQ(flags.substr(flags.size() - 15), "15 : ALL_PRINT\n");
-    EXPECT_EQ(run("VQ6192_Set_Diag_Printf_Flag 0 12 15"), "Diag set module TABLE flag 15 success\n");
-    EXPECT_EQ(g_vq6192[0].aulPrintFlag[12], 15u);
-    EXPECT_EQ(run("VQ6192_Rt 0 1 32", false),
-              "status 0x000c0001: chip 0, TABLE, error 1 (parameter error)\n");
-}
-
+// The flag listing, the set-flag text and the status line of a refused read: sessions/flags, tables
+// and errors, byte for byte.
 TEST_F(ShellSession, EntryWrittenFromTheShellLandsInTheModelAndReadsBack) {
     run("tf 0 Atmpwe3pritab 5 Cbrpri 3; tf 0 1 5 ubrpri 0x5");
     vq6192::sim::ChipModel *model = session().model(0);
     ASSERT_NE(model, nullptr);
     EXPECT_EQ(model->tables().entry(0x5000, 38, 5)[0], (3 << 12) | 5);
-    const std::string text = run("VQ6192_Rt 0 1 5");
-    EXPECT_NE(text.find("Cbrpri(12:3)     = 0x3  \r\n"), std::string::npos);
-    EXPECT_NE(text.find("Ubrpri(0:3)      = 0x5  \r\n"), std::string::npos);
-
-    run("tw 0 Psnheader 3167 0x11111111 0x22222222 0x33333333");
+    EXPECT_NE(run("VQ6192_Rt 0 1 5").find("Ubrpri(0:3)      = 0x5  \r\n"), std::string::npos);
+    run("tw 0 Psnheader 3167 0x11111111 0x22222222 0x33333333; rw 0 0x20090 0xbeef");
     EXPECT_EQ(model->tables().entry(0x4000, 0, 3167)[4], 0x3333);
-    run("rw 0 0x20090 0xbeef");
     EXPECT_EQ(model->peek(0x20090), 0xBEEF);
     EXPECT_EQ(run("rr 0 0x20090"), "0x00020090 = 0xbeef\n");
 }
 
+// More of them in sessions/errors.
 TEST_F(ShellSession, BadInputGetsOneLineErrors) {
-    struct Case {
-        const char *line;
-        const char *error;
-    };
-    const Case cases[] = {
-        {"nosuch 1", "error: unknown command 'nosuch' (help lists the commands)\n"},
-        {"VQ6192_Rt 0 1", "error: VQ6192_Rt takes 3 arguments: chip tableId index\n"},
+    const std::string rt = " (arguments: chip tableId index)\n";
+    const std::pair<const char *, std::string> cases[] = {
         {"VQ6192_Show_Printf_Flag", "error: VQ6192_Show_Printf_Flag takes 1 argument: chip\n"},
-        {"VQ6192_Rt 0 0x1g 1",
-         "error: VQ6192_Rt: '0x1g' is not a table name or id for tableId (arguments: chip tableId index)\n"},
-        {"VQ6192_Rt 0 Reserved 1",
-         "error: VQ6192_Rt: 'Reserved' is not a table name or id for tableId (arguments: chip tableId "
-         "index)\n"},
+        {"VQ6192_Rt 0 Reserved 1", "error: VQ6192_Rt: 'Reserved' is not a table name or id for tableId" + rt},
         {"VQ6192_Set_Diag_Printf_Flag 0 ATMX 1",
-         "error: VQ6192_Set_Diag_Printf_Flag: 'ATMX' is not a module name "
-         "or id for module (arguments: chip module flag)\n"},
-        {"VQ6192_Rt 0x 1 1",
-         "error: VQ6192_Rt: '0x' is not an integer for chip (arguments: chip tableId index)\n"},
-        {"VQ6192_Rt \"0 1 1", "error: unterminated quote\n"},
+         "error: VQ6192_Set_Diag_Printf_Flag: 'ATMX' is not a module name or id for module (arguments: chip "
+         "module flag)\n"},
+        {"VQ6192_Rt 0x 1 1", "error: VQ6192_Rt: '0x' is not an integer for chip" + rt},
         {"rr 0", "error: rr takes chip addr\n"},
-        {"rr 7 0", "error: chip 7 is not installed in this shell (chips 0..0)\n"},
         {"rw 0 2 0x10000", "error: registers are 16 bits wide (value 0x10000)\n"},
         {"tr 0 Nosuchtable 1", "error: no chip table 'Nosuchtable' (tables lists them; ids 0..216)\n"},
         {"tr 0 217 1", "error: no chip table '217' (tables lists them; ids 0..216)\n"},
         {"tf 0 1 0 Nomember 1", "error: Atmpwe3pritab has no member 'Nomember'\n"},
         {"rd 0 0 0", "error: count is 1..4096 registers\n"}};
-    for (const Case &c : cases) {
-        run(c.line, false);
-        EXPECT_EQ(err(), c.error) << c.line;
+    for (const auto &[line, error] : cases) {
+        run(line, false);
+        EXPECT_EQ(err(), error) << line;
     }
     // A failing command does not stop the others on the line.
     EXPECT_EQ(run("nosuch; rr 0 0x300", false), "0x00000300 = 0x0000\n");
@@ -80,11 +55,6 @@ TEST_F(ShellSession, HelpAndQuit) {
     const std::string all = run("help");
     EXPECT_NE(all.find("TABLE\n  VQ6192_Rt chip tableId index"), std::string::npos);
     EXPECT_NE(all.find("shell\n  rr chip addr"), std::string::npos);
-    EXPECT_EQ(
-        run("help VQ6192_Rt"),
-        "VQ6192_Rt chip tableId index\n"
-        "  read a table entry and print it member by member\n"
-        "  module TABLE; arguments: chip (installed chip id), tableId (table name or id), index (integer)\n");
     EXPECT_EQ(
         run("help tf tables"),
         "tf chip table index member value\n"
@@ -100,77 +70,24 @@ TEST_F(ShellSession, HelpAndQuit) {
 }
 
 TEST_F(ShellSession, TableAndModuleArgumentsOfDiagnosticCommandsTakeNames) {
-    struct Case {
-        const char *line;
-        uint32_t module;  // print flag that must hold the value
-        uint32_t flag;
-        const char *output;
-    };
-    const Case cases[] = {
-        {"VQ6192_Set_Diag_Printf_Flag 0 frm 3", 15, 3, "Diag set module FRM flag 3 success\n"},
-        {"VQ6192_Set_Diag_Printf_Flag 0 IMA_ASI 1", 21, 1, "Diag set module IMA_ASI flag 1 success\n"},
-        {"VQ6192_Set_Diag_Printf_Flag 0 Table 9", 12, 9, "Diag set module TABLE flag 9 success\n"},
-        {"VQ6192_Set_Diag_Printf_Flag 0 off 5", 0, 5, "Diag set module OFF flag 5 success\n"}};
-    for (const Case &c : cases) {
-        EXPECT_EQ(run(c.line), c.output);
-        EXPECT_EQ(g_vq6192[0].aulPrintFlag[c.module], c.flag) << c.line;
+    // Module, print flag that must hold the value (END: every module), value, module's name.
+    for (const auto &[module, first, last, flag, name] : {std::tuple{"frm", 15u, 15u, 3u, "FRM"},
+                                                          {"IMA_ASI", 21u, 21u, 1u, "IMA_ASI"},
+                                                          {"Table", 12u, 12u, 9u, "TABLE"},
+                                                          {"off", 0u, 0u, 5u, "OFF"},
+                                                          {"end", 0u, 22u, 7u, "END"}}) {
+        EXPECT_EQ(run("VQ6192_Set_Diag_Printf_Flag 0 " + std::string(module) + " " + std::to_string(flag)),
+                  "Diag set module " + std::string(name) + " flag " + std::to_string(flag) + " success\n");
+        for (uint32_t m = first; m <= last; ++m) {
+            EXPECT_EQ(g_vq6192[0].aulPrintFlag[m], flag) << module << " " << m;
+        }
     }
-    // END selects every module.
-    EXPECT_EQ(run("VQ6192_Set_Diag_Printf_Flag 0 end 7"), "Diag set module END flag 7 success\n");
-    for (uint32_t m = 0; m < 23; ++m) {
-        EXPECT_EQ(g_vq6192[0].aulPrintFlag[m], 7u) << m;
-    }
-
     run("tf 0 1 5 Rtvbrpri 6");
     const std::string byId = run("VQ6192_Rt 0 1 5");
     EXPECT_NE(byId.find("Rtvbrpri(9:3)    = 0x6  \r\n"), std::string::npos);
     EXPECT_EQ(run("VQ6192_Rt 0 atmpwe3PRITAB 5"), byId);
     EXPECT_EQ(run("VQ6192_Rt 0 Atmswvct 8192", false),
               "status 0x000c0001: chip 0, TABLE, error 1 (parameter error)\n");
-}
-
-TEST(ShellBanner, NamesTheChipsWhereTheyAreTheirBringUpAndLineEditing) {
-    vqtest::PlatformCapture capture;
-    char path[] = "/tmp/vq6192-banner-XXXXXX";
-    const int fd = mkstemp(path);
-    ASSERT_GE(fd, 0);
-    ASSERT_EQ(ftruncate(fd, 0x1000), 0);
-    const std::string window = path;
-    struct Case {
-        uint32_t chips;
-        bool mapped;
-        bool bringUp;
-        bool lineEditing;
-        std::string banner;
-    };
-    const std::string help = "; help lists the commands";
-    const Case cases[] = {
-        {1, false, true, true, "vq6192-shell: chip 0 on the chip model, brought up" + help},
-        {4, false, true, true, "vq6192-shell: chips 0..3 on the chip model, brought up" + help},
-        {1, false, false, true, "vq6192-shell: chip 0 on the chip model, not brought up" + help},
-        {2, true, true, true,
-         "vq6192-shell: chips 0..1 on the chip model, chip 2 on the mapped window " + window +
-             ", 2 of 3 brought up" + help},
-        {0, true, true, true,
-         "vq6192-shell: chip 0 on the mapped window " + window + ", not brought up" + help},
-        {1, false, true, false,
-         "vq6192-shell: chip 0 on the chip model, brought up" + help +
-             " (no line editing: built without libedit)"}};
-    for (const Case &c : cases) {
-        vqshell::SessionOptions options;
-        options.chips = c.chips;
-        options.bringUp = c.bringUp;
-        if (c.mapped) {
-            options.mapped.push_back({window, 0, 0x1000, 0, 0});
-        }
-        Shell s(options);
-        ASSERT_TRUE(s.started) << s.err.str();
-        EXPECT_EQ(s.session.banner(c.lineEditing), c.banner);
-        EXPECT_EQ(s.session.chipCount(), c.chips + (c.mapped ? 1 : 0));
-        EXPECT_EQ(s.out.str(), "") << "the banner is the caller's to print";
-    }
-    close(fd);
-    unlink(path);
 }
 
 TEST(ShellStatus, DecodesChipModuleAndError) {
@@ -185,12 +102,37 @@ TEST(ShellStatus, DecodesChipModuleAndError) {
     }
 }
 
-TEST(ShellMapped, DrivesARegisterWindowMappedFromAFile) {
+// A window mapped from a file: the banner names the chips where they are, and registers written through
+// the window land in the file at its offset.
+TEST(ShellMapped, BannerAndARegisterWindowMappedFromAFile) {
     vqtest::PlatformCapture capture;
     char path[] = "/tmp/vq6192-window-XXXXXX";
     const int fd = mkstemp(path);
     ASSERT_GE(fd, 0);
     ASSERT_EQ(ftruncate(fd, 0x20000), 0);
+    const std::string window = path, shell = "vq6192-shell: ", help = "; help lists the commands";
+    // Chips on the model, a mapped chip, bring-up, line editing, banner.
+    for (const auto &[chips, mapped, bringUp, editing, banner] :
+         {std::tuple{1u, false, true, true, "chip 0 on the chip model, brought up" + help},
+          {4u, false, true, true, "chips 0..3 on the chip model, brought up" + help},
+          {1u, false, false, true, "chip 0 on the chip model, not brought up" + help},
+          {2u, true, true, true,
+           "chips 0..1 on the chip model, chip 2 on the mapped window " + window + ", 2 of 3 brought up" +
+               help},
+          {0u, true, true, true, "chip 0 on the mapped window " + window + ", not brought up" + help},
+          {1u, false, true, false,
+           "chip 0 on the chip model, brought up" + help + " (no line editing: built without libedit)"}}) {
+        vqshell::SessionOptions options;
+        options.chips = chips, options.bringUp = bringUp;
+        if (mapped) {
+            options.mapped.push_back({window, 0, 0x1000, 0, 0});
+        }
+        Shell s(options);
+        ASSERT_TRUE(s.started) << s.err.str();
+        EXPECT_EQ(s.session.banner(editing), shell + banner);
+        EXPECT_EQ(s.session.chipCount(), chips + (mapped ? 1 : 0));
+        EXPECT_EQ(s.out.str(), "") << "the banner is the caller's to print";
+    }
     {
         vqshell::SessionOptions options;
         options.mapped.push_back({path, 0x10000, 0x8000, 0, 0});
@@ -202,8 +144,7 @@ TEST(ShellMapped, DrivesARegisterWindowMappedFromAFile) {
     }
     uint8_t bytes[2] = {};
     ASSERT_EQ(pread(fd, bytes, 2, 0x10010), 2);
-    EXPECT_EQ(bytes[0], 0x34);
-    EXPECT_EQ(bytes[1], 0x12);
+    EXPECT_EQ(bytes[0] | bytes[1] << 8, 0x1234) << "little-endian at offset 0x10000 + 0x10";
     close(fd);
     unlink(path);
 
