@@ -1,10 +1,9 @@
-// Shell sessions in process: output of commands, entries written from the shell found in the model,
-// one-line errors, status decoding and a mapped register window.
-#include <fcntl.h>
-#include <sys/mman.h>
+// Shell sessions in process: entries written from the shell found in the model, one-line errors, status
+// decoding, the dump's progress, a mapped register window and the bring-up.
 #include <unistd.h>
 
 #include <algorithm>
+#include <filesystem>
 
 #include "shell_fixture.h"
 
@@ -100,6 +99,28 @@ TEST(ShellStatus, DecodesChipModuleAndError) {
              {8, "status 0x00000008: chip 0, OFF, error 8 (lock failure)"}}) {
         EXPECT_EQ(vqshell::describeStatus(status), text);
     }
+}
+
+// A long dump reports its progress in tenths, the file is the whole dump, and the model chip's register
+// path is given back afterwards (short dumps: sessions/dump).
+TEST_F(ShellSession, LongDumpShowsProgressInTenths) {
+    const std::string path =
+        (std::filesystem::temp_directory_path() / ("vq6192-dump-" + std::to_string(getpid()) + ".bd"))
+            .string();
+    const std::string out = run("dump 0 all " + path);
+    const auto size = std::filesystem::file_size(path);
+    std::filesystem::remove(path);
+    EXPECT_EQ(out, "chip 0 dumped to " + path + ": " + std::to_string(size) + " bytes\n");
+    std::istringstream lines(err());
+    std::string line;
+    int tenth = 0;
+    while (std::getline(lines, line)) {
+        ++tenth;
+        EXPECT_EQ(line.rfind("dump chip 0: " + std::to_string(10 * tenth) + "% (", 0), 0u) << line;
+        EXPECT_NE(line.find(" of " + std::to_string(size) + " bytes)"), std::string::npos) << line;
+    }
+    EXPECT_EQ(tenth, 9);
+    EXPECT_EQ(g_vq6192[0].ulRegIndirectFlag, 0u) << "the chip's register path is restored";
 }
 
 // A window mapped from a file: the banner names the chips where they are, and registers written through
