@@ -1,6 +1,9 @@
 // Tab completion driven directly: a line typed so far in, the candidates for its last word out, for
 // command names, installed chips, chip tables by name and id, the members of the table given before,
 // and the print-control modules.
+#include <algorithm>
+#include <functional>
+
 #include "completion.h"
 #include "shell_fixture.h"
 
@@ -86,19 +89,14 @@ TEST_F(ShellCompletion, CommandNamesFirstAndAfterHelp) {
                           {"help rr VQ6192_Sh", {"VQ6192_Show_Printf_Flag"}},
                           {"rr 0 2;r", {"rd", "rr", "rw"}}};
     for (const Case &c : cases) {
-        const vqshell::Completion got = complete(c.line);
-        const std::string line = c.line;
-        const std::string prefix = line.substr(got.start);
-        for (const std::string &name : c.mustOffer) {
-            EXPECT_NE(std::find(got.candidates.begin(), got.candidates.end(), name), got.candidates.end())
-                << c.line << " -> " << name;
-        }
-        for (const std::string &name : got.candidates) {
-            EXPECT_EQ(name.compare(0, prefix.size(), prefix), 0) << c.line << " offers " << name;
-        }
-        EXPECT_TRUE(std::is_sorted(got.candidates.begin(), got.candidates.end())) << c.line;
-        EXPECT_EQ(std::adjacent_find(got.candidates.begin(), got.candidates.end()), got.candidates.end())
-            << c.line << " offers a name twice";
+        const Words got = complete(c.line).candidates;
+        const std::string prefix = std::string(c.line).substr(complete(c.line).start);
+        EXPECT_TRUE(std::includes(got.begin(), got.end(), c.mustOffer.begin(), c.mustOffer.end())) << c.line;
+        EXPECT_TRUE(std::all_of(got.begin(), got.end(), [&](const std::string &n) {
+            return n.starts_with(prefix);
+        })) << c.line;
+        EXPECT_EQ(std::adjacent_find(got.begin(), got.end(), std::greater_equal<>()), got.end())
+            << c.line << ": sorted, each name once";
     }
     EXPECT_TRUE(complete("xyzzy").candidates.empty());
 }
