@@ -7,31 +7,28 @@ using vq6192::sim::BusAccess;
 using vq6192::sim::BusOp;
 using vq6192::sim::ChipModel;
 
-TEST(ChipModel, SparseRegisterFileCoversTheWholeAddressSpace) {
+TEST(ChipModel, SparseRegisterFileBehavioursStuckBitsTraceAndCounters) {
     ChipModel m;
-    for (uint32_t addr : {0x0u, 0x2u, 0xDC000u, 0xDC0FEu, 0x20090u, 0x1FFFFEu, 0xFFFFFFFEu}) {
+    const uint32_t addrs[] = {0x0u, 0x2u, 0xDC000u, 0xDC0FEu, 0x20090u, 0x1FFFFEu, 0xFFFFFFFEu};
+    for (uint32_t addr : addrs) {
         EXPECT_EQ(m.peek(addr), 0) << std::hex << addr;
         m.poke(addr, static_cast<uint16_t>(addr ^ 0x5A5A));
     }
-    for (uint32_t addr : {0x0u, 0x2u, 0xDC000u, 0xDC0FEu, 0x20090u, 0x1FFFFEu, 0xFFFFFFFEu}) {
+    for (uint32_t addr : addrs) {
         EXPECT_EQ(m.peek(addr), static_cast<uint16_t>(addr ^ 0x5A5A)) << std::hex << addr;
     }
     EXPECT_EQ(m.peek(0xDC002), 0) << "neighbours untouched";
     m.reset();
     EXPECT_EQ(m.peek(0xDC000), 0);
-}
 
-TEST(ChipModel, BehavioursStuckBitsTraceAndCounters) {
-    ChipModel m;
     m.setTrace(true);
-    // Write-1-to-clear register, and a read behaviour that counts reads.
+    // Write-1-to-clear register, a read behaviour that counts reads, bit 15 stuck at 1 and bit 0 at 0.
     m.poke(0x40, 0x00FF);
     m.onWrite(0x40,
               [](uint32_t, uint16_t written, uint16_t old) { return static_cast<uint16_t>(old & ~written); });
     int reads = 0;
     m.onRead(0x42, [&reads](uint32_t, uint16_t stored) { return static_cast<uint16_t>(stored + ++reads); });
-    m.stickBits(0x44, 0x8001, 0x8000);  // bit 15 stuck at 1, bit 0 stuck at 0
-
+    m.stickBits(0x44, 0x8001, 0x8000);
     m.busWrite(0x40, 0x000F);
     EXPECT_EQ(m.peek(0x40), 0x00F0);
     EXPECT_EQ(m.busRead(0x42), 1);
@@ -40,30 +37,25 @@ TEST(ChipModel, BehavioursStuckBitsTraceAndCounters) {
     EXPECT_EQ(m.busRead(0x44), 0x8000);
     m.busWriteField(0x44, 0x3, 0, 2);
     EXPECT_EQ(m.peek(0x44), 0x8002);
-
-    const std::vector<BusAccess> expected = {
+    const std::vector<BusAccess> trace = {
         {BusOp::Write, 0x40, 0x000F, 0, 16}, {BusOp::Read, 0x42, 1, 0, 16},
         {BusOp::FieldRead, 0x42, 2, 0, 4},   {BusOp::Write, 0x44, 0x0001, 0, 16},
         {BusOp::Read, 0x44, 0x8000, 0, 16},  {BusOp::FieldWrite, 0x44, 0x3, 0, 2},
     };
-    EXPECT_EQ(m.trace(), expected);
-    EXPECT_EQ(m.counters().reads, 2u);
-    EXPECT_EQ(m.counters().writes, 2u);
-    EXPECT_EQ(m.counters().fieldReads, 1u);
-    EXPECT_EQ(m.counters().fieldWrites, 1u);
-    EXPECT_EQ(m.counters().total(), 6u);
-
+    EXPECT_EQ(m.trace(), trace);
+    const auto &n = m.counters();
+    EXPECT_EQ((std::vector<uint64_t>{n.reads, n.writes, n.fieldReads, n.fieldWrites, n.total()}),
+              (std::vector<uint64_t>{2, 2, 1, 1, 6}));
     m.clearStuckBits();
     m.busWrite(0x44, 0x0001);
     EXPECT_EQ(m.peek(0x44), 0x0001);
 }
 
-TEST(ChipModel, AttachInstallsHostFunctionsAndDetachClearsThem) {
+TEST(ChipModel, AttachHostFunctionsAndHookFaults) {
     {
         ChipModel m;
         m.attach(12);
         EXPECT_EQ(ChipModel::attached(12), &m);
-        EXPECT_NE(g_p6192WriteRegPtr[12], nullptr);
         EXPECT_NE(g_p6192ReadRegFieldBDirect[12], nullptr);
         g_p6192WriteRegPtr[12](12, 0x10, 0x77);
         EXPECT_EQ(m.peek(0x10), 0x77);
@@ -73,15 +65,13 @@ TEST(ChipModel, AttachInstallsHostFunctionsAndDetachClearsThem) {
     }
     EXPECT_EQ(ChipModel::attached(13), nullptr) << "destruction detaches";
     EXPECT_EQ(g_p6192ReadRegPtr[13], nullptr);
-}
 
-TEST(ChipModel, HookFaults) {
     ChipModel m;
     m.attach(14);
     m.refuseArbitration(2);
-    EXPECT_EQ(ChipModel::hookGetArbitrate(14), 1u);
-    EXPECT_EQ(ChipModel::hookGetArbitrate(14), 1u);
-    EXPECT_EQ(ChipModel::hookGetArbitrate(14), 0u);
+    EXPECT_EQ((std::vector<uint32_t>{ChipModel::hookGetArbitrate(14), ChipModel::hookGetArbitrate(14),
+                                     ChipModel::hookGetArbitrate(14)}),
+              (std::vector<uint32_t>{1, 1, 0}));
     EXPECT_EQ(m.arbitrationsTaken(), 1u);
     EXPECT_EQ(ChipModel::hookCardPresent(14), 1u);
     m.setCardPresent(false);
