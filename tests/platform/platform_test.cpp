@@ -3,9 +3,11 @@
 #include <signal.h>
 #include <sys/time.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstring>
 #include <cwchar>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -55,6 +57,7 @@ TEST(Bounded, MemoryAndStringCopiesRefuseOverruns) {
     EXPECT_EQ(dst[0], 'x');
 }
 
+// Cut and empty reports as the commands show them: tests/diag/layout_test.cpp.
 TEST(Bounded, TextBuilderNeverPassesTheBuffer) {
     std::string buf(64, '\xEE');
     vq::TextBuilder text(buf.data(), 16);
@@ -65,31 +68,30 @@ TEST(Bounded, TextBuilderNeverPassesTheBuffer) {
     EXPECT_EQ(std::string(buf.c_str()), "line 0\nline 1\nl");
     EXPECT_EQ(buf[16], '\xEE');
     EXPECT_FALSE(text.failed());
-    // A builder that is given nothing to add still leaves an empty, terminated text.
-    std::string untouched(4, '\xEE');
-    vq::TextBuilder empty(untouched.data(), 4);
-    EXPECT_EQ(untouched[0], '\0');
-    untouched[0] = '\xEE';
-    vq::TextBuilder oneByte(untouched.data(), 1);
-    EXPECT_EQ(untouched[0], '\0') << "a one-byte buffer holds the empty text";
+    EXPECT_TRUE(vq::TextBuilder(buf.data(), 8).add("%lc", static_cast<wint_t>(0x20AC)).failed());
+    buf[0] = '\xEE';
+    vq::TextBuilder oneByte(buf.data(), 1);
+    EXPECT_EQ(buf[0], '\0') << "a one-byte buffer holds the empty text";
     vq::TextBuilder none(nullptr);
-    none.add("ignored");
-    EXPECT_EQ(none.length(), 0u);
-    EXPECT_FALSE(none.hasBuffer());
+    EXPECT_EQ(none.add("ignored").length(), 0u);
 }
 
 TEST(Memory, AccountsPerTagAndInjectsFailures) {
     PlatformCapture capture;
-    VQ6192_MEM_STATS before{};
-    VQ6192_Platform_GetMemStats("vq6192_test_tag", &before);
+    using U64s = std::vector<uint64_t>;
+    // Allocations, frees, failures, outstanding blocks, bytes in use, since `was`.
+    auto since = [](const char *tag, const U64s &was = U64s(5, 0)) {
+        VQ6192_MEM_STATS s{};
+        VQ6192_Platform_GetMemStats(tag, &s);
+        U64s now = {s.ullAllocs, s.ullFrees, s.ullFailed, s.ullOutstanding, s.ullBytesInUse};
+        std::transform(now.begin(), now.end(), was.begin(), now.begin(), std::minus<>());
+        return now;
+    };
+    const U64s before = since("vq6192_test_tag"), all = since(nullptr);
     void *a = vq::_drv_malloc(100, "vq6192_test_tag", 1);
-    void *b = vq::_drv_malloc(28, "vq6192_test_tag", 2);
-    ASSERT_NE(a, nullptr);
-    ASSERT_NE(b, nullptr);
-    VQ6192_MEM_STATS s{};
-    VQ6192_Platform_GetMemStats("vq6192_test_tag", &s);
-    EXPECT_EQ(s.ullOutstanding - before.ullOutstanding, 2u);
-    EXPECT_EQ(s.ullBytesInUse - before.ullBytesInUse, 128u);
+    void *b = vq::_drv_malloc(28, "vq6192_test_two", 2);
+    EXPECT_EQ(since("vq6192_test_tag", before), (U64s{1, 0, 0, 1, 100}));
+    EXPECT_EQ(since(nullptr, all), (U64s{2, 0, 0, 2, 128})) << "every tag counts in the total";
 
     VQ6192_Platform_FailAllocs(1, 2);
     void *c = vq::_drv_malloc(8, "vq6192_test_tag", 3);
@@ -98,28 +100,24 @@ TEST(Memory, AccountsPerTagAndInjectsFailures) {
     EXPECT_EQ(vq::_drv_malloc(8, "vq6192_test_tag", 5), nullptr);
     void *d = vq::_drv_malloc(8, "vq6192_test_tag", 6);
     EXPECT_NE(d, nullptr);
-
-    for (void *p : {a, b, c, d}) {
+    for (void *p : {a, b, c, d, static_cast<void *>(nullptr)}) {
         vq::_drv_free(p);
     }
-    vq::_drv_free(nullptr);
-    VQ6192_Platform_GetMemStats("vq6192_test_tag", &s);
-    EXPECT_EQ(s.ullOutstanding, before.ullOutstanding);
-    EXPECT_EQ(s.ullFailed - before.ullFailed, 2u);
-    EXPECT_EQ(s.ullFrees - before.ullFrees, 4u);
+    EXPECT_EQ(since("vq6192_test_tag", before), (U64s{3, 3, 2, 0, 0}));
+    EXPECT_EQ(since(nullptr, all), (U64s{4, 4, 2, 0, 0}));
+    // A block the library did not hand out is left alone, with a log line.
+    alignas(16) unsigned char foreign[64] = {};
+    vq::_drv_free(foreign + 32);
+    ASSERT_EQ(capture.logs.size(), 1u);
+    EXPECT_TRUE(capture.logs[0].text.ends_with(" was not allocated by _drv_malloc")) << capture.logs[0].text;
+    EXPECT_EQ(since(nullptr, all), (U64s{4, 4, 2, 0, 0}));
 }
 
 TEST(Memory, HostAllocatorIsUsedUnderTheAccounting) {
     static int calls = 0;
     VQ6192_PLATFORM_HOOKS hooks{};
-    hooks.pfnMalloc = [](void *, size_t n) -> void * {
-        ++calls;
-        return std::malloc(n);
-    };
-    hooks.pfnFree = [](void *, void *p) {
-        ++calls;
-        std::free(p);
-    };
+    hooks.pfnMalloc = [](void *, size_t n) -> void * { return ++calls, std::malloc(n); };
+    hooks.pfnFree = [](void *, void *p) { ++calls, std::free(p); };
     VQ6192_Platform_SetHooks(&hooks);
     vq::_drv_free(vq::_drv_malloc(10, "vq6192_test_host", 1));
     VQ6192_Platform_SetHooks(nullptr);
@@ -129,23 +127,16 @@ TEST(Memory, HostAllocatorIsUsedUnderTheAccounting) {
 TEST(Semaphore, IsBinaryAndHonoursInjectedFailures) {
     alignas(16) unsigned char block[VQ6192_SEM_BLOCK_SIZE] = {};
     ASSERT_EQ(vq::DrvSemBCreate(block, 1), 0u);
-    EXPECT_EQ(vq::iof_sema_timewait(block, 0), 0u);
-    EXPECT_NE(vq::iof_sema_timewait(block, 0), 0u) << "held: a zero time-out fails at once";
-    EXPECT_EQ(vq::iof_sema_post(block), 0u);
-    EXPECT_EQ(vq::iof_sema_post(block), 0u) << "a second give leaves it free, not doubly free";
-    EXPECT_EQ(vq::iof_sema_timewait(block, 0), 0u);
-    EXPECT_NE(vq::iof_sema_timewait(block, 0), 0u);
-    EXPECT_EQ(vq::iof_sema_post(block), 0u);
-
-    VQ6192_Platform_FailSemTakes(1, 1);
-    EXPECT_EQ(vq::iof_sema_timewait(block, 0), 0u);
-    EXPECT_EQ(vq::iof_sema_post(block), 0u);
-    EXPECT_NE(vq::iof_sema_timewait(block, 600), 0u) << "injected, no wait";
-    VQ6192_Platform_FailSemGives(0, 1);
-    EXPECT_EQ(vq::iof_sema_timewait(block, 0), 0u);
-    EXPECT_NE(vq::iof_sema_post(block), 0u);
-    EXPECT_EQ(vq::iof_sema_timewait(block, 0), 0u) << "an injected give failure still released";
-    EXPECT_EQ(vq::iof_sema_post(block), 0u);
+    auto take = [&](uint32_t ticks) { return vq::iof_sema_timewait(block, ticks) == 0; };
+    auto give = [&] { return vq::iof_sema_post(block) == 0; };
+    using Oks = std::vector<bool>;
+    // Held, a zero time-out fails at once; a second give leaves it free, not doubly free.
+    EXPECT_EQ((Oks{take(0), take(0), give(), give(), take(0), take(0), give()}),
+              (Oks{true, false, true, true, true, false, true}));
+    VQ6192_Platform_FailSemTakes(1, 1);  // the injected failure does not wait its 600 ticks
+    EXPECT_EQ((Oks{take(0), give(), take(600)}), (Oks{true, true, false}));
+    VQ6192_Platform_FailSemGives(0, 1);  // an injected give failure still releases
+    EXPECT_EQ((Oks{take(0), give(), take(0), give()}), (Oks{true, false, true, true}));
     VQ6192_Platform_FailSemCreates(0, 1);
     alignas(16) unsigned char other[VQ6192_SEM_BLOCK_SIZE] = {};
     EXPECT_NE(vq::DrvSemBCreate(other, 1), 0u);
@@ -153,68 +144,30 @@ TEST(Semaphore, IsBinaryAndHonoursInjectedFailures) {
     EXPECT_NE(vq::iof_sema_timewait(nullptr, 0), 0u);
 }
 
-// A host's semaphores: the chip lock is created free (initial count 1) and binary, so a second take
-// while it is held fails.
-TEST(Semaphore, ChipLockOnHostSemaphoresIsCreatedFreeAndBinary) {
-    static std::vector<uint32_t> initials;
-    VQ6192_PLATFORM_HOOKS hooks{};
-    hooks.pfnSemCreate = [](void *, void *b, uint32_t initial) -> uint32_t {
-        initials.push_back(initial);
-        *static_cast<uint32_t *>(b) = initial;
-        return 0;
-    };
-    hooks.pfnSemDelete = [](void *, void *) -> uint32_t { return 0; };
-    hooks.pfnSemTake = [](void *, void *b, uint32_t) -> uint32_t {
-        uint32_t &count = *static_cast<uint32_t *>(b);
-        return count == 0 ? 1 : (--count, 0u);
-    };
-    hooks.pfnSemGive = [](void *, void *b) -> uint32_t { return *static_cast<uint32_t *>(b) = 1, 0u; };
-    hooks.pfnLog = [](void *, uint32_t, const char *) {};  // the refused take's log line
-    VQ6192_Platform_SetHooks(&hooks);
-    {
-        vq6192::sim::ChipModel model;
-        model.attach(5);
-        VQ6192_INSTALL_PARA para = model.installPara(5);
-        ASSERT_EQ(VQ6192_Install_SDK(&para), 0u);
-        EXPECT_EQ(initials, std::vector<uint32_t>{1});
-        EXPECT_EQ(VQ6192_GetArbitrateFunc(5, 0, 0), 0u);
-        EXPECT_NE(VQ6192_GetArbitrateFunc(5, 0, 0), 0u) << "held";
-        EXPECT_EQ(VQ6192_GiveArbitrateFunc(5, 0, 0), 0u);
-        EXPECT_EQ(VQ6192_GetArbitrateFunc(5, 0, 0), 0u);
-        EXPECT_EQ(VQ6192_GiveArbitrateFunc(5, 0, 0), 0u);
-        VQ6192_UnInstall_SDK(5);
-    }
-    VQ6192_Platform_SetHooks(nullptr);
-}
-
 // Without file functions the dump's file hooks do nothing and succeed, leaving the handle 0.
 TEST(DumpFiles, WithoutFileFunctionsEachHookDoesNothingAndReturns0) {
     VQ6192_Platform_SetFileHooks(nullptr);
     uintptr_t handle = 0;
-    const char data[4] = "abc";
-    EXPECT_EQ(
-        (std::vector<uint32_t>{vq6192_fileopen_func("f", "wb", &handle),
-                               vq6192_filewrite_func(data, 1, 3, handle), vq6192_fileclose_func(&handle)}),
-        (std::vector<uint32_t>{0, 0, 0}));
+    EXPECT_EQ(vq6192_fileopen_func("f", "wb", &handle) | vq6192_filewrite_func("abc", 1, 3, handle) |
+                  vq6192_fileclose_func(&handle),
+              0u);
     EXPECT_EQ(handle, 0u);
 }
 
-TEST(Clock, VirtualClockTotalsEveryWait) {
-    PlatformCapture capture;  // installs the virtual clock
-    auto start = std::chrono::steady_clock::now();
-    vq::DrvDelayUs(1500);
-    vq::OSK_TaskDelay(300);  // 3 s at 10 ms a tick
-    vq::DrvDelayUs(2);
-    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 3001502u);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(100));
-    EXPECT_EQ(VQ6192_Platform_GetTickUs(), 10000u);
-    VQ6192_Platform_ResetVirtualTime();
-    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 0u);
-}
-
-TEST(Clock, HostDelayHooksAndTickLength) {
-    static uint64_t slept = 0;
-    static uint32_t ticks = 0;
+TEST(Clock, VirtualClockTotalsEveryWaitAndHostHooksTakeTheRest) {
+    {
+        PlatformCapture capture;  // installs the virtual clock
+        const auto start = std::chrono::steady_clock::now();
+        vq::DrvDelayUs(1500);
+        vq::OSK_TaskDelay(300);  // 3 s at 10 ms a tick
+        vq::DrvDelayUs(2);
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 3001502u);
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(100));
+        EXPECT_EQ(VQ6192_Platform_GetTickUs(), 10000u);
+        VQ6192_Platform_ResetVirtualTime();
+        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 0u);
+    }
+    static uint64_t slept = 0, ticks = 0;
     VQ6192_PLATFORM_HOOKS hooks{};
     hooks.pfnDelayUs = [](void *, uint32_t us) { slept += us; };
     hooks.ulTickUs = 1000;
@@ -252,19 +205,19 @@ TEST(Clock, RealDelayResumesAfterASignal) {
 }
 
 TEST(Log, MaskFiltersAndSinkReceivesTheFormattedLine) {
-    PlatformCapture capture;
-    VQ6192_Platform_SetLogMask(2);
-    vq::PIC_DbgLog(2, "chip %d pwe3 card out", 4);
-    vq::PIC_DbgLog(256, "filtered %d", 1);
-    VQ6192_Platform_SetLogMask(0xFFFFFFFFu);
-    vq::PIC_DbgLog(256, "passes");
-    ASSERT_EQ(capture.logs.size(), 2u);
-    EXPECT_EQ(capture.logs[0].text, "chip 4 pwe3 card out");
-    EXPECT_EQ(capture.logs[0].mask, 2u);
-    EXPECT_EQ(capture.logs[1].text, "passes");
-}
-
-TEST(Log, DefaultSinkIsStandardError) {
+    {
+        PlatformCapture capture;
+        VQ6192_Platform_SetLogMask(2);
+        vq::PIC_DbgLog(2, "chip %d pwe3 card out", 4);
+        vq::PIC_DbgLog(256, "filtered %d", 1);
+        VQ6192_Platform_SetLogMask(0xFFFFFFFFu);
+        vq::PIC_DbgLog(256, "passes");
+        ASSERT_EQ(capture.logs.size(), 2u);
+        EXPECT_EQ(capture.logs[0].text, "chip 4 pwe3 card out");
+        EXPECT_EQ(capture.logs[0].mask, 2u);
+        EXPECT_EQ(capture.logs[1].text, "passes");
+    }
+    // Without a sink: standard error, a line each.
     VQ6192_Platform_SetHooks(nullptr);
     testing::internal::CaptureStderr();
     vq::PIC_DbgLog(2, "chip %d pwe3 card out", 1);
