@@ -125,13 +125,12 @@ TEST_F(ShellSession, LongDumpShowsProgressInTenths) {
 
 // A window mapped from a file: the banner names the chips where they are, and registers written through
 // the window land in the file at its offset.
-TEST(ShellMapped, BannerAndARegisterWindowMappedFromAFile) {
-    vqtest::PlatformCapture capture;
+TEST_F(ShellSession, BannerAndARegisterWindowMappedFromAFile) {
     char path[] = "/tmp/vq6192-window-XXXXXX";
     const int fd = mkstemp(path);
     ASSERT_GE(fd, 0);
     ASSERT_EQ(ftruncate(fd, 0x20000), 0);
-    const std::string window = path, shell = "vq6192-shell: ", help = "; help lists the commands";
+    const std::string window = path, name = "vq6192-shell: ", help = "; help lists the commands";
     // Chips on the model, a mapped chip, bring-up, line editing, banner.
     for (const auto &[chips, mapped, bringUp, editing, banner] :
          {std::tuple{1u, false, true, true, "chip 0 on the chip model, brought up" + help},
@@ -148,63 +147,53 @@ TEST(ShellMapped, BannerAndARegisterWindowMappedFromAFile) {
         if (mapped) {
             options.mapped.push_back({window, 0, 0x1000, 0, 0});
         }
-        Shell s(options);
-        ASSERT_TRUE(s.started) << s.err.str();
-        EXPECT_EQ(s.session.banner(editing), shell + banner);
-        EXPECT_EQ(s.session.chipCount(), chips + (mapped ? 1 : 0));
-        EXPECT_EQ(s.out.str(), "") << "the banner is the caller's to print";
+        start(options);
+        EXPECT_EQ(session().banner(editing), name + banner);
+        EXPECT_EQ(session().chipCount(), chips + (mapped ? 1 : 0));
+        EXPECT_EQ(shell->out.str(), "") << "the banner is the caller's to print";
     }
-    {
-        vqshell::SessionOptions options;
-        options.mapped.push_back({path, 0x10000, 0x8000, 0, 0});
-        Shell s(options);
-        ASSERT_TRUE(s.started) << s.err.str();
-        EXPECT_EQ(s.session.model(1), nullptr);
-        EXPECT_TRUE(s.session.runLine("rw 1 0x10 0x1234; rr 1 0x10"));
-        EXPECT_EQ(s.out.str(), "0x00000010 = 0x1234\n");
-    }
+    vqshell::SessionOptions options;
+    options.mapped.push_back({path, 0x10000, 0x8000, 0, 0});
+    start(options);
+    EXPECT_EQ(session().model(1), nullptr);
+    EXPECT_EQ(run("rw 1 0x10 0x1234; rr 1 0x10"), "0x00000010 = 0x1234\n");
+    shell.reset();
     uint8_t bytes[2] = {};
     ASSERT_EQ(pread(fd, bytes, 2, 0x10010), 2);
     EXPECT_EQ(bytes[0] | bytes[1] << 8, 0x1234) << "little-endian at offset 0x10000 + 0x10";
     close(fd);
     unlink(path);
 
-    vqshell::SessionOptions options;
-    options.mapped.push_back({"/nonexistent/window", 0, 0x1000, 0, 0});
+    options.mapped = {{"/nonexistent/window", 0, 0x1000, 0, 0}};
     Shell missing(options);
     EXPECT_FALSE(missing.started);
     EXPECT_EQ(missing.err.str().substr(0, 37), "error: cannot open /nonexistent/windo");
 }
 
-TEST(ShellBringUp, ChipsOnTheModelComeUpWithAProgressLinePerStep) {
-    vqtest::PlatformCapture capture;
-    const uint64_t baseline = vqtest::outstandingAllocations();
-    // Bring-up, progress lines (a terminal), lines printed, reg 0x06: every module clock but module 5's once
-    // up.
-    for (const auto &[bringUp, progress, lines, clocks] :
-         std::initializer_list<std::tuple<bool, bool, size_t, uint32_t>>{
-             {true, true, 2 * 18, 0x7FDF}, {true, false, 0, 0x7FDF}, {false, true, 0, 0}}) {
-        SCOPED_TRACE(testing::Message() << bringUp << progress);
+TEST_F(ShellSession, ChipsOnTheModelComeUpWithAProgressLinePerStep) {
+    // Bring-up, progress lines (a terminal), lines printed, reg 0x06: every module clock but module 5's
+    // once up.
+    for (const auto &[bringUp, progress, lines, clocks] : {std::tuple{true, true, size_t{2 * 18}, 0x7FDF},
+                                                           {true, false, size_t{0}, 0x7FDF},
+                                                           {false, true, size_t{0}, 0}}) {
         vqshell::SessionOptions options;
         options.chips = 2, options.bringUp = bringUp, options.progress = progress;
-        Shell s(options);
-        ASSERT_TRUE(s.started) << s.err.str();
+        start(options);
         for (uint32_t chip : {0u, 1u}) {
-            EXPECT_EQ(s.session.broughtUp(chip), bringUp);
-            EXPECT_EQ(s.session.model(chip)->peek(0x06), clocks);
+            EXPECT_EQ(session().broughtUp(chip), bringUp);
+            EXPECT_EQ(session().model(chip)->peek(0x06), clocks);
         }
-        EXPECT_FALSE(s.session.broughtUp(2));
-        const std::string text = s.out.str();
+        EXPECT_FALSE(session().broughtUp(2));
+        const std::string text = shell->out.str();
         EXPECT_EQ(static_cast<size_t>(std::count(text.begin(), text.end(), '\n')), lines);
         if (lines != 0) {
             EXPECT_EQ(text.substr(0, 37), "chip 0 bring-up: settle           ok\n");
             EXPECT_EQ(text.substr(text.size() - 37), "chip 1 bring-up: MAC ports        ok\n");
         }
-        EXPECT_TRUE(s.err.str().empty());
+        EXPECT_EQ(err(), "");
         // The waits ran on the virtual clock, which the test had switched on and still has.
         EXPECT_EQ(VQ6192_Platform_GetVirtualClock(), 1u);
     }
-    EXPECT_EQ(vqtest::outstandingAllocations(), baseline);
 }
 
 }  // namespace

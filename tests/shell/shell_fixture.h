@@ -21,7 +21,9 @@ struct Shell {
 // One started session per test; teardown ends it and checks that every allocation was given back.
 class ShellTest : public ::testing::Test {
   protected:
+    // Ends the running session first: two sessions would install the same chips.
     void start(const vqshell::SessionOptions &options) {
+        shell.reset();
         shell = std::make_unique<Shell>(options);
         ASSERT_TRUE(shell->started) << shell->err.str();
     }
