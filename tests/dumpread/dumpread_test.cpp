@@ -163,10 +163,7 @@ TEST_F(ReaderTest, PrintsRegistersAndMembersByNameUnderFilters) {
         "    [0] En=0x0 Moduleind=0x0 Tsspeed=0x2 Chnum=0x234\n"
         "    [1] En=0x0 Moduleind=0x2 Tsspeed=0x2 Chnum=0x678\n";
     const std::string group = "table group TS, group 1, 2 tables\n";
-    struct Case {
-        vqdump::PrintOptions options;
-        std::string out;
-    } cases[] = {
+    const std::pair<vqdump::PrintOptions, std::string> cases[] = {
         {{},
          head + glb + "    0x00020 = 0xa1b2\n    0x00022 = 0xc3d4\n" + group + ts +
              "  table MYTABLE (no layout), 1 entries of 4 bytes\n    [0] 0x00001234\n"},
@@ -175,28 +172,22 @@ TEST_F(ReaderTest, PrintsRegistersAndMembersByNameUnderFilters) {
         {{{}, {{0x22, 0x22}}}, head + glb + "    0x00022 = 0xc3d4\n"},
         {{{"Atmswvct"}, {{0x100, 0x200}}}, head},
     };
-    for (const Case &c : cases) {
-        EXPECT_EQ(print(image, c.options), c.out);
+    for (const auto &[options, out] : cases) {
+        EXPECT_EQ(print(image, options), out);
     }
 }
 
 TEST(DumpReadFilter, RegisterAddressArguments) {
-    struct Case {
-        const char *text;
-        bool ok;
-        uint32_t lo, hi;
-    } cases[] = {
+    // Text, accepted, the range it gives.
+    const std::tuple<const char *, bool, uint32_t, uint32_t> cases[] = {
         {"0x10", true, 0x10, 0x10}, {"16-32", true, 16, 32}, {"0x14000-0x14002", true, 0x14000, 0x14002},
         {"32-16", false, 0, 0},     {"", false, 0, 0},       {"-5", false, 0, 0},
         {"0x1-", false, 0, 0},      {"abc", false, 0, 0},    {"4294967296", false, 0, 0},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.text);
+    for (const auto &[text, ok, lo, hi] : cases) {
         std::pair<uint32_t, uint32_t> range{7, 7};
-        EXPECT_EQ(vqdump::parseRegFilter(c.text, &range), c.ok);
-        if (c.ok) {
-            EXPECT_EQ(range, std::make_pair(c.lo, c.hi));
-        }
+        EXPECT_EQ(vqdump::parseRegFilter(text, &range), ok) << text;
+        EXPECT_EQ(range, ok ? std::make_pair(lo, hi) : std::make_pair(7u, 7u)) << text;
     }
 }
 
@@ -204,11 +195,8 @@ TEST_F(ReaderTest, TruncatedAndCorruptFilesAreReported) {
     const Bytes file = smallDump();
     // Offsets: block header at 48, range at 72, group header at 82, first table header at 106.
     const std::string notDump = "not a chip dump: the file does not start with 0x7E \"DUMP\"";
-    struct Case {
-        size_t at;
-        std::vector<uint8_t> bytes;
-        std::string error;
-    } cases[] = {
+    // Offset, bytes written there, the reader's error.
+    const std::tuple<size_t, Bytes, std::string> cases[] = {
         {0, {0x00}, notDump},
         {1, {'d'}, notDump},
         {48, {0xF2}, "corrupt: unknown record mark 0xf2 at offset 0x30"},
@@ -230,11 +218,11 @@ TEST_F(ReaderTest, TruncatedAndCorruptFilesAreReported) {
          {0xFF, 0xFF},
          "truncated: the register values of a range at offset 0x4e needs 131040 bytes, 88 left"},
     };
-    for (const Case &c : cases) {
+    for (const auto &[at, bytes, error] : cases) {
         Bytes bad = file;
-        std::copy(c.bytes.begin(), c.bytes.end(), bad.begin() + static_cast<std::ptrdiff_t>(c.at));
+        std::copy(bytes.begin(), bytes.end(), bad.begin() + static_cast<std::ptrdiff_t>(at));
         const vqdump::DumpImage image = vqdump::parseDump(bad);
-        EXPECT_EQ(image.error, c.error) << c.at;
+        EXPECT_EQ(image.error, error) << at;
         EXPECT_LT(print(image).size(), 4096u);
     }
     // Whole records end at the header (48), after the register block (48 + 24 + 6 + 4) and at the end.
