@@ -25,12 +25,8 @@ class ShellCompletion : public shelltest::ShellTest {
 };
 
 TEST_F(ShellCompletion, ArgumentsCompleteByWhatTheyStandFor) {
-    struct Case {
-        const char *line;
-        Words candidates;
-    };
     const Words pritabMembers = {"Cbrpri", "Nrtvbrpri", "Rtvbrpri", "Ubrppri", "Ubrpri"};
-    const Case cases[] = {
+    const std::pair<const char *, Words> cases[] = {
         // Chip tables by name, in any case; the four "Reserved" rows and the print-only layouts
         // (Imappgpc6.., Imatxicpbuf1..) are not tables to read.
         {"tf 0 Atmpwe3pri", {"Atmpwe3pritab"}},
@@ -68,8 +64,8 @@ TEST_F(ShellCompletion, ArgumentsCompleteByWhatTheyStandFor) {
         {"rr 0 2; tr 0 Atmswv", {"Atmswvct", "Atmswvcxfifo"}},
         {"tr 0 \"Atmswv", {}},
         {"rr 0 2 # tr 0 Atmswv", {}}};
-    for (const Case &c : cases) {
-        EXPECT_EQ(complete(c.line).candidates, c.candidates) << c.line;
+    for (const auto &[line, candidates] : cases) {
+        EXPECT_EQ(complete(line).candidates, candidates) << line;
     }
 }
 

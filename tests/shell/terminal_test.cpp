@@ -21,9 +21,7 @@ class ShellTerminal : public ::testing::Test {
     size_t at = 0;     // where the next wait starts
 
     void SetUp() override {
-        winsize size{};
-        size.ws_row = 40;
-        size.ws_col = 200;
+        winsize size{40, 200, 0, 0};  // rows, columns
         child = forkpty(&master, nullptr, nullptr, &size);
         ASSERT_GE(child, 0);
         if (child == 0) {
