@@ -237,8 +237,7 @@ TEST_F(ReaderTest, TruncatedAndCorruptFilesAreReported) {
 // The program: exit status 0 for a whole file, 2 for a damaged one, 1 for a usage or file error.
 TEST_F(ReaderTest, ProgramExitStatus) {
     const Bytes file = smallDump();
-    const std::string dir =
-        std::filesystem::temp_directory_path().string() + "/vq6192-dumpread-" + std::to_string(getpid());
+    const std::string dir = testing::TempDir() + "vq6192-dumpread-" + std::to_string(getpid());
     std::filesystem::create_directories(dir);
     for (const auto &[name, size] : {std::pair{"/whole.bd", file.size()}, {"/cut.bd", file.size() - 3}}) {
         std::ofstream(dir + name, std::ios::binary)

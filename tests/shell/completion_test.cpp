@@ -45,7 +45,6 @@ TEST_F(ShellCompletion, ArgumentsCompleteByWhatTheyStandFor) {
         {"tf 0 1 31 Ubr", {"Ubrppri", "Ubrpri"}},
         {"tf 0 1 31 nrt", {"Nrtvbrpri"}},
         {"tf 0 Nosuchtable 5 ", {}},
-        {"tf 0 1 31 Cbrpri ", {}},
         // Modules of the print-flag commands, by name or id (0 OFF .. 22 END).
         {"VQ6192_Set_Diag_Printf_Flag 0 AT", {"ATM", "ATM_ASI"}},
         {"VQ6192_Set_Diag_Printf_Flag 0 i", {"IMA", "IMA_ASI", "INT"}},

@@ -102,9 +102,7 @@ TEST(ShellStatus, DecodesChipModuleAndError) {
 // A long dump reports its progress in tenths, the file is the whole dump, and the model chip's register
 // path is given back afterwards (short dumps: sessions/dump).
 TEST_F(ShellSession, LongDumpShowsProgressInTenths) {
-    const std::string path =
-        (std::filesystem::temp_directory_path() / ("vq6192-dump-" + std::to_string(getpid()) + ".bd"))
-            .string();
+    const std::string path = testing::TempDir() + "vq6192-dump-" + std::to_string(getpid()) + ".bd";
     const std::string out = run("dump 0 all " + path);
     const auto size = std::filesystem::file_size(path);
     std::filesystem::remove(path);
