@@ -195,6 +195,7 @@ TEST_F(ReaderTest, TruncatedAndCorruptFilesAreReported) {
     const Bytes file = smallDump();
     // Offsets: block header at 48, range at 72, group header at 82, first table header at 106.
     const std::string notDump = "not a chip dump: the file does not start with 0x7E \"DUMP\"";
+    const std::string tab = "table TS_DL_ET1_TAB at offset 0x6a ";
     // Offset, bytes written there, the reader's error.
     const std::tuple<size_t, Bytes, std::string> cases[] = {
         {0, {0x00}, notDump},
@@ -204,12 +205,8 @@ TEST_F(ReaderTest, TruncatedAndCorruptFilesAreReported) {
         {70, {9}, "corrupt: register block GLB at offset 0x30 claims 9 ranges (at most 8)"},
         {104, {61}, "corrupt: table group TS at offset 0x52 claims 61 tables (at most 60)"},
         {106, {0xFF}, "corrupt: bad table name at offset 0x6a (table 0 of group TS)"},
-        {128,
-         {0x00, 0x06},
-         "corrupt: table TS_DL_ET1_TAB at offset 0x6a has entries of 6 bytes (not whole words)"},
-        {124,
-         {0xFF, 0xFF, 0xFF, 0xFF},
-         "truncated: table TS_DL_ET1_TAB at offset 0x6a needs 17179869180 bytes of entries, 36 left"},
+        {128, {0x00, 0x06}, "corrupt: " + tab + "has entries of 6 bytes (not whole words)"},
+        {124, {0xFF, 0xFF, 0xFF, 0xFF}, "truncated: " + tab + "needs 17179869180 bytes of entries, 36 left"},
         // Empty entries with a huge depth.
         {124,
          {0xFF, 0xFF, 0xFF, 0xFF, 0x00, 0x00},
