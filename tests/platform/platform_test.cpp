@@ -217,11 +217,13 @@ TEST(Log, MaskFiltersAndSinkReceivesTheFormattedLine) {
         EXPECT_EQ(capture.logs[0].mask, 2u);
         EXPECT_EQ(capture.logs[1].text, "passes");
     }
-    // Without a sink: standard error, a line each.
+    // Without a sink: standard error, a line each (a text that ends its line gets no second newline).
     VQ6192_Platform_SetHooks(nullptr);
     testing::internal::CaptureStderr();
     vq::PIC_DbgLog(2, "chip %d pwe3 card out", 1);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "chip 1 pwe3 card out\n");
+    vq::PIC_DbgLog(2, "ends its line\n");
+    vq::PIC_DbgLog(2, "%s", "");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "chip 1 pwe3 card out\nends its line\n\n");
 }
 
 }  // namespace
