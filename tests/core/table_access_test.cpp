@@ -149,8 +149,6 @@ TEST_F(TableTest, IndexChecksAndNullBuffers) {
     // Ids outside the catalogue or the registry are refused untouched.
     EXPECT_EQ(VQ6192_Read_Table(kChip, 217, 0, entry), 0x030C0001u);
     EXPECT_EQ(VQ6192_Write_Table(kChip, 5000, 0, entry), 0x030C0001u);
-    EXPECT_EQ(VQ6192_Read_Table_Pro(264, 1, 0, entry), 0x080C0001u);
-    EXPECT_EQ(VQ6192_Write_Table(264, 1, 0, entry), 0x080C0001u);
     EXPECT_TRUE(model.trace().empty());
     EXPECT_EQ(model.arbitrationsTaken(), 0u);
     EXPECT_EQ(capture.traceTexts(), (std::vector<std::string>{
