@@ -1,7 +1,5 @@
 // CES channel settings, alarms, counters and the module initialisation, from the chip's tables and
 // registers.
-#include <cstddef>
-
 #include "ces_fixture.h"
 
 namespace {
@@ -9,19 +7,6 @@ namespace {
 using namespace cestest;
 
 using Settings = CesTest;
-
-// The pseudowire descriptor as the host fills it.
-static_assert(offsetof(VQ6192_CES_PW_S, ulTsCompress) == 16);
-static_assert(offsetof(VQ6192_CES_PW_S, usJbDepth) == 20);
-static_assert(offsetof(VQ6192_CES_PW_S, ucIdleCode) == 24);
-static_assert(offsetof(VQ6192_CES_PW_S, ucEmptyCode) == 26);
-static_assert(offsetof(VQ6192_CES_PW_S, stRtpCfg) == 28);
-static_assert(offsetof(VQ6192_CES_PW_S, ulVlanId) == 52);
-static_assert(offsetof(VQ6192_CES_PW_S, ulInLabel) == 60);
-static_assert(offsetof(VQ6192_CES_PW_S, ucPwTtl) == 65);
-static_assert(offsetof(VQ6192_CES_PW_NOTS_S, ulEthDah) == 64);
-static_assert(offsetof(VQ6192_CES_PW_NOTS_S, ucPwTtl) == 73);
-static_assert(sizeof(VQ6192_CES_CHAN_S) == sizeof(VQ6192_CES_CHAN_NOTS_S));
 
 constexpr uint64_t kTxAll = (uint64_t{1} << 50) - 1;
 constexpr uint64_t kRxAll = (uint64_t{1} << 51) - 1;
