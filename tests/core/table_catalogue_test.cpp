@@ -289,7 +289,7 @@ TEST(TableCatalogue, PrintCatalogueStructure) {
 }
 
 TEST(TableCatalogue, MemberLayouts) {
-    // The priority template's member layout is pinned by its printed entry.
+    // The priority template's member layout is pinned by the tables shell session.
     EXPECT_EQ(g_astVQ6192TblEntryList[1].pstMember, g_astVQ6192TblMemberAtmpwe3pritab);
     // Catalogue lookups by name at compile time.
     static_assert(vq::tableId("Atmswvct") == 20);
