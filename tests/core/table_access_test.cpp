@@ -30,13 +30,6 @@ class TableTest : public ChipTest {
         VQ6192_SemV(kChip, 0, 0);
         return true;
     }
-    uint64_t busyPolls(uint32_t busyAddr) {
-        uint64_t n = 0;
-        for (const BusAccess &a : model.trace()) {
-            n += a.op == BusOp::FieldRead && a.addr == busyAddr;
-        }
-        return n;
-    }
 };
 
 // Every chip table: a pattern written through the driver lands in the model's memory of the table's
@@ -162,15 +155,6 @@ TEST_F(TableTest, IndexChecksAndNullBuffers) {
     model.clearTrace();
     EXPECT_EQ(VQ6192_Write_Table(kChip, 20, 0x12345, entry), 0u);
     EXPECT_EQ(model.trace()[2], (BusAccess{BusOp::FieldWrite, 0xA002, 0x2345, 0, 16}));
-}
-
-TEST_F(TableTest, SingleRegisterTablesFillOnlyTheLowHalf) {
-    TableEngine::Entry stored{};
-    stored[0] = 0xBEEF;
-    model.tables().setEntry(0x10ab, 1, 100, stored);
-    uint32_t entry[1] = {0x12345678};
-    ASSERT_EQ(VQ6192_Read_Table(kChip, 117, 100, entry), 0u);
-    EXPECT_EQ(entry[0], 0x1234BEEFu);
 }
 
 // Every way a table access fails, one call per row from a clean chip, on Atmpwe3pritab entry 5: the
