@@ -1,5 +1,6 @@
 // Installation, uninstallation and the record they leave.
 #include <cstring>
+#include <tuple>
 
 #include "platform/osal.h"
 #include "support/test_support.h"
@@ -61,14 +62,11 @@ TEST_F(InstallTest, CopiesTheRecordAndStartsClean) {
     const VQ6192_INSTALL_PARA p = fullRecord(7);
     ASSERT_EQ(VQ6192_Install_SDK(&p), 0u);
 
-    EXPECT_EQ(rec.ulBaseAddr, p.ulBaseAddr);
-    EXPECT_EQ(rec.ulIndirectBaseAddr, p.ulIndirectBaseAddr);
-    EXPECT_EQ(rec.pfnGetArbitrate, hookA);
-    EXPECT_EQ(rec.pfnGiveArbitrate, hookB);
-    EXPECT_EQ(rec.pfnIndirectWrite16, write16);
-    EXPECT_EQ(rec.pfnIndirectRead16, read16);
-    EXPECT_EQ(rec.ulIndirectHandle, p.ulIndirectHandle);
-    EXPECT_EQ(rec.pfnCardPresent, hookC);
+    EXPECT_EQ(std::tuple(rec.ulBaseAddr, rec.ulIndirectBaseAddr, rec.ulIndirectHandle),
+              std::tuple(p.ulBaseAddr, p.ulIndirectBaseAddr, p.ulIndirectHandle));
+    EXPECT_EQ(std::tuple(rec.pfnGetArbitrate, rec.pfnGiveArbitrate, rec.pfnIndirectWrite16,
+                         rec.pfnIndirectRead16, rec.pfnCardPresent),
+              std::tuple(&hookA, &hookB, &write16, &read16, &hookC));
     using U32s = std::vector<uint32_t>;
     EXPECT_EQ((U32s{rec.ulAddrMultiple, rec.ulRegIndirectFlag, rec.ulDelayMode, rec.ulSupportProductFlag}),
               (U32s{2, 1, 1, 1}));
