@@ -101,6 +101,10 @@ TEST_F(Channels, ResetWaitsForTheDrain) {
     } const cases[] = {{"drained at once", 0, 4 * 500 + 500 + 134 * 500, 4, true},
                        {"drained after 200 reads", 200, 204 * 500 + 500, 204, true},
                        {"never drained", vq6192::sim::CesBlock::kForever, 4096 * 500, 4096, false}};
+    const std::string done = "INfo. VQ6192_CES_ResetCesChan chipID(3) : Reset CES Channel:[300]\r\n",
+                      stuck =
+                          "Err. VQ6192_CES_ResetCesChan ulChipID(3) Reset CES Channel:[300] Failed! Rst "
+                          "Over is not Over!\r\n";
     const uint32_t ch = 300;
     const uint32_t ctrl = 0x15000 + 2 * ch;
     VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_CES, 15);  // the reset's information line is level 1
@@ -120,13 +124,7 @@ TEST_F(Channels, ResetWaitsForTheDrain) {
             values.push_back(a.value);
         }
         EXPECT_EQ(values, c.pulse ? (U32s{0x8008, 0x800A, 0x8008, 0x8009}) : (U32s{0x8008, 0x8009}));
-        EXPECT_EQ(
-            capture.traceTexts(),
-            std::vector<std::string>{
-                c.pulse
-                    ? "INfo. VQ6192_CES_ResetCesChan chipID(3) : Reset CES Channel:[300]\r\n"
-                    : "Err. VQ6192_CES_ResetCesChan ulChipID(3) Reset CES Channel:[300] Failed! Rst Over is "
-                      "not Over!\r\n"});
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{c.pulse ? done : stuck});
     }
     model.poke(ctrl, 0x8008);
     VQ6192_Platform_ResetVirtualTime();

@@ -99,9 +99,7 @@ TEST_F(Settings, RegistersOfTheChannelAndChipWideSettings) {
 
     model.poke(0x14064, 0x0002);  // VC-4 1 has A set: B not set while A is
     for (const auto &[vc4, mode, after] : Rows<3>{{1, 1, 0x0002}, {2, 1, 0x0042}, {1, 0, 0x0040}}) {
-        EXPECT_EQ(
-            VQ6192_CES_SetCesVc4UnLoadMod(kChip, static_cast<uint32_t>(vc4), static_cast<uint32_t>(mode)),
-            0u);
+        EXPECT_EQ(VQ6192_CES_SetCesVc4UnLoadMod(kChip, vc4, mode), 0u);
         EXPECT_EQ(model.peek(0x14064), after) << vc4 << " " << mode;
     }
 
@@ -178,7 +176,7 @@ TEST_F(Settings, CountersFromTheirTables) {
     // Cesrxjbrdcnt (11), Cesrxjbwrcnt (10); the far-end fields stay 0.
     for (const auto &[sel, value] :
          Rows<2>{{8, 0x80000001}, {12, 0x12}, {6, 0x6}, {7, 0x7}, {11, 0xB}, {10, 0xA}}) {
-        setEntry(static_cast<uint32_t>(sel), 12, value);
+        setEntry(sel, 12, value);
     }
     VQ6192_CES_DBG_STAT_S dbg;
     std::memset(&dbg, 0xEE, sizeof dbg);
@@ -203,9 +201,8 @@ TEST_F(Settings, InitialisationDefaultsAndItsFirstFailure) {
                                                                  {347, 31, 511, 255, 0},
                                                                  {348, 26, 2047, 1023, 0},
                                                                  {351, 26, 2047, 1023, 0}}) {
-        const uint32_t c = static_cast<uint32_t>(ch);
-        EXPECT_EQ((U64s{model.peek(0x15800 + 2 * c) & 0x3Fu, model.peek(0x15C00 + 2 * c),
-                        model.peek(0x15400 + 2 * c), bits(kRxCw, c, 45, 5)}),
+        EXPECT_EQ((U64s{model.peek(0x15800 + 2 * ch) & 0x3Fu, model.peek(0x15C00 + 2 * ch),
+                        model.peek(0x15400 + 2 * ch), bits(kRxCw, ch, 45, 5)}),
                   (U64s{frames, depth, delay, drops}))
             << ch;
     }
