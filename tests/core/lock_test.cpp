@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "support/test_support.h"
+#include "vq6192/table.h"
 
 namespace {
 
@@ -118,7 +119,7 @@ uint32_t record(const std::string &event) {
     return 0;
 }
 
-TEST_F(LockTest, TakesSemaphoreBeforeArbitrationAndReleasesInReverse) {
+TEST_F(LockTest, LockOrderAndSemaphoreWaits) {
     VQ6192_PLATFORM_HOOKS hooks{};
     hooks.pfnSemTake = [](void *, void *, uint32_t t) { return record("take " + std::to_string(t)); };
     hooks.pfnSemGive = [](void *, void *) { return record("give"); };
@@ -132,6 +133,16 @@ TEST_F(LockTest, TakesSemaphoreBeforeArbitrationAndReleasesInReverse) {
     VQ6192_ReadReg(kChip, 0x10);
     VQ6192_Platform_SetHooks(nullptr);
     EXPECT_EQ(g_events, (std::vector<std::string>{"take 600", "get 3", "present?", "release 3", "give"}));
+    // Table accesses wait as long for the semaphore; the quiet read only briefly.
+    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
+    VQ6192_Platform_SetHooks(&hooks);
+    g_events.clear();
+    EXPECT_EQ(VQ6192_Read_Table(kChip, 1, 1, entry), 0u);
+    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, 1, 1, entry), 0u);
+    EXPECT_EQ(VQ6192_Write_Table(kChip, 1, 1, entry), 0u);
+    VQ6192_Platform_SetHooks(nullptr);
+    std::erase_if(g_events, [](const std::string &e) { return e.rfind("take ", 0) != 0; });
+    EXPECT_EQ(g_events, (std::vector<std::string>{"take 600", "take 10", "take 600"}));
 }
 
 TEST_F(LockTest, UninstalledChipRunsUnlocked) {

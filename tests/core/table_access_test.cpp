@@ -265,26 +265,6 @@ TEST_F(TableTest, FailuresStatusesLogsAndCounters) {
     EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 5, entry), 0u);
 }
 
-// Semaphore hooks that record the time-outs the table operations ask for.
-std::vector<uint32_t> g_timeouts;
-
-TEST_F(TableTest, QuietReadWaitsBrieflyAndNeverLogs) {
-    VQ6192_PLATFORM_HOOKS hooks{};
-    hooks.pfnSemTake = [](void *, void *, uint32_t timeout) -> uint32_t {
-        g_timeouts.push_back(timeout);
-        return 0;
-    };
-    hooks.pfnSemGive = [](void *, void *) -> uint32_t { return 0; };
-    VQ6192_Platform_SetHooks(&hooks);
-    g_timeouts.clear();
-    uint32_t entry[VQ6192_TBL_MAX_WORDS] = {};
-    EXPECT_EQ(VQ6192_Read_Table(kChip, kPri, 1, entry), 0u);
-    EXPECT_EQ(VQ6192_Read_Table_Pro(kChip, kPri, 1, entry), 0u);
-    EXPECT_EQ(VQ6192_Write_Table(kChip, kPri, 1, entry), 0u);
-    EXPECT_EQ(g_timeouts, (std::vector<uint32_t>{600, 10, 600}));
-    VQ6192_Platform_SetHooks(nullptr);
-}
-
 TEST_F(TableTest, TestWriteSetsThePriorities) {
     uint32_t entry[VQ6192_TBL_MAX_WORDS] = {0xFFFFFFFFu};
     ASSERT_EQ(VQ6192_Write_Table(kChip, kPri, 4, entry), 0u);
