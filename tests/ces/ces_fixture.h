@@ -22,7 +22,7 @@ using U32s = std::vector<uint32_t>;
 using U64s = std::vector<uint64_t>;
 // Rows of a table-driven test, N numbers each, bound by name in the loop.
 template <size_t N>
-using Rows = std::initializer_list<std::array<uint64_t, N>>;
+using Rows = std::initializer_list<std::array<uint32_t, N>>;
 
 // The CES indirect-access block and its table select codes.
 constexpr uint32_t kCesBlock = 0xa000;

@@ -14,7 +14,7 @@ TEST_F(ClockRecovery, ModeMappingBothWays) {
     // Mode; register: hardware mode 0..1, channel 40 at 2..10, rate 1 at 11..12, PLC at 13, bits 14..15 kept.
     for (const auto &[mode, reg] : Rows<2>{{0, 0xE8A0}, {2, 0xE8A1}, {4, 0xE8A3}}) {
         model.poke(0x16386, 0xC000);
-        const VQ6192_CES_CR_MODE_S m = {static_cast<uint32_t>(mode), 40, 1, 1};
+        const VQ6192_CES_CR_MODE_S m = {mode, 40, 1, 1};
         capture.clear();
         ASSERT_EQ(VQ6192_CES_SetCesCRMode(kChip, 3, &m), 0u);
         EXPECT_EQ(model.peek(0x16386), reg);
@@ -25,7 +25,7 @@ TEST_F(ClockRecovery, ModeMappingBothWays) {
         VQ6192_CES_CR_MODE_S out = {};
         ASSERT_EQ(VQ6192_CES_GetCesCRMode(kChip, 3, &out), 0u);
         EXPECT_EQ((U32s{out.eTrMode, out.wCesChanNo, out.wClkRateMode, out.wTrPLCEn}),
-                  (U32s{static_cast<uint32_t>(mode), 40, 1, 1}));
+                  (U32s{mode, 40, 1, 1}));
     }
     model.poke(0x16386, 0x0002);
     VQ6192_CES_CR_MODE_S out = {};

@@ -85,7 +85,6 @@ TEST_F(Services, RefusalsTouchNothing) {
         change(pw);
         expectRefused(what, [&] { return VQ6192_CES_CreateCesPwSrv(kChip, &pw); });
     }
-    CES_REFUSED(VQ6192_CES_CreateCesPwSrv(kChip, nullptr));
     CES_REFUSED(VQ6192_CES_DelCesPwSrv(kChip, 352, 0, 0));
 }
 

@@ -1,7 +1,5 @@
 // CES channel settings, alarms, counters and the module initialisation, from the chip's tables and
 // registers.
-#include <cstddef>
-
 #include "ces_fixture.h"
 
 namespace {
@@ -9,19 +7,6 @@ namespace {
 using namespace cestest;
 
 using Settings = CesTest;
-
-// The pseudowire descriptor as the host fills it.
-static_assert(offsetof(VQ6192_CES_PW_S, ulTsCompress) == 16);
-static_assert(offsetof(VQ6192_CES_PW_S, usJbDepth) == 20);
-static_assert(offsetof(VQ6192_CES_PW_S, ucIdleCode) == 24);
-static_assert(offsetof(VQ6192_CES_PW_S, ucEmptyCode) == 26);
-static_assert(offsetof(VQ6192_CES_PW_S, stRtpCfg) == 28);
-static_assert(offsetof(VQ6192_CES_PW_S, ulVlanId) == 52);
-static_assert(offsetof(VQ6192_CES_PW_S, ulInLabel) == 60);
-static_assert(offsetof(VQ6192_CES_PW_S, ucPwTtl) == 65);
-static_assert(offsetof(VQ6192_CES_PW_NOTS_S, ulEthDah) == 64);
-static_assert(offsetof(VQ6192_CES_PW_NOTS_S, ucPwTtl) == 73);
-static_assert(sizeof(VQ6192_CES_CHAN_S) == sizeof(VQ6192_CES_CHAN_NOTS_S));
 
 constexpr uint64_t kTxAll = (uint64_t{1} << 50) - 1;
 constexpr uint64_t kRxAll = (uint64_t{1} << 51) - 1;
@@ -114,9 +99,7 @@ TEST_F(Settings, RegistersOfTheChannelAndChipWideSettings) {
 
     model.poke(0x14064, 0x0002);  // VC-4 1 has A set: B not set while A is
     for (const auto &[vc4, mode, after] : Rows<3>{{1, 1, 0x0002}, {2, 1, 0x0042}, {1, 0, 0x0040}}) {
-        EXPECT_EQ(
-            VQ6192_CES_SetCesVc4UnLoadMod(kChip, static_cast<uint32_t>(vc4), static_cast<uint32_t>(mode)),
-            0u);
+        EXPECT_EQ(VQ6192_CES_SetCesVc4UnLoadMod(kChip, vc4, mode), 0u);
         EXPECT_EQ(model.peek(0x14064), after) << vc4 << " " << mode;
     }
 
@@ -193,7 +176,7 @@ TEST_F(Settings, CountersFromTheirTables) {
     // Cesrxjbrdcnt (11), Cesrxjbwrcnt (10); the far-end fields stay 0.
     for (const auto &[sel, value] :
          Rows<2>{{8, 0x80000001}, {12, 0x12}, {6, 0x6}, {7, 0x7}, {11, 0xB}, {10, 0xA}}) {
-        setEntry(static_cast<uint32_t>(sel), 12, value);
+        setEntry(sel, 12, value);
     }
     VQ6192_CES_DBG_STAT_S dbg;
     std::memset(&dbg, 0xEE, sizeof dbg);
@@ -218,9 +201,8 @@ TEST_F(Settings, InitialisationDefaultsAndItsFirstFailure) {
                                                                  {347, 31, 511, 255, 0},
                                                                  {348, 26, 2047, 1023, 0},
                                                                  {351, 26, 2047, 1023, 0}}) {
-        const uint32_t c = static_cast<uint32_t>(ch);
-        EXPECT_EQ((U64s{model.peek(0x15800 + 2 * c) & 0x3Fu, model.peek(0x15C00 + 2 * c),
-                        model.peek(0x15400 + 2 * c), bits(kRxCw, c, 45, 5)}),
+        EXPECT_EQ((U64s{model.peek(0x15800 + 2 * ch) & 0x3Fu, model.peek(0x15C00 + 2 * ch),
+                        model.peek(0x15400 + 2 * ch), bits(kRxCw, ch, 45, 5)}),
                   (U64s{frames, depth, delay, drops}))
             << ch;
     }

@@ -56,23 +56,16 @@ TEST_F(MappedTest, AddressScalingForEveryMultiplierAndProductFlag) {
         VQ6192_WriteRegFieldB(kChip, 0x208, 0xF, 12, 4);
         EXPECT_EQ(space[c.hostOffset / 2], 0xF345);
         EXPECT_EQ(VQ6192_ReadRegFieldB(kChip, 0x208, 8, 8), 0xF3u);
+        VQ6192_WriteRegField(kChip, 0x208, 5, 4, 2);  // value bits beyond the width are dropped
+        EXPECT_EQ(space[c.hostOffset / 2], 0xF355);
+        EXPECT_EQ(VQ6192_ReadRegField(kChip, 0x208, 4, 2), 1u);
         VQ6192_UnInstall_SDK(kChip);
     }
 }
 
-TEST_F(MappedTest, FieldWritesKeepTheOtherBits) {
-    install(0, 0);
-    space[0x40 / 2] = 0xFFFF;
-    VQ6192_WriteRegField(kChip, 0x40, 5, 4, 2);
-    EXPECT_EQ(space[0x40 / 2], 0xFFDF);
-    EXPECT_EQ(VQ6192_ReadRegField(kChip, 0x40, 4, 2), 1u);
-}
-
 TEST_F(MappedTest, ChipWithoutARegisterWindowReadsZeroAndWritesNothing) {
-    // Installed without a base address and without host functions (or never installed at all): the
-    // accesses are dropped instead of reaching the host's address 0.
-    install(0, 0);
-    VQ6192_UnInstall_SDK(kChip);
+    // Installed without a base address and without host functions: the accesses are dropped instead of
+    // reaching the host's address 0.
     VQ6192_INSTALL_PARA p{};
     p.ulChipId = kChip;
     ASSERT_EQ(VQ6192_Install_SDK(&p), 0u);
@@ -80,7 +73,6 @@ TEST_F(MappedTest, ChipWithoutARegisterWindowReadsZeroAndWritesNothing) {
     VQ6192_WriteRegFieldB(kChip, 0x10, 1, 0, 1);
     EXPECT_EQ(VQ6192_ReadReg(kChip, 0x10), 0u);
     EXPECT_EQ(VQ6192_ReadRegFieldB(kChip, 0x10, 0, 16), 0u);
-    EXPECT_EQ(VQ6192_ReadReg(200, 0x10), 0u) << "never installed";
 }
 
 // ---- Field arithmetic at the edges ----------------------------------------------------------------
@@ -173,21 +165,6 @@ TEST_F(HostPathTest, RegisterNumberInterfaceChecksTheFieldAndTouchesNothingOnErr
     // The sum is compared as signed: a huge start bit wraps below 16, is accepted and reads nothing.
     EXPECT_EQ(VQ6192_Base_ReadReg(kChip, 0x104, 0xFFFFFFFFu, 2, &out), 0u);
     EXPECT_EQ(out, 0);
-}
-
-TEST_F(HostPathTest, ChipIdsPastTheLastChipReachNothing) {
-    vq6192::sim::ChipModel spare;
-    spare.attach(264);
-    spare.setTrace(true);
-    VQ6192_WriteReg(264, 0x10, 1);
-    VQ6192_WriteRegField(264, 0x10, 1, 0, 1);
-    VQ6192_WriteRegFieldB(264, 0x10, 1, 0, 1);
-    EXPECT_EQ(VQ6192_ReadReg(264, 0x10), 0u);
-    EXPECT_EQ(VQ6192_ReadRegField(264, 0x10, 0, 16), 0u);
-    EXPECT_EQ(VQ6192_ReadRegFieldB(264, 0x10, 0, 16), 0u);
-    EXPECT_EQ(VQ6192_WriteRegDirect(100000, 0x10, 1), 0u);
-    EXPECT_EQ(VQ6192_ReadRegIndirect(100000, 0x10), 0u);
-    EXPECT_TRUE(spare.trace().empty());
 }
 
 // ---- Indirect path ------------------------------------------------------------------------------------

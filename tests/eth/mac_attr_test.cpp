@@ -78,11 +78,6 @@ TEST_F(MacAttr, InjectedFailures) {
     uint32_t len = 0;
     EXPECT_EQ(VQ6192_ETH_ReadPppProtocolPkt(kChip, buf, &len), 0x03050002u);
     EXPECT_EQ(eth().waiting(), 1u);
-    // The insertion engine stays busy for every poll.
-    eth().holdInsertBusy(vq6192::sim::EthBlock::kForever);
-    const uint8_t pkt[2] = {1, 2};
-    EXPECT_EQ(VQ6192_ETH_InsertPppProtocolPkt(kChip, pkt, 2), kEthBusy);
-    EXPECT_TRUE(eth().inserted().empty());
 }
 
 }  // namespace

@@ -13,17 +13,16 @@ BusAccess wr(uint32_t addr, uint32_t value) {
 
 TEST_F(Ports, MacInUseFollowsTheSerDesSelection) {
     VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_ETH, VQ6192_PRINT_ALL);
-    const std::pair<uint32_t, const char *> cases[] = {
-        {3, "VQ6192_ETH_GetMACNo(0x3). wSerDesSel[0] return [0x3]\n"},
-        {1, "VQ6192_ETH_GetMACNo(0x3). wSerDesSel[0x1] return [0x1]\n"},
-        {2, "VQ6192_ETH_GetMACNo(0x3). wSerDesSel[0x2] return [0x2]\n"}};
-    for (uint16_t sel = 0; sel < 3; ++sel) {
+    for (const auto &[sel, mac, text] : {std::tuple{0, 3u, "wSerDesSel[0] return [0x3]\n"},
+                                         std::tuple{1, 1u, "wSerDesSel[0x1] return [0x1]\n"},
+                                         std::tuple{2, 2u, "wSerDesSel[0x2] return [0x2]\n"}}) {
         model.poke(0x80C6, static_cast<uint16_t>(0xFFFC | sel));
         capture.clear();
-        uint32_t mac = 0;
-        EXPECT_EQ(VQ6192_ETH_GetMACNo(kChip, &mac), 0u);
-        EXPECT_EQ(mac, cases[sel].first);
-        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{cases[sel].second});
+        uint32_t got = 0;
+        EXPECT_EQ(VQ6192_ETH_GetMACNo(kChip, &got), 0u);
+        EXPECT_EQ(got, mac);
+        EXPECT_EQ(capture.traceTexts(),
+                  std::vector<std::string>{"VQ6192_ETH_GetMACNo(0x3). " + std::string(text)});
     }
     model.poke(0x80C6, 3);
     uint32_t mac = 7;
