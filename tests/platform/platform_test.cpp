@@ -144,6 +144,38 @@ TEST(Semaphore, IsBinaryAndHonoursInjectedFailures) {
     EXPECT_NE(vq::iof_sema_timewait(nullptr, 0), 0u);
 }
 
+// On a host's semaphores the chip lock is created free (initial count 1) and binary.
+TEST(Semaphore, ChipLockOnHostSemaphoresIsCreatedFreeAndBinary) {
+    static std::vector<uint32_t> initials;
+    VQ6192_PLATFORM_HOOKS hooks{};
+    hooks.pfnSemCreate = [](void *, void *b, uint32_t initial) {
+        initials.push_back(*static_cast<uint32_t *>(b) = initial);
+        return 0u;
+    };
+    hooks.pfnSemDelete = [](void *, void *) { return 0u; };
+    hooks.pfnSemTake = [](void *, void *b, uint32_t) {
+        uint32_t &count = *static_cast<uint32_t *>(b);
+        return count == 0 ? 1u : (--count, 0u);
+    };
+    hooks.pfnSemGive = [](void *, void *b) { return *static_cast<uint32_t *>(b) = 1, 0u; };
+    hooks.pfnLog = [](void *, uint32_t, const char *) {};  // the refused take's log line
+    VQ6192_Platform_SetHooks(&hooks);
+    {
+        vq6192::sim::ChipModel model;
+        model.attach(5);
+        VQ6192_INSTALL_PARA para = model.installPara(5);
+        ASSERT_EQ(VQ6192_Install_SDK(&para), 0u);
+        EXPECT_EQ(initials, std::vector<uint32_t>{1});
+        EXPECT_EQ(
+            (std::vector<uint32_t>{VQ6192_GetArbitrateFunc(5, 0, 0), VQ6192_GetArbitrateFunc(5, 0, 0) != 0,
+                                   VQ6192_GiveArbitrateFunc(5, 0, 0)}),
+            (std::vector<uint32_t>{0, 1, 0}))
+            << "a second take while held fails";
+        VQ6192_UnInstall_SDK(5);
+    }
+    VQ6192_Platform_SetHooks(nullptr);
+}
+
 // Without file functions the dump's file hooks do nothing and succeed, leaving the handle 0.
 TEST(DumpFiles, WithoutFileFunctionsEachHookDoesNothingAndReturns0) {
     VQ6192_Platform_SetFileHooks(nullptr);
