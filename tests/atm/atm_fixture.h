@@ -81,6 +81,7 @@ class AtmTest : public vqtest::ChipTest {
     uint64_t tableCommands() {
         return model.tables().writesExecuted(kAtmBlock) + model.tables().readsExecuted(kAtmBlock);
     }
+    using vqtest::ChipTest::traced;
     bool traced(const std::string &line) {
         for (const auto &t : capture.traceTexts()) {
             if (t == line) {
