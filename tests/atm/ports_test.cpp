@@ -84,7 +84,7 @@ TEST_F(PortTest, TransparentPortRefusals) {
     EXPECT_TRUE(model.trace().empty());
 }
 
-TEST_F(PortTest, OneSidedTransparentPorts) {
+TEST_F(PortTest, OneSidedTransparentPortsAndLineLoop) {
     prefillPort(7, 900);
     const uint32_t th[3] = {10, 20, 30};
     ASSERT_EQ(VQ6192_ATM_AddAtmTransConnSingle(kChip, 7, 900, 0, th), 0u);
@@ -105,22 +105,21 @@ TEST_F(PortTest, OneSidedTransparentPorts) {
     atm().setDeleteAckPolls(AtmBlock::kForever);
     EXPECT_EQ(VQ6192_ATM_DelAtmTransConn(kChip, 3, 4), kPara);
     EXPECT_EQ(bits(kBmFifo, 3, 0, 57), (1ull << 57) - 1);
-}
 
-TEST_F(PortTest, LinePortLoop) {
+    // The line-port loop.
+    atm().setDeleteAckPolls(0);
     prefillPort(20, 0);
     setBits(kLpct, 20, 1, 1, 0);
     setBits(kLpct, 20, 3, 1, 0);
-    const uint32_t th[3] = {1, 2, 3};
     ASSERT_EQ(VQ6192_ATM_SetAtmPortLoopMode(kChip, 20, th), 0u);
     EXPECT_EQ((V{bits(kLpct, 20, 0, 15), bits(kBmFifo, 20, 0, 57)}),
-              (V{0x7FFF, 1ull << 38 | 2ull << 19 | 3u}));
+              (V{0x7FFF, 10ull << 38 | 20ull << 19 | 30u}));
     uint8_t loop = 0;
     EXPECT_EQ(VQ6192_ATM_GetAtmPortLoopMode(kChip, 20, &loop), 0u);
     EXPECT_EQ(loop, 1);
     ASSERT_EQ(VQ6192_ATM_DelAtmPortLoopMode(kChip, 20), 0u);
     EXPECT_EQ((V{bits(kLpct, 20, 0, 15), bits(kBmFifo, 20, 0, 57)}), (V{0x7FF5, 0}));
-    EXPECT_EQ(atm().deletes(), (std::vector<AtmBlock::QueueDelete>{{20, true}}));
+    EXPECT_EQ(atm().deletes().back(), (AtmBlock::QueueDelete{20, true}));
 }
 
 TEST_F(PortTest, PortEnablesAndAttributes) {

@@ -121,7 +121,7 @@ TEST_F(StatsTest, ChipWideCountersInRecordOrder) {
     EXPECT_EQ(p.wPolDropRx * 1000 + p.wPolDropTx * 100 + p.wPolTagRx * 10 + p.wPolTagTx, 1234);
 }
 
-TEST_F(StatsTest, AlarmsAndDeleteStatus) {
+TEST_F(StatsTest, AlarmsDeleteStatusAndQueueLength) {
     poke({{0xA306, 0x1111}, {0xA30A, 0x2222}, {0xA30C, 0x3333}, {0xA294, 0xFFFE}, {0xA296, 0x0001}});
     model.tables().holdBusy(kAtmBlock, 2);  // the table RAM busy bit, read by both alarms
     uint16_t ov[3] = {}, sw[3] = {}, busy = 0;
@@ -142,9 +142,7 @@ TEST_F(StatsTest, AlarmsAndDeleteStatus) {
         ASSERT_EQ(VQ6192_ATM_GetVpcDelAck(kChip, &del, &type, &port), 0u);
         EXPECT_EQ((V{del, type, port}), (V{wantDel, wantType, wantPort}));
     }
-}
-
-TEST_F(StatsTest, QueueLengthReadsApart) {
+    // Queue-length reads 200 ticks apart.
     atm().setQueueLength(70, 0x1234, vq6192::sim::AtmBlock::kForever);
     for (uint32_t n : {0u, 1u, 3u}) {
         VQ6192_Platform_ResetVirtualTime();
