@@ -243,8 +243,7 @@ TEST_F(OamTest, ContinuityCheckSegmentEndsAndAutomaticInsertion) {
         EXPECT_EQ((fields(kVct, 9, {{51, 1}, {50, 1}, {0, 50}})),
                   (V{type & 1u, type >> 1, (1ull << 50) - 1}));
         uint32_t back = 9;
-        ASSERT_EQ(VQ6192_ATM_GetOamSegEnd(kChip, 9, &back), 0u);
-        EXPECT_EQ(back, type);
+        EXPECT_EQ((V{VQ6192_ATM_GetOamSegEnd(kChip, 9, &back), back}), (V{0, type}));
     }
     const uint32_t bitOf[4] = {45, 44, 43, 42};  // segment AIS, end AIS, segment RDI, end RDI
     for (uint32_t kind = 0; kind < 4; ++kind) {
@@ -252,8 +251,7 @@ TEST_F(OamTest, ContinuityCheckSegmentEndsAndAutomaticInsertion) {
         ASSERT_EQ(VQ6192_ATM_SetOamAutoInsertEn(kChip, 9, kind, 1), 0u);
         EXPECT_EQ(bits(kVct, 9, 0, 64), 1ull << bitOf[kind]);
         uint8_t en = 0;
-        ASSERT_EQ(VQ6192_ATM_GetOamAutoInsertEnStat(kChip, 9, kind, &en), 0u);
-        EXPECT_EQ(en, 1);
+        EXPECT_EQ((V{VQ6192_ATM_GetOamAutoInsertEnStat(kChip, 9, kind, &en), en}), (V{0, 1}));
     }
     model.clearTrace();
     EXPECT_EQ(
@@ -285,8 +283,7 @@ TEST_F(OamTest, LossOfContinuityVcxFifoAndCrcCheck) {
     ASSERT_EQ(VQ6192_ATM_SetOamCrcEn(kChip, 1), 0u);
     EXPECT_EQ(model.peek(0xA2C0), 0xFFFF);
     uint8_t en = 0;
-    ASSERT_EQ(VQ6192_ATM_GetOamCrcEnStat(kChip, &en), 0u);
-    EXPECT_EQ(en, 1);
+    EXPECT_EQ((V{VQ6192_ATM_GetOamCrcEnStat(kChip, &en), en}), (V{0, 1}));
     EXPECT_EQ(VQ6192_ATM_SetOamCrcEn(kChip, 2), kPara);
 }
 

@@ -201,8 +201,7 @@ TEST_F(Pwe3Test, ControlWordRuleOfTheOneToOneModes) {
         SCOPED_TRACE(cfg);
         setBits(kPwCfg, 12, 0, 4, cfg);
         uint8_t cw = 9;
-        EXPECT_EQ(VQ6192_ATM_GetAtmPwCWEn(kChip, 12, &cw), 0u);
-        EXPECT_EQ(cw, reported);
+        EXPECT_EQ((V{VQ6192_ATM_GetAtmPwCWEn(kChip, 12, &cw), cw}), (V{0, reported}));
     }
     setBits(kPwCfg, 12, 0, 4, 0x7);  // VPC one-to-one, control word on
     capture.clear();
@@ -234,8 +233,7 @@ TEST_F(Pwe3Test, StatisticsRecordAndReadClear) {
     model.poke(0xA008, 0xFFE0);
     model.clearTrace();
     uint8_t alarm = 0;
-    ASSERT_EQ(VQ6192_ATM_GetPwChkErrAlm(kChip, 100, &alarm), 0u);
-    EXPECT_EQ(alarm, 1);
+    EXPECT_EQ((V{VQ6192_ATM_GetPwChkErrAlm(kChip, 100, &alarm), alarm}), (V{0, 1}));
     EXPECT_EQ(regWrites(0xA008), (std::vector<RegWrite>{{0xA008, 0xFFF0}, {0xA008, 0xFFFF}}));
 }
 
