@@ -244,8 +244,7 @@ TEST_F(ConnTest, DeletionFailures) {
     const uint16_t rec[2] = {9, 2};
     EXPECT_EQ(VQ6192_ATM_DelAtmSrvConn(kChip, rec), kPara);
     EXPECT_TRUE(traced("Err. VQ6192_ATM_DelAtmSrvConn: Delete DelAtmBwdQm Error!  ChipID: 0x3\r\n"));
-    EXPECT_EQ(bits(kBmPvc, 9, 0, 10), 0x2BFu) << "buffer management not cleared";
-    EXPECT_EQ(bits(kLinkQm, 9, 0, 13), 77u) << "queue entry not rewritten";
+    EXPECT_EQ((V{bits(kBmPvc, 9, 0, 10), bits(kLinkQm, 9, 0, 13)}), (V{0x2BF, 77})) << "buffers, queue kept";
     const uint16_t pair[2] = {4, 2};  // the local connection 4 was never laid: its flush fails too
     capture.clear();
     EXPECT_EQ(VQ6192_ATM_DelAtmSrvConnBoth(kChip, pair), kPara);
@@ -266,8 +265,8 @@ TEST_F(ConnTest, DeletionFailures) {
         EXPECT_EQ(VQ6192_ATM_DelAtmSrvConn(kChip, eg), kPara);
         EXPECT_TRUE(traced(std::string("Err. VQ6192_ATM_DelAtmSrvConn: Delete ") + what +
                            " Error!  ChipID: 0x3\r\n"));
-        EXPECT_EQ(bits(kVct, 6, 0, 1), 0u) << "stopped switching first";
-        EXPECT_EQ(bits(kBmPvc, 6, 0, 10), 0x3FFu) << "buffers not cleared";
+        EXPECT_EQ((V{bits(kVct, 6, 0, 1), bits(kBmPvc, 6, 0, 10)}), (V{0, 0x3FF}))
+            << "switching stopped first";
     }
     // Reading back: TCAM (1), connection information (2), port attribute (3).
     for (uint32_t command : {1u, 2u, 3u}) {
