@@ -143,7 +143,7 @@ TEST_F(OamTest, EachCellKindIsPushedWordByWord) {
     EXPECT_TRUE(model.trace().empty());
 }
 
-TEST_F(OamTest, ReportedCellsAreReadBack) {
+TEST_F(OamTest, ReportedCellsAndTheGuardedReadOfTheirFlag) {
     Cell cell;
     for (int i = 0; i < 53; ++i) {
         cell[i] = static_cast<uint8_t>(i * 7 + 1);
@@ -175,9 +175,8 @@ TEST_F(OamTest, ReportedCellsAreReadBack) {
         VQ6192_ATM_SetOamCapFifoClear(kChip);
         EXPECT_EQ(atm().reportWordsLeft(), 0u);
     }
-}
 
-TEST_F(OamTest, GuardedReadOfTheReportFlag) {
+    // The report flag read refused by the lock.
     atm().reportCell(3, Cell{});
     uint16_t vcx = 0;
     Cell got{};

@@ -33,7 +33,7 @@ class PortTest : public AtmTest {
     }
 };
 
-TEST_F(PortTest, TransparentPortMapsLineAndSystemPort) {
+TEST_F(PortTest, TransparentPorts) {
     prefillPort(335, 2047);
     const uint32_t th[3] = {0x7FFFF, 0x12345, 0x1};
     ASSERT_EQ(VQ6192_ATM_AddAtmTransConn(kChip, 335, 2047, th), 0u);
@@ -57,9 +57,8 @@ TEST_F(PortTest, TransparentPortMapsLineAndSystemPort) {
               (V{0x4, 0x2, 0x7Full << 57}));
     EXPECT_EQ(atm().deletes(), (std::vector<AtmBlock::QueueDelete>{{335, true}}));
     EXPECT_EQ(bits(kLinkQm, 8192 + 335, 0, 25), 0u);
-}
 
-TEST_F(PortTest, TransparentPortRefusals) {
+    // Refusals.
     const uint32_t good[3] = {1, 2, 3};
     const uint32_t over[3][3] = {{0x80000, 0, 0}, {0, 0x80000, 0}, {0, 0, 0x80000}};
     const std::tuple<const char *, uint32_t, uint32_t, const uint32_t *> cases[] = {

@@ -154,7 +154,7 @@ TEST_F(StatsTest, AlarmsDeleteStatusAndQueueLength) {
     }
 }
 
-TEST_F(StatsTest, CellCaptureByModeLeavesStartBitsCleared) {
+TEST_F(StatsTest, CellCapture) {
     struct Case {
         const char *name;
         uint32_t mode, index, matchVci, vpi, vci;
@@ -189,9 +189,8 @@ TEST_F(StatsTest, CellCaptureByModeLeavesStartBitsCleared) {
             EXPECT_EQ(model.peek(reg), value) << std::hex << reg;
         }
     }
-}
 
-TEST_F(StatsTest, CellCaptureWithoutCellAndRefusals) {
+    // No cell on the side polled, and refusals.
     AtmPwe3Block::Cell cell{};
     cell[0] = 0x42;
     pwe3().queueCell(0, cell);  // waits on the other side
@@ -204,12 +203,12 @@ TEST_F(StatsTest, CellCaptureWithoutCellAndRefusals) {
     ASSERT_EQ(VQ6192_ATM_CaptureAtmLcapCell(kChip, out), 0u);
     EXPECT_EQ((V{out[0], pwe3().fifoWords(0)}), (V{0x42, 0}));
 
-    using Case = std::tuple<uint32_t, uint32_t, uint32_t, uint32_t, bool>;
+    using Bad = std::tuple<uint32_t, uint32_t, uint32_t, uint32_t, bool>;
     model.clearTrace();
     for (const auto &[mode, index, matchVci, vpi, paraErr] :
-         {Case{0, 8193, 0, 0, true}, Case{1, 336, 0, 0, true}, Case{2, 2048, 0, 0, true},
-          Case{3, 2048, 0, 0, true}, Case{1, 1, 1, 4096, true}, Case{3, 1, 2, 0, true},
-          Case{4, 0, 0, 0, false}}) {
+         {Bad{0, 8193, 0, 0, true}, Bad{1, 336, 0, 0, true}, Bad{2, 2048, 0, 0, true},
+          Bad{3, 2048, 0, 0, true}, Bad{1, 1, 1, 4096, true}, Bad{3, 1, 2, 0, true},
+          Bad{4, 0, 0, 0, false}}) {
         capture.clear();
         EXPECT_EQ(VQ6192_ATM_CaptureAtmCell(kChip, out, mode, index, matchVci, vpi, 0), kPara);
         EXPECT_EQ(traced("ParaErr. \r\n"), paraErr);

@@ -173,7 +173,7 @@ TEST_F(TrafficTest, ShaperEntries) {
     EXPECT_EQ((V{back.wIncrA, back.wPAMode, back.wLimitA}), (V{0x1234, 1, 0xAB}));
 }
 
-TEST_F(TrafficTest, CbrRateClasses) {
+TEST_F(TrafficTest, CbrRatesDropThresholdsAndExcessBandwidth) {
     // 8: the quotient 2976190.476 rounds to 2976190.5 in single precision.
     const std::tuple<uint32_t, uint32_t, uint32_t> cases[] = {
         {2976191, 6, 3401360}, {6, 3968252, 6}, {8, 2976189, 8}, {0, 0, 0}};
@@ -202,9 +202,8 @@ TEST_F(TrafficTest, CbrRateClasses) {
     ASSERT_EQ(VQ6192_ATM_GetAtmShVcPeriod(kChip, 1, 2, &period), 0u);
     EXPECT_EQ(period, 3968252u);
     EXPECT_EQ(bits(kShVc, 18, 0, 22), 3968252u);
-}
 
-TEST_F(TrafficTest, DropThresholdTemplatesAndExcessBandwidth) {
+    // Drop-threshold templates and excess-bandwidth weights.
     setBits(kBmTh, 319, 151, 9, 0x1FF);
     const ATM_BM_TH th{0xBEEF, 0x1234, 31, 0x11111, 0x22222, 0x33333, 0x44444, 0x55555, 0x7FFFF};
     ASSERT_EQ(VQ6192_ATM_SetAtmBmTh(kChip, 63, 5, &th), 0u);
