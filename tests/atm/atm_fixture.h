@@ -2,6 +2,7 @@
 // by bit as the chip documentation numbers them, and the chip's ATM status codes.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <initializer_list>
 #include <string>
@@ -81,13 +82,10 @@ class AtmTest : public vqtest::ChipTest {
     uint64_t tableCommands() {
         return model.tables().writesExecuted(kAtmBlock) + model.tables().readsExecuted(kAtmBlock);
     }
+    using vqtest::ChipTest::traced;
     bool traced(const std::string &line) {
-        for (const auto &t : capture.traceTexts()) {
-            if (t == line) {
-                return true;
-            }
-        }
-        return false;
+        const auto t = capture.traceTexts();
+        return std::find(t.begin(), t.end(), line) != t.end();
     }
 };
 
