@@ -1,5 +1,4 @@
-// ATM diagnostic commands: their text byte for byte, the listings of the host's shadows, the null
-// buffer, and the bound at the end of the 48128-byte buffer.
+// ATM diagnostic commands: their text, the host's shadow listings, the null buffer and the buffer's end.
 #include <algorithm>
 #include <string>
 #include <vector>

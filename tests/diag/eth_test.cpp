@@ -1,5 +1,4 @@
-// Ethernet-side and MAC port commands: reports byte for byte from values set in the chip model, what
-// they do without a buffer, and the status they return.
+// Ethernet-side and MAC port commands: reports byte for byte, statuses and the null buffer.
 #include <functional>
 #include <string>
 #include <vector>

@@ -1,5 +1,4 @@
-// IMA diagnostic commands and hardware diagnostics: their text byte for byte, refusals and the
-// argument helper.
+// IMA diagnostic commands and hardware diagnostics: their text, refusals and the argument helper.
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -102,9 +101,7 @@ TEST_F(ImaDiagTest, HardwareRefusalsAndParameters) {
     EXPECT_EQ(proc().commands(), (std::vector<Proc::Command>{{12, 44, 256, 512, 768}}));
     proc().refuse(1);
     EXPECT_EQ(MCARD_IMA_DiagHardwareSetImaIss(kChip, 1, 44, buf.data()), 0x030D0009);
-    for (uint32_t &p : g_uiKx9rDiagExtraPara) {
-        p = 0;
-    }
+    std::fill(std::begin(g_uiKx9rDiagExtraPara), std::end(g_uiKx9rDiagExtraPara), 0u);
 }
 
 TEST_F(ImaDiagTest, HardwareTablePrints) {
@@ -144,8 +141,7 @@ TEST_F(ImaDiagTest, HardwareSnapshotLayouts) {
     }
     const std::string t = text();
     EXPECT_NE(t.find("                  1  2  3  4  5  6  7  8  9 10 11 12 13 14 15 16 17 18 19 20 21 22 23 "
-                     "24 25 26 27 "
-                     "28 29 30 31 32\r\n"),
+                     "24 25 26 27 28 29 30 31 32\r\n"),
               std::string::npos);
     EXPECT_NE(t.find(rxlid + "\r\n"), std::string::npos);
 
