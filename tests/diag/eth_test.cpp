@@ -24,14 +24,11 @@ TEST_F(EthDiag, ReportsByteForByte) {
     model.poke(0x8112, 0x6558);
     mac().setReg(2, 22, 1u << 20);
     mac().setReg(1, 24, 1u << 5);
-    mac().setReg(2, 18, 1);
     expectReports({
         {[](char *b) { return getegmplsbase(kChip, 0, b); },
          framed("GetEgMplsBase()", " rdwBase    :    0x10002(65538)\n", kLSep)},
         {[](char *b) { return getmaclinkstat(kChip, 2, b); },
          framed("GetMACLinkStat()", " rdwLinkStat    :    0x1(1)\n")},
-        {[](char *b) { return getingvlanid(kChip, 4, 0, b); },
-         framed("GetIngVlanID()", " rdwVlanId    :    0x0(0)\n"), 0x03050001},
         {[](char *b) { return getpmugreglbattr(kChip, b); },
          "        GetPMUGreGlbAttr()\n"
          "    | byVer                    : 0x5       (5         ) \n"
@@ -57,10 +54,6 @@ TEST_F(EthDiag, ReportsByteForByte) {
          0x03050003},
         {[](char *b) { return cdk_getportworkmode(kChip, 1, b); },
          framed("GetPortWorkMode()", " reWorkMode    :    0x1(1)\n", kLSep)},
-        {[](char *b) { return cdk_getportpausemode(kChip, 2, b); },
-         framed("GetPortPauseMode()", " reFcMode    :    0x3(3)\n", kLSep)},
-        {[](char *b) { return cdk_getportlinkstatus(kChip, 2, 99, b); },
-         framed("GetPortLinkStatus()", " reLinkStatus    :    0x1(1)\n", kLSep)},
         {[](char *b) { return cdk_setportmaxpktlencfg(kChip, 0, 9000, b); },
          "        cdk_setportmaxpktlencfg() is OK\n"},
     });
