@@ -14,10 +14,6 @@ namespace {
 using CesCommands = DiagTest;
 
 TEST_F(CesCommands, ReportsByteForByte) {
-    model.poke(0x15000 + 2 * 9, 0x0001);
-    ASSERT_EQ(getceschanenable(kChip, 9, buf.data()), 0u);
-    EXPECT_EQ(text(), framed("GetCesChanEnable()", " rdwEnable    :    0x1(1)\n"));
-
     model.poke(0x15800 + 2 * 9, 0x1C7);  // clock select 7, 7 frames
     model.poke(0x15C00 + 2 * 9, 300);
     model.poke(0x15400 + 2 * 9, 150);

@@ -31,13 +31,6 @@ TEST_F(ChipDiag, ReportsByteForByte) {
          framed("GetVersion()", "n Ver:   VQ6192V0a1b DRV REL 2.5.600  \n  "), 0},
         {[](char *b) { return getchipstatus(kChip, b); },
          framed("GetChipStatus()", " byChipStatus    :    0x1(1)\n"), 0x03010007},
-        {[](char *b) { return gete3outclksel(kChip, b); },
-         framed("GetE3OutClkSel()", " reOutClkSel    :    0x0(0)\n"), 0},
-        {[](char *b) { return getmacclksel(kChip, b); },
-         kNSep +
-             "        GetMacClkSel()\n    0: CDK_FE_VQ6192_MAC_CLK_SERDES, 1: CDK_FE_VQ6192_MAC_CLK_PLL\n" +
-             kNSep + " reMacClkSel    :    0x0(0)\n" + kNSep,
-         0},
         {[](char *b) { return getclkdetectsel(kChip, b); },
          kNSep +
              "        GetClkDetectSel()\n    0: CDK_FE_VQ6192_CLK_DETECT_SERDES, 1: "

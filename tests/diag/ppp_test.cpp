@@ -30,10 +30,6 @@ TEST_F(PppDiagTest, SingleValueReports) {
         {[](char *b) { return getmpsnformat(kChip, 3, b); },
          framed("GetMpSnFormat()", " renSnFormatUp    :    0x1(1)\n renSnFormatDown    :    0x0(0)\n",
                 kLSep)},
-        {[](char *b) { return getmpctrltimeout(kChip, 3, b); },
-         framed("GetMpCtrlTimeOut()", " rwTimeOut    :    0x0(0)\n", kLSep)},
-        {[](char *b) { return getmpmcmap(kChip, 3, b); },
-         framed("GetMpMcMap()", " rdwMcQueNo    :    0x0(0)\n", kLSep)},
     });
 }
 
