@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <cstring>
 #include <string>
-#include <vector>
 
 #include "diag/diag_test.h"
 #include "vq6192/ces.h"

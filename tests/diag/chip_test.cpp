@@ -9,7 +9,6 @@
 namespace diagtest {
 namespace {
 
-using vq6192::sim::BusAccess;
 using vq6192::sim::ChipControlBlock;
 
 class ChipDiag : public DiagTest {
@@ -133,7 +132,7 @@ TEST_F(ChipDiag, WithoutABuffer) {
     });
     // The version comes from its two registers, nothing else.
     std::vector<uint32_t> addrs;
-    for (const BusAccess &a : traced([] { getversion(kChip, nullptr); })) {
+    for (const auto &a : traced([] { getversion(kChip, nullptr); })) {
         addrs.push_back(a.addr);
     }
     EXPECT_EQ(addrs, (std::vector<uint32_t>{0x00, 0x02}));

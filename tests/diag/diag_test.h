@@ -1,5 +1,4 @@
-// The diagnostic suite's fixture: a chip on the model, the 48128-byte buffer, and the layouts and
-// checks the command families share.
+// The diagnostic suite's fixture: a chip on the model, the 48128-byte buffer, the shared layouts and checks.
 #pragma once
 
 #include <functional>

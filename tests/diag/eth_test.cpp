@@ -144,10 +144,9 @@ TEST_F(EthDiag, SettersHandTheirArgumentsOverInOrder) {
 }
 
 TEST_F(EthDiag, TrailingZeroCount) {
-    const std::pair<uint32_t, uint32_t> cases[] = {{0, 0}, {1, 0}, {8, 3}, {0x80000000u, 31}, {0x60, 5}};
-    for (const auto &[x, n] : cases) {
-        EXPECT_EQ(COUNT_ZERO_NUM(x), n) << x;
-    }
+    EXPECT_EQ(ints(COUNT_ZERO_NUM(0), COUNT_ZERO_NUM(1), COUNT_ZERO_NUM(8), COUNT_ZERO_NUM(0x80000000u),
+                   COUNT_ZERO_NUM(0x60)),
+              ints(0, 0, 3, 31, 5));
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // Diagnostic commands of the SDH and telecom bus family: reports byte for byte, statuses, help blocks.
-#include <cstring>
+#include <cstdio>
 #include <map>
 #include <set>
 #include <string>
