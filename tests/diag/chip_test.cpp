@@ -21,10 +21,8 @@ TEST_F(ChipDiag, ReportsByteForByte) {
     control().setNonInvertingBits(0x0100);  // the register test fails
     model.poke(0x240, 0x7FFD);              // E3 output clock bit 1 = 0, MAC clock bit 15 = 0, the rest set
     model.poke(0x6A, 0xFFE9);               // PLL 2: bits 5, 4, 3, 2, 0 = 1, 0, 1, 0, 1
-    const uint16_t counts[9] = {1, 0x22, 0x333, 0x4444, 5, 6, 7, 8, 0xFFFF};
-    for (uint32_t k = 0; k < 9; ++k) {
-        model.poke(0xC128 + 8 * k, counts[k]);
-    }
+    poke({{0xC128, 1}, {0xC130, 0x22}, {0xC138, 0x333}, {0xC140, 0x4444}, {0xC148, 5}, {0xC150, 6}});
+    poke({{0xC158, 7}, {0xC160, 8}, {0xC168, 0xFFFF}});
     expectReports({
         {[](char *b) { return getversion(kChip, b); },
          framed("GetVersion()", "n Ver:   VQ6192V0a1b DRV REL 2.5.600  \n  "), 0},

@@ -94,13 +94,12 @@ TEST_F(EthDiag, ProtocolPairsAndPacketReports) {
 }
 
 TEST_F(EthDiag, SettersHandTheirArgumentsOverInOrder) {
-    struct Case {
+    const struct {
         const char *name;
         std::function<uint32_t(char *)> cmd;
         uint32_t addr;
         uint16_t value;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"setpmuudpsport", [](char *b) { return setpmuudpsport(kChip, 0xC001, b); }, 0x8124, 0xC001},
         {"setegmplsbase", [](char *b) { return setegmplsbase(kChip, 1, 2000, b); }, 0x8204, 2000},
         {"seteth1wrrweight", [](char *b) { return seteth1wrrweight(kChip, 2, 0x33, b); }, 0x80BC, 0x3300},
@@ -113,7 +112,7 @@ TEST_F(EthDiag, SettersHandTheirArgumentsOverInOrder) {
         {"setpmuipglbattr", [](char *b) { return setpmuipglbattr(kChip, 4, 5, 0x1234, 2, 7, 0x0A000001, b); },
          0x8128, 0x1234},
     };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         SCOPED_TRACE(c.name);
         EXPECT_EQ(run(c.cmd), std::string("        ") + c.name + "() OK\n");
         EXPECT_EQ(model.peek(c.addr), c.value);

@@ -69,6 +69,10 @@ TEST_F(FramerDiag, ValueReportsByteForByte) {
          0},
         {[](ChipModel &m) { m.poke(0x20008, 0xC321); }, [](char *b) { return getrfpdelay(kChip, b); },
          framed("GetRfpDelay()", " rwDelayNum    :    0x4321(17185)\n"), 0},
+        // The mapper engine's error insertion (0x20400: rate 3..0, enable 5) prints the timeslot engine's
+        // title.
+        {[](ChipModel &m) { m.poke(0x20400, 0xFFCA); }, [](char *b) { return getprbserrinsert(kChip, b); },
+         framed("GetTsPRBSIns()", " reInsRate    :    0xa(10)\n reInsEnable    :    0x0(0)\n"), 0},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.expected.substr(kNSep.size(), 40));
@@ -100,6 +104,15 @@ TEST_F(FramerDiag, RecordReports) {
               rec("ucH1", 106) + rec("ucY_1", 155) + rec("ucY_2", 155) + rec("ucH2", 10) + rec("ucF_1", 195) +
                   rec("ucH3_1", 126) + rec("ucH3_2", 126) + "     PRINT_END\n");
 
+    // E3/T3 framer 2 counters: P = 0x29486 and Q = 0x29606, five words each; the labels end in ';'.
+    poke({{0x29486, 1}, {0x29488, 2}, {0x2948A, 3}, {0x2948C, 4}, {0x2948E, 0xFFFF}});
+    poke({{0x29606, 6}, {0x29608, 7}, {0x2960A, 8}, {0x2960C, 9}, {0x2960E, 10}});
+    EXPECT_EQ(run([](char *b) { return gett3errorstat(kChip, 2, b); }),
+              rec("usAT3Ferrcnt;", 1) + rec("usAT3Merrcnt;", 2) + rec("usAT3Pcnt;", 3) +
+                  rec("usAT3Cpcnt;", 4) + rec("usAT3Febecnt;", 65535) + rec("usDT3Ferrcnt;", 6) +
+                  rec("usDT3Merrcnt;", 7) + rec("usDT3Pcnt;", 8) + rec("usDT3Cpcnt;", 9) +
+                  rec("usDT3Febecnt;", 10) + "     PRINT_END\n");
+
     // A refused framer: zeros, and the refusal returned whole.
     uint32_t rc = 0;
     const std::string text = run([](char *b) { return getfrmet3alms(kChip, 12, b); }, &rc);
@@ -128,20 +141,11 @@ TEST_F(FramerDiag, PrbsTimeslotListing) {
                              "      3        331        300    0x80000000\n" + kRule + e3Head +
                              "      3          7\n" + kRule;  // E3 row n reads source n of the E1/T1 tables
     setEntry(kEgressTable, 7, 1, 0x7800);                     // the directions now disagree on E1 7
-    const struct {
-        uint32_t dir;
-        std::string expected;
-        uint32_t status;
-    } cases[] = {
-        {0, both, 0},
-        {2, e1Head + "      3        331        300    0x80000000\n" + kRule + e3Head + kRule, 0x030E0007},
-    };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.dir);
-        uint32_t rc = 1;
-        EXPECT_EQ(run([&](char *b) { return getprbsts(kChip, c.dir, b); }, &rc), c.expected);
-        EXPECT_EQ(rc, c.status);
-    }
+    expectReports({
+        {[](char *b) { return getprbsts(kChip, 0, b); }, both},
+        {[](char *b) { return getprbsts(kChip, 2, b); },
+         e1Head + "      3        331        300    0x80000000\n" + kRule + e3Head + kRule, 0x030E0007},
+    });
 }
 
 TEST_F(FramerDiag, WithoutABuffer) {
