@@ -19,7 +19,7 @@ class ChipDiag : public DiagTest {
 TEST_F(ChipDiag, ReportsByteForByte) {
     control().setVersion(0x6192, 0x0A1B);
     control().setNonInvertingBits(0x0100);  // the register test fails
-    model.poke(0x240, 0x7FFD);              // E3 output clock bit 1 = 0, MAC clock bit 15 = 0, the rest set
+    model.poke(0x240, 0x7FFD);              // clock detection bit 0 = 1; bits 1 and 15 clear, the rest set
     model.poke(0x6A, 0xFFE9);               // PLL 2: bits 5, 4, 3, 2, 0 = 1, 0, 1, 0, 1
     poke({{0xC128, 1}, {0xC130, 0x22}, {0xC138, 0x333}, {0xC140, 0x4444}, {0xC148, 5}, {0xC150, 6}});
     poke({{0xC158, 7}, {0xC160, 8}, {0xC168, 0xFFFF}});
