@@ -1,5 +1,5 @@
-// ATM diagnostic commands: their text byte for byte, the listings of the host's shadows, the null
-// buffer, and the bound at the end of the 48128-byte buffer.
+// ATM diagnostic commands: their text, the host's shadow listings, the null buffer and the buffer's end.
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -15,15 +15,9 @@ namespace {
 class AtmDiagTest : public DiagTest {
   protected:
     void TearDown() override {
-        for (ATM_CONN_DATA &r : g_conndata) {
-            r = ATM_CONN_DATA{};
-        }
-        for (ATM_PORT_DATA &r : g_atmportdata) {
-            r = ATM_PORT_DATA{};
-        }
-        for (ATM_BM_TEMPLATE_DATA &r : g_bmtemplatedata) {
-            r = ATM_BM_TEMPLATE_DATA{};
-        }
+        std::fill(std::begin(g_conndata), std::end(g_conndata), ATM_CONN_DATA{});
+        std::fill(std::begin(g_atmportdata), std::end(g_atmportdata), ATM_PORT_DATA{});
+        std::fill(std::begin(g_bmtemplatedata), std::end(g_bmtemplatedata), ATM_BM_TEMPLATE_DATA{});
         ChipTest::TearDown();
     }
 };
@@ -34,42 +28,51 @@ ATM_SRV_CONN egress() {
     return ATM_SRV_CONN{11, 1, 1, 2000, 1, 100, 12, 2, 200, 3, 0, 40, 8, 0, 1, 0, 0, 5};
 }
 
-TEST_F(AtmDiagTest, FramedValues) {
-    ASSERT_EQ(getatmvcx(kChip, 5, 1, buf.data()), 0u);
-    EXPECT_EQ(text(), framed("GetAtmVcx()", " wVCX    :    0xb(11)\n", kLSep));
-
-    EXPECT_EQ(getatmvcx(kChip, 4096, 1, buf.data()), 0x03020001u)
-        << "the operation's status, text still printed";
-    EXPECT_EQ(text(), framed("GetAtmVcx()", " wVCX    :    0x0(0)\n", kLSep));
-    EXPECT_EQ(getatmccsrcstat(kChip, 8193, buf.data()), 0x03020001u);
-    EXPECT_EQ(text(),
-              framed("GetAtmCcSrcStat()", " wSrcTimer    :    0x0(0)\n wTtcc    :    0x0(0)\n", kLSep));
-
-    const uint32_t th[3] = {0x100, 0x80, 0x7FFFF};
-    ASSERT_EQ(VQ6192_ATM_AddAtmTransConn(kChip, 9, 99, th), 0u);
-    ASSERT_EQ(getatmtransfifo(kChip, 9, buf.data()), 0u);
-    EXPECT_EQ(text(), framed("GetAtmTransFiFo()",
-                             " dwBmPause    :    0x100(256)\n"
-                             " dwBmCancel    :    0x80(128)\n"
-                             " dwBmFifoDrop    :    0x7ffff(524287)\n",
-                             kLSep));
-    ASSERT_EQ(VQ6192_ATM_SetOamSegEnd(kChip, 3, 3), 0u);
-    ASSERT_EQ(getoamsegend(kChip, 3, buf.data()), 0u);
-    EXPECT_EQ(text(), framed("GetOamSegEnd()", " renSegEndType    :    0x3(3)\n", kLSep));
+// An ATM table entry by select code, low 16-bit halves first.
+void setAtmEntry(vq6192::sim::ChipModel &m, uint32_t sel, uint32_t index,
+                 std::initializer_list<uint16_t> halves) {
+    vq6192::sim::TableEngine::Entry e{};
+    size_t k = 0;
+    for (uint16_t h : halves) {
+        e[k++] = h;
+    }
+    m.tables().setEntry(0x5000, sel, index, e);
 }
 
-TEST_F(AtmDiagTest, ConnectionRowFromTheChip) {
-    const ATM_SRV_CONN c = egress();
-    ASSERT_EQ(VQ6192_ATM_AddAtmSrvConn(kChip, &c), 0u);
-    ASSERT_EQ(getatmsrvconn(kChip, 11, buf.data()), 0u);
-    const std::string stars(128, '*');
-    EXPECT_EQ(text(),
-              stars + "\n" +
-                  "| Wcx| Tag| cType| SrcPort| SrcVpi| SrcVci| DstPort| DstVpi| DstVci| Stype| UpcNpc| "
-                  "PolicingId|   Qid| Clpt|  Fd| Pfd| Red| idx|\n"
-                  "|  11|   1|     1|    2000|      1|    100|      12|      2|    200|     3|      0|"
-                  "         40|     8|    0|   1|   0|   0|   5| \n" +
-                  stars + "\n");
+TEST_F(AtmDiagTest, ReportsByteForByte) {
+    uint8_t id[16] = {0xA, 1};
+    ASSERT_EQ(VQ6192_ATM_SetOamLLID(kChip, id), 0u);
+    std::string ids = "byllid[0]=0xa     byllid[1]=0x1     ";
+    for (int i = 2; i < 16; ++i) {
+        ids += "byllid[" + std::to_string(i) + "]=0x0     ";
+    }
+    auto &atm = model.block<vq6192::sim::AtmBlock>();
+    atm.pushVcx(8191);
+    atm.setCcloc(5, true);
+    atm.setCcloc(8191, true);
+    g_conndata[11].stConn = egress();
+    g_conndata[11].ulUsed = 1;
+    setAtmEntry(model, 18, 11, {0x0007});          // 7 cells dropped by connection 11
+    setAtmEntry(model, 20, 12, {0x0009});          // 9 by transparent port 12
+    setAtmEntry(model, 34, 5, {0x0003});           // PW 5: 3 packets sent
+    setAtmEntry(model, 36, 5, {0, 0, 0, 0x0004});  // 4 received
+    setAtmEntry(model, 34, 2047, {0x0001});
+    model.block<vq6192::sim::AtmPwe3Block>().queuePacket({0x01, 0xAB, 0x00, 0xFF, 0x10});
+    expectReports({
+        {[](char *b) { return getoamllid(kChip, b); }, framed("GetOamLLID()", ids + "\n", kLSep)},
+        {[](char *b) { return getoamvcxfifo(kChip, b); }, "OAM report VCX is 8191\n"},
+        {[](char *b) { return getcclocall(kChip, b); },
+         "VCX=       5            CCLOC=       1\nVCX=    8191            CCLOC=       1\n"},
+        {[](char *b) { return getdropall(kChip, b); },
+         "Statistics about packets discarded by VCX:  \n"
+         "VCX=  11,       DropCell=   7        SerType=   3          wImaPort=  12\n"
+         "dwDropAll = 7\nStatistics about packets discarded by VCX: \nPort=12,       DropCell=9\n"},
+        {[](char *b) { return getatmpwe3statall(kChip, b); },
+         "Pwe3Port=   5             Pwe3Tx =    3             Pwe3Rx =    4\n"
+         "Pwe3Port=2047             Pwe3Tx =    1             Pwe3Rx =    0\n"},
+        {[](char *b) { return getatmpwe3capcell(kChip, 5, 1, b); }, " pbyCell    :   \n01ab00ff10"},
+        {[](char *b) { return captureatmcell(kChip, 0, 1, 0, 0, 0, b); }, "capture is error!\n", 0x03020001},
+    });
 }
 
 TEST_F(AtmDiagTest, ShadowListings) {
@@ -105,9 +108,7 @@ TEST_F(AtmDiagTest, ShadowListings) {
     EXPECT_EQ(big[VQ6192_DIAG_BUF_SIZE], '#');
 }
 
-TEST_F(AtmDiagTest, OamReports) {
-    ASSERT_EQ(getoamcell(kChip, buf.data()), 0x03020001u);
-    EXPECT_EQ(text(), "OAM cells are not reported or a read error occurs.\n");
+TEST_F(AtmDiagTest, OamCellAndPseudowireRecords) {
     std::array<uint8_t, 53> cell{};
     cell[52] = 0xAB;
     model.block<vq6192::sim::AtmBlock>().reportCell(42, cell);
@@ -116,74 +117,20 @@ TEST_F(AtmDiagTest, OamReports) {
     EXPECT_EQ(out.substr(0, 18), "VCX=42\ncell[0]=0x0");
     EXPECT_EQ(out.substr(out.size() - 14), "cell[52]=0xab\n");
 
-    uint8_t id[16] = {0xA, 1};
-    ASSERT_EQ(VQ6192_ATM_SetOamLLID(kChip, id), 0u);
-    ASSERT_EQ(getoamllid(kChip, buf.data()), 0u);
-    std::string ids = "byllid[0]=0xa     byllid[1]=0x1     ";
-    for (int i = 2; i < 16; ++i) {
-        ids += "byllid[" + std::to_string(i) + "]=0x0     ";
-    }
-    EXPECT_EQ(text(), framed("GetOamLLID()", ids + "\n", kLSep));
+    setAtmEntry(model, 34, 6, {0x0001, 0, 0, 0, 0x0040});  // 1 packet, previous sequence number 1
+    ASSERT_EQ(getatmpwe3per(kChip, 6, buf.data()), 0u);
+    const std::string first = "Sequence number of the previous packet in the upstream direction : 0x1(1)\n";
+    EXPECT_EQ(text().substr(0, first.size()), first);
 
-    model.block<vq6192::sim::AtmBlock>().pushVcx(8191);
-    ASSERT_EQ(getoamvcxfifo(kChip, buf.data()), 0u);
-    EXPECT_EQ(text(), "OAM report VCX is 8191\n");
-
-    model.block<vq6192::sim::AtmBlock>().setCcloc(5, true);
-    model.block<vq6192::sim::AtmBlock>().setCcloc(8191, true);
-    ASSERT_EQ(getcclocall(kChip, buf.data()), 0u);
-    EXPECT_EQ(text(),
-              "VCX=       5            CCLOC=       1\n"
-              "VCX=    8191            CCLOC=       1\n");
-}
-
-TEST_F(AtmDiagTest, EveryCommandRefusesANullBuffer) {
-    for (const vq::diag::Command &c : vq::diag::atmCommands()) {
-        SCOPED_TRACE(c.name);
-        std::vector<vq::diag::ArgValue> args(c.argc);
-        args[0].u32 = kChip;
-        model.clearTrace();
-        model.setTrace(true);
-        EXPECT_EQ(c.invoke(args.data(), nullptr), 2u);
-        EXPECT_TRUE(model.trace().empty());
-    }
-}
-
-// An ATM table entry by select code, low 16-bit halves first.
-void setAtmEntry(vq6192::sim::ChipModel &m, uint32_t sel, uint32_t index,
-                 std::initializer_list<uint16_t> halves) {
-    vq6192::sim::TableEngine::Entry e{};
-    size_t k = 0;
-    for (uint16_t h : halves) {
-        e[k++] = h;
-    }
-    m.tables().setEntry(0x5000, sel, index, e);
+    model.poke(0xA6C2, 1);
+    ASSERT_EQ(getpw3fifostats(kChip, buf.data()), 0u);
+    const std::string fifo = text();
+    EXPECT_NE(fifo.find(" byPwe3rxEthfifoEmpH    :    0x0(0)\n"), std::string::npos);
+    EXPECT_NE(fifo.find(" byPwe3TxfifoOverrun    :    0x1(1)\n" + kLSep), std::string::npos);
 }
 
 TEST_F(AtmDiagTest, CounterReports) {
     model.block<vq6192::sim::AtmPwe3Block>().setReadClear(true);
-    setAtmEntry(model, 6, 7, {0x0005, 0, 0x0010, 0});  // line port 7: 5 sent, 16 received
-    ASSERT_EQ(getatmportstat(kChip, 7, 0, buf.data()), 0u);
-    EXPECT_EQ(text(), framed("GetAtmPortStat()",
-                             " dwRcc    :    0x10(16)\n"
-                             " dwTcc    :    0x5(5)\n",
-                             kLSep));
-    EXPECT_EQ(getatmportstat(kChip, 2048, 1, buf.data()), 0x03020001u);
-
-    for (uint32_t k = 0; k < 21; ++k) {
-        const uint32_t regs[21] = {0xA400, 0xA402, 0xA404, 0xA406, 0xA416, 0xA418, 0xA40A,
-                                   0xA40C, 0xA40E, 0xA410, 0xA412, 0xA408, 0xA41A, 0xA268,
-                                   0xA26A, 0xA2C8, 0xA2C6, 0xA2C4, 0xA2C2, 0xA2F2, 0xA2F4};
-        model.poke(regs[k], static_cast<uint16_t>(k + 1));
-    }
-    ASSERT_EQ(getatmdropstat(kChip, buf.data()), 0u);
-    const std::string drop = text();
-    EXPECT_EQ(drop.substr(0, 31), "    GetAtmDropStat()\n    | wRed");
-    EXPECT_NE(drop.find("    | wRedDrop         :        1 | wFdDrop          :        2 | wPfdDrop         "
-                        ":        3 \n"),
-              std::string::npos);
-    EXPECT_NE(drop.find("       20 | wNoVldTx         :       21 \n    PRINT_END\n"), std::string::npos);
-
     setAtmEntry(model, 2, 9, {0x0002});  // connection 9: 2 sent
     setAtmEntry(model, 1, 9, {0x0003});  // 3 received
     setAtmEntry(model, 2, 8191, {0xFFFF, 0x0001});
@@ -196,56 +143,7 @@ TEST_F(AtmDiagTest, CounterReports) {
     EXPECT_EQ(text(), "dwTTccAll=0\ndwTRccAll=0\ndwVcxNum=0\n") << "counters cleared by the first listing";
 }
 
-TEST_F(AtmDiagTest, DropListings) {
-    g_conndata[11].stConn = egress();
-    g_conndata[11].ulUsed = 1;
-    setAtmEntry(model, 18, 11, {0x0007});  // 7 cells dropped by connection 11
-    setAtmEntry(model, 20, 12, {0x0009});  // 9 by transparent port 12
-    ASSERT_EQ(getdropall(kChip, buf.data()), 0u);
-    EXPECT_EQ(text(),
-              "Statistics about packets discarded by VCX:  \n"
-              "VCX=  11,       DropCell=   7        SerType=   3          wImaPort=  12\n"
-              "dwDropAll = 7\n"
-              "Statistics about packets discarded by VCX: \n"
-              "Port=12,       DropCell=9\n");
-}
-
-TEST_F(AtmDiagTest, PseudowireReports) {
-    setAtmEntry(model, 34, 5, {0x0003});           // PW 5: 3 packets sent
-    setAtmEntry(model, 36, 5, {0, 0, 0, 0x0004});  // 4 received
-    setAtmEntry(model, 34, 2047, {0x0001});
-    ASSERT_EQ(getatmpwe3statall(kChip, buf.data()), 0u);
-    EXPECT_EQ(text(),
-              "Pwe3Port=   5             Pwe3Tx =    3             Pwe3Rx =    4\n"
-              "Pwe3Port=2047             Pwe3Tx =    1             Pwe3Rx =    0\n");
-
-    setAtmEntry(model, 34, 6, {0x0001, 0, 0, 0, 0x0040});  // 1 packet, previous sequence number 1
-    ASSERT_EQ(getatmpwe3per(kChip, 6, buf.data()), 0u);
-    const std::string first = "Sequence number of the previous packet in the upstream direction : 0x1(1)\n";
-    EXPECT_EQ(text().substr(0, first.size()), first);
-
-    ASSERT_EQ(VQ6192_ATM_SetPwEnable(kChip, 4, 1), 0u);
-    ASSERT_EQ(getpwenable(kChip, 4, buf.data()), 0u);
-    EXPECT_EQ(text(), framed("GetPwEnable()", " byPwEnable    :    0x1(1)\n", kLSep));
-    model.poke(0xA2E8, 32);
-    ASSERT_EQ(getsendpwe3time(kChip, buf.data()), 0u);
-    EXPECT_EQ(text(), framed("GetSendPwe3Time()", " wTime    :    0x20(32)\n", kLSep));
-
-    model.poke(0xA6C2, 1);
-    ASSERT_EQ(getpw3fifostats(kChip, buf.data()), 0u);
-    const std::string fifo = text();
-    EXPECT_NE(fifo.find(" byPwe3rxEthfifoEmpH    :    0x0(0)\n"), std::string::npos);
-    EXPECT_NE(fifo.find(" byPwe3TxfifoOverrun    :    0x1(1)\n" + kLSep), std::string::npos);
-
-    auto &pwe3 = model.block<vq6192::sim::AtmPwe3Block>();
-    pwe3.queuePacket({0x01, 0xAB, 0x00, 0xFF, 0x10});
-    ASSERT_EQ(getatmpwe3capcell(kChip, 5, 1, buf.data()), 0u);
-    EXPECT_EQ(text(), " pbyCell    :   \n01ab00ff10");
-}
-
 TEST_F(AtmDiagTest, CellCaptureReport) {
-    ASSERT_EQ(captureatmcell(kChip, 0, 1, 0, 0, 0, buf.data()), 0x03020001u);
-    EXPECT_EQ(text(), "capture is error!\n");
     vq6192::sim::AtmPwe3Block::Cell cell{};
     cell[0] = 0xA;
     cell[63] = 0xFF;
@@ -261,23 +159,16 @@ TEST_F(AtmDiagTest, CellCaptureReport) {
     EXPECT_EQ(text(), expect);
 }
 
-TEST_F(AtmDiagTest, NewCommandsRefuseAMissingBuffer) {
-    using Call = uint32_t (*)(uint32_t);
-    const Call calls[] = {
-        [](uint32_t c) { return getatmportstat(c, 0, 0, nullptr); },
-        [](uint32_t c) { return getatmdropstat(c, nullptr); },
-        [](uint32_t c) { return getdropall(c, nullptr); },
-        [](uint32_t c) { return captureatmcell(c, 0, 0, 0, 0, 0, nullptr); },
-        [](uint32_t c) { return getatmpwe3perall(c, nullptr); },
-        [](uint32_t c) { return getatmpwe3capcell(c, 0, 0, nullptr); },
-        [](uint32_t c) { return getpw3fifostats(c, nullptr); },
-        [](uint32_t c) { return getpwpritemplate(c, 0, 1, nullptr); },
-    };
-    model.clearTrace();
-    for (Call call : calls) {
-        EXPECT_EQ(call(kChip), 2u);
+TEST_F(AtmDiagTest, EveryCommandRefusesANullBuffer) {
+    for (const vq::diag::Command &c : vq::diag::atmCommands()) {
+        SCOPED_TRACE(c.name);
+        std::vector<vq::diag::ArgValue> args(c.argc);
+        args[0].u32 = kChip;
+        model.clearTrace();
+        model.setTrace(true);
+        EXPECT_EQ(c.invoke(args.data(), nullptr), 2u);
+        EXPECT_TRUE(model.trace().empty());
     }
-    EXPECT_TRUE(model.trace().empty());
 }
 
 }  // namespace

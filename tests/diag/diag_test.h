@@ -1,5 +1,4 @@
-// The diagnostic suite's fixture: a chip on the model, the 48128-byte buffer, and the layouts and
-// checks the command families share.
+// The diagnostic suite's fixture: a chip on the model, the 48128-byte buffer, the shared layouts and checks.
 #pragma once
 
 #include <functional>
@@ -26,6 +25,13 @@ std::vector<int> ints(T... v) {
     return {static_cast<int>(v)...};
 }
 
+// A report: the command run into the buffer, the exact text and status it gives.
+struct Report {
+    std::function<uint32_t(char *)> cmd;
+    std::string expected;
+    uint32_t status = 0;
+};
+
 // A command called without a buffer: the status it returns, and whether it still queries the chip.
 struct Unbuffered {
     const char *what;
@@ -47,6 +53,15 @@ class DiagTest : public vqtest::ChipTest {
             *status = rc;
         }
         return buf.data();
+    }
+
+    void expectReports(const std::vector<Report> &rows) {
+        for (const Report &r : rows) {
+            SCOPED_TRACE(r.expected.substr(0, 80));
+            uint32_t rc = 1;
+            EXPECT_EQ(run(r.cmd, &rc), r.expected);
+            EXPECT_EQ(rc, r.status);
+        }
     }
 
     void expectUnbuffered(const std::vector<Unbuffered> &cases) {

@@ -18,10 +18,21 @@ namespace {
 class DiagRegistry : public vqtest::ChipTest {
   protected:
     void TearDown() override {
-        for (ATM_CONN_DATA &r : g_conndata) {
-            r = ATM_CONN_DATA{};
-        }
+        std::fill(std::begin(g_conndata), std::end(g_conndata), ATM_CONN_DATA{});
         ChipTest::TearDown();
+    }
+    // A command's arguments: the chip first, the others zero, arrays at their shortest.
+    static std::vector<vq::diag::ArgValue> argsOf(const vq::diag::Command &cmd, uint32_t chip) {
+        std::vector<vq::diag::ArgValue> args(cmd.argc);
+        for (size_t k = 0; k < args.size(); ++k) {
+            args[k].kind = cmd.kinds[k];
+            args[k].bytes.resize(vq::diag::kMinArrayElems);
+            args[k].u16.resize(vq::diag::kMinArrayElems);
+        }
+        if (!args.empty()) {
+            args[0].u32 = chip;
+        }
+        return args;
     }
 };
 
@@ -39,15 +50,7 @@ TEST_F(DiagRegistry, EveryCommandHasHelpAndStaysInsideTheBuffer) {
     for (const vq::diag::Command &cmd : vq::diag::commands()) {
         SCOPED_TRACE(cmd.name);
         EXPECT_NE(std::string(cmd.help), "");
-        std::vector<vq::diag::ArgValue> args(cmd.argc);
-        for (size_t k = 0; k < args.size(); ++k) {
-            args[k].kind = cmd.kinds[k];
-            args[k].bytes.resize(vq::diag::kMinArrayElems);
-            args[k].u16.resize(vq::diag::kMinArrayElems);
-        }
-        if (!args.empty()) {
-            args[0].u32 = kChip;
-        }
+        std::vector<vq::diag::ArgValue> args = argsOf(cmd, kChip);
         std::vector<char> buf(VQ6192_DIAG_BUF_SIZE + kGuard, '#');
         cmd.invoke(args.data(), buf.data());
         if (buf[0] == '#') {
@@ -64,10 +67,6 @@ TEST_F(DiagRegistry, EveryCommandHasHelpAndStaysInsideTheBuffer) {
                                              "DbgGetMpconfig", "DbgGetCapPktMatchCapture",
                                              "DbgGetCesChannelInfo", "DbgGetCesRtpParam"}));
 }
-
-}  // namespace
-
-namespace {
 
 // A command on a chip that is not there: the reads are refused, and whatever the report shows of them
 // is 0, never a value the command made up or left over. Reports may name the refusal's status (chip
@@ -88,13 +87,7 @@ TEST_F(DiagRegistry, ChipAbove263ShowsOnlyZeros) {
         if (cmd.argc == 0 || std::string(cmd.module) == "DUMP" || std::string(cmd.name) == "getprbsts") {
             continue;
         }
-        std::vector<vq::diag::ArgValue> args(cmd.argc);
-        for (size_t k = 0; k < args.size(); ++k) {
-            args[k].kind = cmd.kinds[k];
-            args[k].bytes.resize(vq::diag::kMinArrayElems);
-            args[k].u16.resize(vq::diag::kMinArrayElems);
-        }
-        args[0].u32 = 264;
+        std::vector<vq::diag::ArgValue> args = argsOf(cmd, 264);
         std::vector<char> buf(VQ6192_DIAG_BUF_SIZE, '\0');
         cmd.invoke(args.data(), buf.data());
         if (showsValue(buf.data())) {
