@@ -34,6 +34,11 @@ TEST_F(ChipDiag, ReportsByteForByte) {
              "CDK_FE_VQ6192_CLK_DETECT_HW\n" +
              kNSep + " reClkDetectSel    :    0x1(1)\n" + kNSep,
          0},
+        {[](char *b) { return getmacclksel(kChip, b); },
+         kNSep +
+             "        GetMacClkSel()\n    0: CDK_FE_VQ6192_MAC_CLK_SERDES, 1: CDK_FE_VQ6192_MAC_CLK_PLL\n" +
+             kNSep + " reMacClkSel    :    0x0(0)\n" + kNSep,
+         0},
         {[](char *b) { return getpllpowerdown(kChip, 2, b); },
          "        GetPLLPowerDown()\n"
          "    | wSysPllVcoPd     : 0x1       (1         ) \n"
