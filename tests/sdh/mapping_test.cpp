@@ -218,16 +218,14 @@ TEST_F(SdhMapTest, T1StructuresPulseTheSlotsChannelResets) {
 
 TEST_F(SdhMapTest, LineModeAndRefusals) {
     model.poke(0x20006, 0xABCE);
-    ASSERT_EQ(VQ6192_SDH_SetSDHSonetMode(kChip, 1), 0u);
-    EXPECT_EQ(model.peek(0x20006), 0xABCF) << "bits 15..1 kept";
     uint8_t mode = 0;
-    ASSERT_EQ(VQ6192_SDH_GetSDHSonetMode(kChip, &mode), 0u);
-    EXPECT_EQ(mode, 1);
-
+    EXPECT_EQ((Ints{VQ6192_SDH_SetSDHSonetMode(kChip, 1), model.peek(0x20006),
+                    VQ6192_SDH_GetSDHSonetMode(kChip, &mode), mode}),
+              ints(0, 0xABCF, 0, 1))
+        << "bits 15..1 kept";
     uint8_t out = 0;
     expectRefused({
         {"line mode 2", [] { return VQ6192_SDH_SetSDHSonetMode(3, 2); }},
-        {"line mode null", [] { return VQ6192_SDH_GetSDHSonetMode(3, nullptr); }},
         {"vc4 4", [] { return VQ6192_SDH_SetSDHMap(3, 4, 0, 6); }},
         {"au3 3", [] { return VQ6192_SDH_SetSDHMap(3, 0, 3, 6); }},
         {"type 14", [] { return VQ6192_SDH_SetSDHMap(3, 0, 0, 14); }},
@@ -239,64 +237,55 @@ TEST_F(SdhMapTest, LineModeAndRefusals) {
 }
 
 TEST_F(SdhMapTest, LoopPoints) {
-    struct Case {
-        uint32_t point, vc4, au3;
-        uint32_t regA, bitA, regB, bitB;  // regB 0: no bit B
-    };
-    const Case cases[] = {
+    // Point, slot, and the register bits of loop mode 1 (A) and 2 (B; regB 0: point 0 has no mode 2).
+    const struct {
+        uint32_t point, vc4, au3, regA, bitA, regB, bitB;
+    } cases[] = {
         {0, 9, 9, 0x2C00A, 0, 0, 0},
         {1, 2, 1, 0x26000, 7, 0x26002, 7},
         {2, 9, 9, 0x2A020, 1, 0x2A020, 0},
         {3, 3, 2, 0x29296 + 0x10 * 11, 2, 0x29296 + 0x10 * 11, 3},
         {4, 1, 0, 0x2B604 + 0x20 * 3, 0, 0x2B606 + 0x20 * 3, 0},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(testing::Message() << "loop point " << c.point);
+    for (const auto &c : cases) {
+        // Points 0 and 2 ignore the slot when set; the getter checks it for every point.
+        const uint32_t vc4 = c.vc4 > 3 ? 0 : c.vc4, au3 = c.au3 > 2 ? 0 : c.au3;
         for (uint32_t mode = 0; mode < 3; ++mode) {
+            uint8_t state = 9;
             if (c.regB == 0 && mode == 2) {
                 EXPECT_EQ(VQ6192_SDH_SetSDHLoop(kChip, c.point, c.vc4, c.au3, 2), kParaErr);
                 continue;
             }
-            ASSERT_EQ(VQ6192_SDH_SetSDHLoop(kChip, c.point, c.vc4, c.au3, mode), 0u);
-            EXPECT_EQ((model.peek(c.regA) >> c.bitA) & 1, mode == 1 ? 1 : 0);
-            if (c.regB != 0) {
-                EXPECT_EQ((model.peek(c.regB) >> c.bitB) & 1, mode == 2 ? 1 : 0);
-            }
-            uint8_t state = 9;
-            // The getter checks the slot for every point.
-            const uint32_t vc4 = c.vc4 > 3 ? 0 : c.vc4;
-            const uint32_t au3 = c.au3 > 2 ? 0 : c.au3;
-            ASSERT_EQ(VQ6192_SDH_GetSDHLoop(kChip, c.point, vc4, au3, &state), 0u);
-            EXPECT_EQ(state, mode);
+            EXPECT_EQ((Ints{VQ6192_SDH_SetSDHLoop(kChip, c.point, c.vc4, c.au3, mode),
+                            (model.peek(c.regA) >> c.bitA) & 1,
+                            c.regB == 0 ? 0 : (model.peek(c.regB) >> c.bitB) & 1,
+                            VQ6192_SDH_GetSDHLoop(kChip, c.point, vc4, au3, &state), state}),
+                      ints(0, mode == 1, mode == 2, 0, mode))
+                << "point " << c.point << " mode " << mode;
         }
     }
     uint8_t state = 0;
-    EXPECT_EQ(VQ6192_SDH_GetSDHLoop(kChip, 2, 9, 0, &state), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHLoop(kChip, 5, 0, 0, 0), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHLoop(kChip, 1, 0, 0, 3), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetSDHLoop(kChip, 3, 4, 0, 1), kParaErr);
+    EXPECT_EQ((Ints{VQ6192_SDH_GetSDHLoop(kChip, 2, 9, 0, &state), VQ6192_SDH_SetSDHLoop(kChip, 5, 0, 0, 0),
+                    VQ6192_SDH_SetSDHLoop(kChip, 1, 0, 0, 3), VQ6192_SDH_SetSDHLoop(kChip, 3, 4, 0, 1)}),
+              ints(kParaErr, kParaErr, kParaErr, kParaErr));
     // Both bits set by hand read as 3.
     model.poke(0x26000, 1);
     model.poke(0x26002, 1);
-    ASSERT_EQ(VQ6192_SDH_GetSDHLoop(kChip, 1, 0, 0, &state), 0u);
-    EXPECT_EQ(state, 3);
+    EXPECT_EQ((Ints{VQ6192_SDH_GetSDHLoop(kChip, 1, 0, 0, &state), state}), ints(0, 3));
 }
 
 TEST_F(SdhMapTest, MapLoopConfigurationAndDs3FifoReset) {
     model.poke(0x2DCBC, 0x07FF);
-    ASSERT_EQ(VQ6192_SDH_SetMapLoopCfg(kChip, 1, 0, 1), 0u);
-    EXPECT_EQ(model.peek(0x2DCBC), 0x2FFF);
     uint8_t a = 0, b = 9, c = 0;
-    ASSERT_EQ(VQ6192_SDH_GetMapLoopCfg(kChip, &a, &b, &c), 0u);
-    EXPECT_EQ(ints(a, b, c), ints(1, 0, 1));
-    EXPECT_EQ(VQ6192_SDH_SetMapLoopCfg(kChip, 0, 2, 0), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_GetMapLoopCfg(kChip, &a, nullptr, &c), kParaErr);
-
+    EXPECT_EQ((Ints{VQ6192_SDH_SetMapLoopCfg(kChip, 1, 0, 1), model.peek(0x2DCBC),
+                    VQ6192_SDH_GetMapLoopCfg(kChip, &a, &b, &c), a, b, c,
+                    VQ6192_SDH_SetMapLoopCfg(kChip, 0, 2, 0)}),
+              ints(0, 0x2FFF, 0, 1, 0, 1, kParaErr));
+    // Bit 3 alone of receive block 2, beside the VT/TU type.
     model.poke(0x2C040 + 0x40 * 2, 0xFFF7);
-    ASSERT_EQ(VQ6192_SDH_SetDS3RxFifoRst(kChip, 2, 1), 0u);
-    EXPECT_EQ(model.peek(0x2C0C0), 0xFFFF) << "bit 3 alone, beside the VT/TU type";
-    EXPECT_EQ(VQ6192_SDH_SetDS3RxFifoRst(kChip, 4, 1), kParaErr);
-    EXPECT_EQ(VQ6192_SDH_SetDS3RxFifoRst(kChip, 0, 2), kParaErr);
+    EXPECT_EQ((Ints{VQ6192_SDH_SetDS3RxFifoRst(kChip, 2, 1), model.peek(0x2C0C0),
+                    VQ6192_SDH_SetDS3RxFifoRst(kChip, 4, 1), VQ6192_SDH_SetDS3RxFifoRst(kChip, 0, 2)}),
+              ints(0, 0xFFFF, kParaErr, kParaErr));
 }
 
 }  // namespace

@@ -22,46 +22,40 @@ using SamTest = SdhTest;
 
 TEST_F(SamTest, InitialisationNeedsTheReadyBit) {
     model.block<vq6192::sim::SamBlock>().setReady(false);
-    model.setTrace(true);
     capture.clear();
-    EXPECT_EQ(VQ6192_SAM_InitSam(kChip, 1), 0x03090007u);
-    EXPECT_TRUE(vqtest::writes(model.trace()).empty());
+    EXPECT_TRUE(
+        vqtest::writes(traced([&] { EXPECT_EQ(VQ6192_SAM_InitSam(kChip, 1), 0x03090007u); })).empty());
     EXPECT_TRUE(capture.traceTexts().empty());
 
     model.block<vq6192::sim::SamBlock>().setReady(true);
     for (uint32_t e1 = 0; e1 < 336; ++e1) {
         model.poke(chanReg(e1), 0xFF9B);
     }
-    model.clearTrace();
-    ASSERT_EQ(VQ6192_SAM_InitSam(kChip, 1), 0u);
+    const auto w = vqtest::writes(traced([&] { ASSERT_EQ(VQ6192_SAM_InitSam(kChip, 1), 0u); }));
     for (uint32_t e1 = 0; e1 < 336; ++e1) {
         EXPECT_EQ(model.peek(chanReg(e1)), 0xFFBF) << e1;
     }
     // Fetch mode first, then insertion mode, channel by channel in ascending order.
-    const auto w = vqtest::writes(model.trace());
     ASSERT_EQ(w.size(), 672u);
-    EXPECT_EQ(w[0], (BusAccess{BusOp::Write, 0x6200, 0xFFBB, 0, 16}));
-    EXPECT_EQ(w[1], (BusAccess{BusOp::Write, 0x6200, 0xFFBF, 0, 16}));
-    EXPECT_EQ(w[670], (BusAccess{BusOp::Write, chanReg(335), 0xFFBB, 0, 16}));
-    EXPECT_EQ(w[671], (BusAccess{BusOp::Write, chanReg(335), 0xFFBF, 0, 16}));
-
-    model.clearTrace();
-    EXPECT_EQ(VQ6192_SAM_InitSam(kChip, 0), 0u);
-    EXPECT_EQ(VQ6192_SAM_InitSam(kChip, 2), 0u);
-    EXPECT_TRUE(model.trace().empty());
-    EXPECT_EQ(VQ6192_SAM_InitSam(kChip, 3), kSamParaErr);
-    EXPECT_TRUE(model.trace().empty());
+    EXPECT_EQ((std::vector<BusAccess>{w[0], w[1], w[670], w[671]}),
+              (std::vector<BusAccess>{{BusOp::Write, 0x6200, 0xFFBB, 0, 16},
+                                      {BusOp::Write, 0x6200, 0xFFBF, 0, 16},
+                                      {BusOp::Write, chanReg(335), 0xFFBB, 0, 16},
+                                      {BusOp::Write, chanReg(335), 0xFFBF, 0, 16}}));
+    // Modes 0 and 2 do nothing; 3 is refused.
+    EXPECT_TRUE(traced([&] {
+                    EXPECT_EQ((Ints{VQ6192_SAM_InitSam(kChip, 0), VQ6192_SAM_InitSam(kChip, 2),
+                                    VQ6192_SAM_InitSam(kChip, 3)}),
+                              ints(0, 0, kSamParaErr));
+                }).empty());
 }
 
 TEST_F(SamTest, ResetPulsesTheBlockReset) {
     model.poke(0x000C, 0xF0F3);
-    model.setTrace(true);
     VQ6192_Platform_ResetVirtualTime();
-    ASSERT_EQ(VQ6192_SAM_ResetSam(kChip), 0u);
-    const auto w = vqtest::writes(model.trace());
-    ASSERT_EQ(w.size(), 2u);
-    EXPECT_EQ(w[0], (BusAccess{BusOp::Write, 0x000C, 0xF0F7, 0, 16}));
-    EXPECT_EQ(w[1], (BusAccess{BusOp::Write, 0x000C, 0xF0F3, 0, 16}));
+    EXPECT_EQ(vqtest::writes(traced([&] { ASSERT_EQ(VQ6192_SAM_ResetSam(kChip), 0u); })),
+              (std::vector<BusAccess>{{BusOp::Write, 0x000C, 0xF0F7, 0, 16},
+                                      {BusOp::Write, 0x000C, 0xF0F3, 0, 16}}));
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 10u);
 }
 
@@ -82,17 +76,12 @@ TEST_F(SamTest, SaBitInsertion) {
     EXPECT_EQ(ints(after[0], after[1], model.peek(chanReg(5))), ints(0x7FFF, 0x0005, 0xFFFE));
 
     // A bit position above 3: the code without a trace line, nothing written.
-    model.setTrace(true);
     capture.clear();
     EXPECT_EQ(VQ6192_SAM_SetSaBitInsert(kChip, 5, 4, 1, 1), kSamParaErr);
     EXPECT_TRUE(capture.traceTexts().empty());
     EXPECT_EQ(tables.entry(kSamBlock, kInsSelect, 5), after);
-    EXPECT_EQ(model.peek(chanReg(5)), 0xFFFE);
-    EXPECT_EQ(tables.writesExecuted(kSamBlock), 2u);
-    model.clearTrace();
-    EXPECT_EQ(VQ6192_SAM_SetSaBitInsert(kChip, 336, 0, 1, 1), kSamParaErr);
-    EXPECT_TRUE(model.trace().empty());
-    EXPECT_EQ(capture.traceTexts(), std::vector<std::string>{"ParaErr.\r\n"});
+    EXPECT_EQ(ints(model.peek(chanReg(5)), tables.writesExecuted(kSamBlock)), ints(0xFFFE, 2));
+    expectRefused({{"channel 336", [] { return VQ6192_SAM_SetSaBitInsert(3, 336, 0, 1, 1); }}}, kSamParaErr);
 }
 
 TEST_F(SamTest, SaBitExtraction) {
@@ -106,19 +95,17 @@ TEST_F(SamTest, SaBitExtraction) {
     for (uint32_t pos = 0; pos < 4; ++pos) {
         model.poke(chanReg(200), 0xFFF7);
         uint32_t sa = 0xEE;
-        ASSERT_EQ(VQ6192_SAM_GetSaBitValue(kChip, 200, pos, &sa, 1), 0u);
-        EXPECT_EQ(sa, expected[pos]) << pos;
-        EXPECT_EQ(model.peek(chanReg(200)), 0xFFFF);
+        EXPECT_EQ((Ints{VQ6192_SAM_GetSaBitValue(kChip, 200, pos, &sa, 1), sa, model.peek(chanReg(200))}),
+                  ints(0, expected[pos], 0xFFFF))
+            << pos;
     }
     // The enable is written even when the bit position is refused.
     uint32_t sa = 0xEE;
     capture.clear();
-    EXPECT_EQ(VQ6192_SAM_GetSaBitValue(kChip, 200, 4, &sa, 0), kSamParaErr);
-    EXPECT_EQ(sa, 0xEEu);
-    EXPECT_EQ(model.peek(chanReg(200)), 0xFFF7);
+    EXPECT_EQ((Ints{VQ6192_SAM_GetSaBitValue(kChip, 200, 4, &sa, 0), sa, model.peek(chanReg(200))}),
+              ints(kSamParaErr, 0xEE, 0xFFF7));
     EXPECT_TRUE(capture.traceTexts().empty());
 }
-
 TEST_F(SamTest, ChannelAndGlobalSwitches) {
     // The register and the bits each call sets, from a register with every other bit set.
     const struct {
@@ -151,26 +138,18 @@ TEST_F(SamTest, ChannelAndGlobalSwitches) {
 }
 
 TEST_F(SamTest, CountersWarningsAndSoftErrors) {
-    model.poke(0x6600 + 2 * 9, 0xFF11);
-    model.poke(0x6620 + 2 * 9, 0x0022);
-    model.poke(0x6640 + 2 * 9, 0x0033);
-    model.poke(0x6660 + 2 * 9, 0x0044);
-    uint32_t c0, c1, c2, c3;
-    ASSERT_EQ(VQ6192_SAM_GetSamCnt(kChip, 9, &c0, &c1, &c2, &c3), 0u);
-    EXPECT_EQ(std::vector<uint32_t>({c0, c1, c2, c3}), std::vector<uint32_t>({0x11, 0x22, 0x33, 0x44}));
-    model.poke(0x6800 + 2 * 335, 0xFFFD);
-    uint32_t w1 = 9, w0 = 9;
-    ASSERT_EQ(VQ6192_SAM_GetSamMpiAisWarn(kChip, 335, &w1, &w0), 0u);
-    EXPECT_EQ(w1, 0u);
-    EXPECT_EQ(w0, 1u);
-    model.poke(0x6688, 0x1001);  // bit 12 and bit 0
-    uint32_t flags[13];
-    ASSERT_EQ(VQ6192_SAM_GetSamSramSoftErr(kChip, flags), 0u);
-    for (uint32_t i = 0; i < 13; ++i) {
-        EXPECT_EQ(flags[i], i == 0 || i == 12 ? 1u : 0u) << i;
-    }
-    EXPECT_EQ(VQ6192_SAM_GetSamCnt(kChip, 336, &c0, &c1, &c2, &c3), kSamParaErr);
-    EXPECT_EQ(VQ6192_SAM_GetSamSramSoftErr(kChip, nullptr), kSamParaErr);
+    // Channel n's four counters are the low bytes of 0x6600, 0x6620, 0x6640, 0x6660 + 2n; the MPI AIS
+    // warnings bits 1 and 0 of 0x6800 + 2n; the 13 SRAM soft errors bits 0..12 of 0x6688.
+    poke({{0x6600 + 2 * 9, 0xFF11}, {0x6620 + 2 * 9, 0x22}, {0x6640 + 2 * 9, 0x33}, {0x6660 + 2 * 9, 0x44}});
+    poke({{0x6800 + 2 * 335, 0xFFFD}, {0x6688, 0x1001}});
+    uint32_t c0, c1, c2, c3, w1 = 9, w0 = 9, f[13];
+    EXPECT_EQ(
+        (Ints{VQ6192_SAM_GetSamCnt(kChip, 9, &c0, &c1, &c2, &c3), c0, c1, c2, c3,
+              VQ6192_SAM_GetSamMpiAisWarn(kChip, 335, &w1, &w0), w1, w0,
+              VQ6192_SAM_GetSamSramSoftErr(kChip, f), VQ6192_SAM_GetSamCnt(kChip, 336, &c0, &c1, &c2, &c3)}),
+        ints(0, 0x11, 0x22, 0x33, 0x44, 0, 0, 1, 0, kSamParaErr));
+    EXPECT_EQ(std::vector<uint32_t>(f, f + 13),
+              (std::vector<uint32_t>{1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}));
 }
 
 }  // namespace

@@ -34,10 +34,12 @@ inline uint32_t lt(uint32_t v, uint32_t c) {
     return 0x2DE60 + 0x4000 * v + 8 * c;
 }
 
-// Several outputs in one comparison: EXPECT_EQ(ints(mode, value), ints(1, 0x5A)).
+// Several outputs in one comparison: EXPECT_EQ(ints(mode, value), ints(1, 0x5A)). A braced Ints is
+// evaluated left to right, so it can hold a call's status and then the outputs it filled.
+using Ints = std::vector<int64_t>;
 template <typename... T>
-std::vector<int> ints(T... v) {
-    return {static_cast<int>(v)...};
+Ints ints(T... v) {
+    return {static_cast<int64_t>(v)...};
 }
 
 // A setter writing `value` into bits bit..bit+width-1 of `count` registers `stride` apart, and the
@@ -45,14 +47,35 @@ std::vector<int> ints(T... v) {
 template <typename Out>
 struct Field {
     const char *name;
-    std::function<uint32_t(uint32_t)> set;
-    std::function<uint32_t(Out *)> get;
+    std::function<uint32_t(uint32_t chip, uint32_t value)> set;
+    std::function<uint32_t(uint32_t chip, Out *out)> get;
     uint32_t reg, stride, count, bit, width, value;
 };
 
 class SdhTest : public vqtest::ChipTest {
   protected:
     vq6192::sim::SdhPaths &paths() { return model.block<vq6192::sim::SdhPaths>(); }
+    // One register of each of the twelve high-order blocks (block(n) + offset), written or read.
+    void fill12(uint32_t (*block)(uint32_t), uint32_t offset, uint16_t value) {
+        for (uint32_t n = 0; n < 12; ++n) {
+            model.poke(block(n) + offset, value);
+        }
+    }
+    Ints peek12(uint32_t (*block)(uint32_t), uint32_t offset) {
+        Ints v;
+        for (uint32_t n = 0; n < 12; ++n) {
+            v.push_back(model.peek(block(n) + offset));
+        }
+        return v;
+    }
+    // `value` in the blocks of VC-4 `vc4` (n % 4 == vc4), `others` in the rest.
+    static Ints ofVc4(uint32_t vc4, int64_t value, int64_t others) {
+        Ints v;
+        for (uint32_t n = 0; n < 12; ++n) {
+            v.push_back(n % 4 == vc4 ? value : others);
+        }
+        return v;
+    }
 
     // Each call returns `code`, makes no bus access and, when `paraTrace`, prints the one parameter
     // error line.
@@ -78,13 +101,13 @@ class SdhTest : public vqtest::ChipTest {
             for (uint32_t k = 0; k < c.count; ++k) {
                 model.poke(c.reg + k * c.stride, static_cast<uint16_t>(~mask));
             }
-            ASSERT_EQ(c.set(c.value), 0u) << c.name;
+            ASSERT_EQ(c.set(kChip, c.value), 0u) << c.name;
             for (uint32_t k = 0; k < c.count; ++k) {
                 EXPECT_EQ(model.peek(c.reg + k * c.stride), static_cast<uint16_t>(~mask | (c.value << c.bit)))
                     << c.name;
             }
             Out out = static_cast<Out>(0xEEEE);
-            ASSERT_EQ(c.get(&out), 0u) << c.name;
+            ASSERT_EQ(c.get(kChip, &out), 0u) << c.name;
             EXPECT_EQ(out, c.value) << c.name;
         }
     }
