@@ -14,25 +14,20 @@
 namespace sdhtest {
 
 using Page = vq6192::sim::SdhPaths::Page;
-using Calls = std::vector<std::pair<const char *, std::function<uint32_t()>>>;
 
 constexpr uint32_t kParaErr = 0x03080001;
 constexpr uint32_t kPrereqErr = 0x03080004;
 
 // Transmit high-order block n, receive high-order block n, receive and transmit low-order channel c of
 // VC-4 v.
-inline uint32_t th(uint32_t n) {
-    return 0x2DCC0 + 0x20 * n;
-}
-inline uint32_t hr(uint32_t n) {
-    return 0x2C040 + 0x40 * n;
-}
-inline uint32_t lr(uint32_t v, uint32_t c) {
+constexpr uint32_t (*th)(uint32_t) = [](uint32_t n) -> uint32_t { return 0x2DCC0 + 0x20 * n; };
+constexpr uint32_t (*hr)(uint32_t) = [](uint32_t n) -> uint32_t { return 0x2C040 + 0x40 * n; };
+constexpr uint32_t (*lr)(uint32_t, uint32_t) = [](uint32_t v, uint32_t c) -> uint32_t {
     return 0x2C380 + 0x4000 * v + 0x40 * c;
-}
-inline uint32_t lt(uint32_t v, uint32_t c) {
+};
+constexpr uint32_t (*lt)(uint32_t, uint32_t) = [](uint32_t v, uint32_t c) -> uint32_t {
     return 0x2DE60 + 0x4000 * v + 8 * c;
-}
+};
 
 // Several outputs in one comparison: EXPECT_EQ(ints(mode, value), ints(1, 0x5A)). A braced Ints is
 // evaluated left to right, so it can hold a call's status and then the outputs it filled.
@@ -77,20 +72,19 @@ class SdhTest : public vqtest::ChipTest {
         return v;
     }
 
-    // Each call returns `code`, makes no bus access and, when `paraTrace`, prints the one parameter
-    // error line.
-    void expectRefused(const Calls &calls, uint32_t code = kParaErr, bool paraTrace = true) {
+    // Refused calls, made as the arguments after beginRefusals() (in any order): each returned `code`,
+    // none made a bus access, and each printed the parameter error line unless `quiet`.
+    void beginRefusals() {
+        capture.clear();
+        model.clearTrace();
         model.setTrace(true);
-        for (const auto &[name, call] : calls) {
-            capture.clear();
-            model.clearTrace();
-            EXPECT_EQ(call(), code) << name;
-            EXPECT_TRUE(model.trace().empty()) << name;
-            EXPECT_EQ(capture.traceTexts(),
-                      paraTrace ? std::vector<std::string>{"ParaErr.\r\n"} : std::vector<std::string>{})
-                << name;
-        }
+    }
+    template <typename... S>
+    void expectRefusals(uint32_t code, bool quiet, S... got) {
         model.setTrace(false);
+        EXPECT_EQ(ints(got...), Ints(sizeof...(got), code));
+        EXPECT_TRUE(model.trace().empty());
+        EXPECT_EQ(capture.traceTexts(), std::vector<std::string>(quiet ? 0 : sizeof...(got), "ParaErr.\r\n"));
     }
 
     // Registers start with every bit but the field's set; the field is written and read back.
