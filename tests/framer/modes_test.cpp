@@ -30,14 +30,14 @@ TEST_F(FramerTest, FrameModeFieldsPerDirection) {
         {1, 3, -1, 2}, {2, 0, 0, 0},  {2, 1, 1, 1},  {2, 3, 3, 2},
     };
     for (const Case &c : cases) {
-        SCOPED_TRACE(testing::Message() << "dir " << c.dir << " mode " << c.mode);
         model.poke(Framers::ingressAddr(200, Framers::kIngMode), 0xFFF3);
         model.poke(Framers::egressAddr(200, Framers::kEgMode), 0xFFF3);
         uint32_t got = 99;
         EXPECT_EQ((Ints{VQ6192_Framer_SetFrmMode(kChip, 200, c.dir, c.mode), ingress(200), egress(200),
                         VQ6192_Framer_GetFrmMode(kChip, 200, c.dir == 1 ? 1 : 0, &got), got}),
                   ints(0, 0xFFF0 | (c.ingressField < 0 ? 3 : c.ingressField),
-                       0xFFF0 | (c.egressField < 0 ? 3 : c.egressField), 0, c.mode));
+                       0xFFF0 | (c.egressField < 0 ? 3 : c.egressField), 0, c.mode))
+            << "dir " << c.dir << " mode " << c.mode;
     }
     // Egress field 3 reads as mode 4; ingress 3 with egress 2 reads as 3 for both directions.
     model.poke(Framers::egressAddr(5, Framers::kEgMode), 3);
@@ -57,13 +57,12 @@ TEST_F(FramerTest, MultiframeSearchSetsEgressFromWhatTheReceiverFound) {
     tdm(0);
     for (bool found : {false, true}) {
         for (uint32_t dir : {0u, 2u}) {
-            SCOPED_TRACE(testing::Message() << "found " << found << " dir " << dir);
-            const uint32_t e1 = 77;
-            framers().setMultiframeFound(e1, found);
-            const uint32_t before = framers().reframes(e1);
-            ASSERT_EQ(VQ6192_Framer_SetFrmMode(kChip, e1, dir, 2), 0u);
-            EXPECT_EQ(ints(ingress(e1) & 3, framers().reframes(e1), egress(e1) & 3),
-                      ints(2, before + 1, found ? 0 : 1));
+            const uint32_t before = framers().reframes(77);
+            framers().setMultiframeFound(77, found);
+            EXPECT_EQ((Ints{VQ6192_Framer_SetFrmMode(kChip, 77, dir, 2), ingress(77) & 3,
+                            framers().reframes(77), egress(77) & 3}),
+                      ints(0, 2, before + 1, found ? 0 : 1))
+                << "found " << found << " dir " << dir;
         }
     }
     // Egress alone cannot search; T1 has no multiframe mode (refused without chip bits).
@@ -80,8 +79,7 @@ TEST_F(FramerTest, MultiframeSearchSetsEgressFromWhatTheReceiverFound) {
 
 TEST_F(FramerTest, ReframePulseSequence) {
     // e1 100: VC-4 1, TUG-3 1, TUG-2 2, TU 2 -> register channel 16; the reframe bit is bit 2.
-    const uint32_t addr = Framers::ingressAddr(1, 1, 2, 2, Framers::kIngMode);
-    EXPECT_EQ(addr, 0x24010u + 0x800 + 0x200 + 0x10 * 16);
+    const uint32_t addr = 0x24010 + 0x800 + 0x200 + 0x10 * 16;
     model.poke(addr, 0x0011);
     EXPECT_EQ(traced([&] { ASSERT_EQ(VQ6192_Framer_ReFrmFrame(kChip, 100), 0u); }),
               (std::vector<BusAccess>{

@@ -221,7 +221,6 @@ TEST_F(PrbsTest, CesTimeslotMarking) {
     g_uiPrbsFlag[kChip] = 0;
 
     ASSERT_EQ(VQ6192_Framer_SetTsCesPrbsCfg(kChip, 0, 2, 20, 0x5, 9), 0u);
-    // Timeslot 5 is another channel's; timeslot 6 was marked already and is left alone.
     EXPECT_EQ(ints(entry(kEgressSelect, 20, 0), entry(kEgressSelect, 20, 1), entry(kEgressSelect, 20, 2),
                    entry(kEgressSelect, 20, 5), entry(kEgressSelect, 20, 6)),
               ints(0x9A09, 0x9809, 0x9A09, 0x980A, 0x9A09));
@@ -271,14 +270,13 @@ TEST_F(FramerStatus, OverheadInsertionModes) {
     };
     const uint32_t e1 = 300;
     for (const Case &c : cases) {
-        SCOPED_TRACE(testing::Message() << "type " << c.ohType << " mode " << c.insMode << " value "
-                                        << c.value << " enable " << c.enable);
         model.poke(Framers::egressAddr(e1, Framers::kEgOverhead), c.w2Before);
         model.poke(Framers::egressAddr(e1, Framers::kEgOverhead2), c.w4Before);
         EXPECT_EQ((Ints{VQ6192_Framer_SetET1OhInsMode(kChip, e1, c.ohType, c.insMode, c.value, c.enable),
                         model.peek(Framers::egressAddr(e1, Framers::kEgOverhead)),
                         model.peek(Framers::egressAddr(e1, Framers::kEgOverhead2))}),
-                  ints(0, c.w2After, c.w4After));
+                  ints(0, c.w2After, c.w4After))
+            << "type " << c.ohType << " mode " << c.insMode << " value " << c.value << " enable " << c.enable;
     }
     model.poke(Framers::egressAddr(e1, Framers::kEgOverhead), 0xA5C3);
     uint16_t word = 0;
@@ -304,10 +302,10 @@ TEST_F(FramerStatus, E1AlarmsAndCounters) {
     EXPECT_EQ((Ints{VQ6192_Framer_GetFrmAlms(kChip, e1, &ais, &rai, &bfoof, &mfoof), ais, rai, bfoof, mfoof,
                     VQ6192_Framer_GetE1AlmRegVal(kChip, e1, &word), word}),
               ints(0, 1, 0, 1, 0, 0, VQ6192_FRAMER_AIS | VQ6192_FRAMER_BFOOF));
-    model.poke(Framers::ingressAddr(e1, Framers::kIngE1Crc), 11);
-    model.poke(Framers::ingressAddr(e1, Framers::kIngE1Febe), 22);
-    model.poke(Framers::ingressAddr(e1, Framers::kIngT1Crc), 33);
-    model.poke(Framers::ingressAddr(e1, Framers::kIngT1Ferr), 44);
+    poke({{Framers::ingressAddr(e1, Framers::kIngE1Crc), 11},
+          {Framers::ingressAddr(e1, Framers::kIngE1Febe), 22},
+          {Framers::ingressAddr(e1, Framers::kIngT1Crc), 33},
+          {Framers::ingressAddr(e1, Framers::kIngT1Ferr), 44}});
     struct Case {
         uint32_t tdm, type, status, count;
     };

@@ -296,8 +296,7 @@ TEST_F(SdhAlarmTest, LowOrderAlarmRecord) {
             model.poke(base + word, static_cast<uint16_t>(word == flags[i].word ? 1u << flags[i].bit : 0));
             model.poke(base + 0x40 + word, 0xFFFF);
         }
-        uint8_t alarms[13];
-        std::fill(std::begin(alarms), std::end(alarms), 7);
+        uint8_t alarms[13] = {7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7};
         ASSERT_EQ(VQ6192_SDH_GetLpAlms(kChip, 2, 1, 17, alarms), 0u);
         for (uint32_t j = 0; j < 13; ++j) {
             EXPECT_EQ(alarms[j], i == j ? 1 : 0) << flags[i].name << " -> " << flags[j].name;
@@ -307,31 +306,23 @@ TEST_F(SdhAlarmTest, LowOrderAlarmRecord) {
 
 TEST_F(SdhAlarmTest, HighOrderAlarmsCountersAndFifoAlarms) {
     model.poke(hr(3) + 0x1E, 0xFFF7);  // OOM history clear, LOM history set
-    model.poke(hr(3) + 0x16, 0x0004);
-    model.poke(hr(7) + 0x1E, 0xFFFF);
-    model.poke(hr(1) + 0x2A, 0x1234);
-    model.poke(hr(1) + 4, 0xFFFD);
+    poke({{hr(3) + 0x16, 0x0004}, {hr(7) + 0x1E, 0xFFFF}, {hr(1) + 0x2A, 0x1234}, {hr(1) + 4, 0xFFFD}});
     uint8_t a = 9, b = 9, d = 9, o = 9, e = 9, rei = 9;
     EXPECT_EQ((Ints{VQ6192_SDH_GetHpAlms(kChip, 3, &a, &b, &d), a, b, d,
                     VQ6192_SDH_GetRxHpB3Cnt(kChip, 1, &o, &e), o, e}),
               ints(0, 0, 1, 1, 0, 0, 0x34));
     const uint32_t c = 32 * 2 + 27;
-    model.poke(lr(1, c) + 0x28, 0xBEEF);
-    model.poke(lr(1, c) + 0x2A, 0x0180);
-    model.poke(lr(1, c) + 0x2C, 0xF5A3);
+    poke({{lr(1, c) + 0x28, 0xBEEF}, {lr(1, c) + 0x2A, 0x0180}, {lr(1, c) + 0x2C, 0xF5A3}});
     uint16_t bip = 0, p = 0, q = 0, r = 0;
     EXPECT_EQ((Ints{VQ6192_SDH_GetRxLpB3B2Cnt(kChip, 1, 2, 27, &bip), bip,
                     VQ6192_SDH_GetRxLpReiCnt(kChip, 1, 2, 27, &rei), rei,
                     VQ6192_SDH_GetLpPointAdjust(kChip, 1, 2, 27, &p, &q, &r), p, q, r}),
               ints(0, 0xBEEF, 0, 0x80, 0, 0x3, 0xA, 0x5));
-    model.poke(0x3C000 + 8 * 335, 0xFFFE);
-    model.poke(0x3C002 + 8 * 335, 0x0001);
-    uint8_t e1[4] = {9, 9, 9, 9};
-    ASSERT_EQ(VQ6192_SDH_GetSDHET1FifoAlm(kChip, 335, e1), 0u);
-    EXPECT_EQ(std::vector<uint8_t>(e1, e1 + 4), (std::vector<uint8_t>{1, 0, 0, 1}));
-    model.poke(hr(11) + 0x24, 0xFFFD);
-    ASSERT_EQ(VQ6192_SDH_GetSDHET3FifoAlm(kChip, 11, e1), 0u);
-    EXPECT_EQ(std::vector<uint8_t>(e1, e1 + 2), (std::vector<uint8_t>{0, 1}));
+    poke({{0x3C000 + 8 * 335, 0xFFFE}, {0x3C002 + 8 * 335, 0x0001}, {hr(11) + 0x24, 0xFFFD}});
+    uint8_t e1[4] = {9, 9, 9, 9}, e3[2] = {9, 9};
+    EXPECT_EQ((Ints{VQ6192_SDH_GetSDHET1FifoAlm(kChip, 335, e1), e1[0], e1[1], e1[2], e1[3],
+                    VQ6192_SDH_GetSDHET3FifoAlm(kChip, 11, e3), e3[0], e3[1]}),
+              ints(0, 1, 0, 0, 1, 0, 0, 1));
 }
 
 TEST_F(SdhAlarmTest, MasksResetsAndChipWideControls) {
@@ -345,10 +336,10 @@ TEST_F(SdhAlarmTest, MasksResetsAndChipWideControls) {
           [](auto c, auto o) { return VQ6192_SDH_GetHpLomIntMsk(c, 9, o); }, hr(9) + 0xC, 0, 1, 2, 1, 1},
         F{"hp lom msk", VQ6192_SDH_SetHpLomMsk, VQ6192_SDH_GetHpLomMsk, 0x2C008, 0, 1, 5, 1, 1},
         F{"lp alm msk", VQ6192_SDH_SetLpAlmMsk, VQ6192_SDH_GetLpAlmMsk, 0x2C008, 0, 1, 6, 1, 1},
-        F{"tu ais int msk", [](auto c, auto x) { return VQ6192_SDH_SetTuAisIntMsk(c, 1, 0, 3, x); },
+        F{"tu ais", [](auto c, auto x) { return VQ6192_SDH_SetTuAisIntMsk(c, 1, 0, 3, x); },
           [](auto c, auto o) { return VQ6192_SDH_GetTuAisIntMsk(c, 1, 0, 3, o); }, lr(1, 3) + 0xC, 0, 1, 1, 1,
           1},
-        F{"tu lop int msk", [](auto c, auto x) { return VQ6192_SDH_SetTuLopIntMsk(c, 1, 0, 3, x); },
+        F{"tu lop", [](auto c, auto x) { return VQ6192_SDH_SetTuLopIntMsk(c, 1, 0, 3, x); },
           [](auto c, auto o) { return VQ6192_SDH_GetTuLopIntMsk(c, 1, 0, 3, o); }, lr(1, 3) + 0xC, 0, 1, 0, 1,
           1},
         F{"rx lp rst", [](auto c, auto x) { return VQ6192_SDH_SetRxLpRst(c, 3, 2, 0, x); },
@@ -359,14 +350,14 @@ TEST_F(SdhAlarmTest, MasksResetsAndChipWideControls) {
         F{"v5 label", [](auto c, auto x) { return VQ6192_SDH_SetRxLpShouldV5SgnlLbl(c, 0, 1, 1, x); },
           [](auto c, auto o) { return VQ6192_SDH_GetRxLpShouldV5SgnlLbl(c, 0, 1, 1, o); }, lr(0, 33) + 0xA, 0,
           1, 8, 3, 5},
-        F{"vc4 tu-ais ins", [](auto c, auto x) { return VQ6192_SDH_SetVc4TuAisInsEn(c, 3, x); },
+        F{"tu-ais ins", [](auto c, auto x) { return VQ6192_SDH_SetVc4TuAisInsEn(c, 3, x); },
           [](auto c, auto o) { return VQ6192_SDH_GetVc4TuAisInsEn(c, 3, o); }, 0x2C002, 0, 1, 11, 1, 1},
         F{"sonet b3 check", VQ6192_SDH_SetSONETB3ChkMode, VQ6192_SDH_GetSONETB3ChkMode, 0x2C000, 0, 1, 1, 1,
           1},
         F{"label check", VQ6192_SDH_SetOdLpSsCfg, VQ6192_SDH_GetOdLpSsCfg, 0x2C346, 0, 1, 0, 1, 1},
-        F{"filter type 0", [](auto c, auto x) { return VQ6192_SDH_SetFltAlarmNum(c, 0, x); },
+        F{"filter 0", [](auto c, auto x) { return VQ6192_SDH_SetFltAlarmNum(c, 0, x); },
           [](auto c, auto o) { return VQ6192_SDH_GetFltAlarmNum(c, 0, o); }, 0x2C340, 0, 1, 12, 4, 9},
-        F{"filter type 3", [](auto c, auto x) { return VQ6192_SDH_SetFltAlarmNum(c, 3, x); },
+        F{"filter 3", [](auto c, auto x) { return VQ6192_SDH_SetFltAlarmNum(c, 3, x); },
           [](auto c, auto o) { return VQ6192_SDH_GetFltAlarmNum(c, 3, o); }, 0x2C340, 0, 1, 0, 4, 6},
         F{"ptr yy ff", [](auto c, auto x) { return VQ6192_SDH_SetTxHpPtrSSInsVal(c, 1, x); },
           [](auto c, auto o) { return VQ6192_SDH_GetTxHpPtrSSInsVal(c, 1, o); }, 0, 0, 0, 0, 0, 2},
