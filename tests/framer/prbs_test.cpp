@@ -88,16 +88,13 @@ TEST_F(PrbsTest, MapperChecker) {
     const auto stop = traced([&] { ASSERT_EQ(VQ6192_Framer_SetPRBSChkAttrNew(kChip, &chk, 0), 0u); });
     ASSERT_GT(stop.size(), 1u);
     EXPECT_EQ(stop[1], (BusAccess{BusOp::Write, 0x20408, 0x00F8, 0, 16}));
-    model.setTrace(true);
-    model.clearTrace();
-    for (VQ6192_FRM_PRBS_CHK_ATTR_S bad :
-         {VQ6192_FRM_PRBS_CHK_ATTR_S{4, 0, 0, 0, 0}, VQ6192_FRM_PRBS_CHK_ATTR_S{0, 2, 0, 0, 0},
-          VQ6192_FRM_PRBS_CHK_ATTR_S{0, 0, 7, 0, 0}, VQ6192_FRM_PRBS_CHK_ATTR_S{0, 0, 0, 12, 0},
-          VQ6192_FRM_PRBS_CHK_ATTR_S{0, 0, 0, 0, 336}}) {
-        EXPECT_EQ(VQ6192_Framer_SetPRBSChkAttr(kChip, &bad, 1), kParaErr);
-    }
-    EXPECT_EQ(VQ6192_Framer_SetPRBSChkAttr(kChip, &chk, 2), kParaErr);
-    EXPECT_FALSE(wrote());
+    // Mode 4, flag 2, pattern 7, E3/T3 path 12, E1 path 336, enable 2.
+    const VQ6192_FRM_PRBS_CHK_ATTR_S bad[] = {
+        {4, 0, 0, 0, 0}, {0, 2, 0, 0, 0}, {0, 0, 7, 0, 0}, {0, 0, 0, 12, 0}, {0, 0, 0, 0, 336}};
+    beginRefusals();
+    expectRefusals(VQ6192_Framer_SetPRBSChkAttr(3, &bad[0], 1), VQ6192_Framer_SetPRBSChkAttr(3, &bad[1], 1),
+                   VQ6192_Framer_SetPRBSChkAttr(3, &bad[2], 1), VQ6192_Framer_SetPRBSChkAttr(3, &bad[3], 1),
+                   VQ6192_Framer_SetPRBSChkAttr(3, &bad[4], 1), VQ6192_Framer_SetPRBSChkAttr(3, &chk, 2));
 }
 
 TEST_F(PrbsTest, ErrorInsertionAlarmsAndCounters) {
@@ -173,13 +170,14 @@ TEST_F(PrbsTest, TimeslotGenerator) {
     EXPECT_EQ(
         capture.traceTexts().back(),
         "Err. VQ6192_Framer_SetTsPRBSInsAttr.Can't Insert Egress PRBS(3,2,2)      ErrCode[0x30e0005]\r\n");
-    for (VQ6192_FRM_PRBS_INS_ATTR_S bad :
-         {VQ6192_FRM_PRBS_INS_ATTR_S{1, 1, 0, 0, 0, 0}, VQ6192_FRM_PRBS_INS_ATTR_S{0, 1, 0, 2, 0, 0},
-          VQ6192_FRM_PRBS_INS_ATTR_S{0, 4, 0, 0, 0, 0}, VQ6192_FRM_PRBS_INS_ATTR_S{0, 1, 2, 0, 0, 0},
-          VQ6192_FRM_PRBS_INS_ATTR_S{0, 1, 0, 0, 0, 2}}) {
-        EXPECT_EQ(VQ6192_Framer_SetTsPRBSInsAttr(kChip, 0, &bad, 1), kParaErr);
-    }
-    EXPECT_FALSE(wrote());
+    // Select 1, pattern 2, mode 4, flag 2, enable flag 2.
+    const VQ6192_FRM_PRBS_INS_ATTR_S bad[] = {
+        {1, 1, 0, 0, 0, 0}, {0, 1, 0, 2, 0, 0}, {0, 4, 0, 0, 0, 0}, {0, 1, 2, 0, 0, 0}, {0, 1, 0, 0, 0, 2}};
+    beginRefusals();
+    expectRefusals(
+        VQ6192_Framer_SetTsPRBSInsAttr(3, 0, &bad[0], 1), VQ6192_Framer_SetTsPRBSInsAttr(3, 0, &bad[1], 1),
+        VQ6192_Framer_SetTsPRBSInsAttr(3, 0, &bad[2], 1), VQ6192_Framer_SetTsPRBSInsAttr(3, 0, &bad[3], 1),
+        VQ6192_Framer_SetTsPRBSInsAttr(3, 0, &bad[4], 1));
     // A stored path of the other kind reads back as error 4.
     VQ6192_FRM_PRBS_INS_ATTR_S back{};
     uint8_t en = 0;
@@ -204,11 +202,10 @@ TEST_F(PrbsTest, TimeslotChecker) {
                     back1.usET3Path, back1.usPath, en1}),
               ints(0, 0x0002, 300, 0, 0, 1, 0xFFFF, 300, 0));
     const VQ6192_FRM_PRBS_CHK_ATTR_S badE1{0, 0, 0, 0, 336}, badE3{2, 0, 0, 12, 0}, badPattern{0, 0, 3, 0, 0};
-    EXPECT_EQ((Ints{VQ6192_Framer_SetTsPRBSChkAttr(kChip, 1, &badE1, 1),
-                    VQ6192_Framer_SetTsPRBSChkAttr(kChip, 3, &badE3, 1),
-                    VQ6192_Framer_SetTsPRBSChkAttr(kChip, 0, &badPattern, 1),
-                    VQ6192_Framer_SetTsPRBSChkAttr(kChip, 4, &e1, 1)}),
-              ints(kParaErr, kParaErr, kParaErr, kParaErr));
+    beginRefusals();
+    expectRefusals(
+        VQ6192_Framer_SetTsPRBSChkAttr(3, 1, &badE1, 1), VQ6192_Framer_SetTsPRBSChkAttr(3, 3, &badE3, 1),
+        VQ6192_Framer_SetTsPRBSChkAttr(3, 0, &badPattern, 1), VQ6192_Framer_SetTsPRBSChkAttr(3, 4, &e1, 1));
 }
 
 TEST_F(PrbsTest, CesTimeslotMarking) {
