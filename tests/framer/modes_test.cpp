@@ -1,6 +1,8 @@
 // Framer initialisation (its whole register effect for E1 and T1 in SDH and SONET and its waits), TDM
 // mode, frame modes with the multiframe search, reframe and channel resets, and the service-to-channel
 // lookup over the timeslot tables.
+#include <set>
+
 #include "framer/framer_test.h"
 #include "vq6192/ppp.h"
 #include "vq6192/sdh.h"
@@ -147,12 +149,17 @@ TEST_F(FramerInit, WholeRegisterEffectForEachModeAndLineType) {
         model.poke(0x22002, 0x00FF);
         ASSERT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, c.tdm), 0u);
         VQ6192_Platform_ResetVirtualTime();
-        ASSERT_EQ(VQ6192_Framer_FrmInit(kChip, 1, c.line), 0u);
+        const auto written =
+            vqtest::writes(traced([&] { ASSERT_EQ(VQ6192_Framer_FrmInit(kChip, 1, c.line), 0u); }));
         // The waits of the twelve maps: the payload-type pulse each, and the settling after VC-4 3.
         EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 12u * 1 + 3u * 510);
 
         // E1: overhead and RAI insertion on, RAI select off, overhead type 2 on in mode 0.
+        std::set<uint32_t> framer = {0x2034, 0x20800, 0x20802, 0x22002, 0x2A000, 0x20006};
         for (uint32_t e1 = 0; e1 < VQ6192_FRM_E1_NUM; ++e1) {
+            framer.insert({Framers::ingressAddr(e1, Framers::kIngMode),
+                           Framers::egressAddr(e1, Framers::kEgMode),
+                           Framers::egressAddr(e1, Framers::kEgOverhead)});
             EXPECT_EQ(ints(ingress(e1), egress(e1), egress(e1, Framers::kEgOverhead)),
                       ints(1, 1, c.tdm == 0 ? 0x4024 : 0))
                 << "e1 " << e1;
@@ -165,6 +172,15 @@ TEST_F(FramerInit, WholeRegisterEffectForEachModeAndLineType) {
             EXPECT_EQ((Ints{VQ6192_SDH_GetSDHMap(kChip, slot / 3, slot % 3, &type), type}),
                       ints(0, c.mapType))
                 << slot;
+        }
+        // Nothing else but the mapper is written (and, for T1, the channel resets, back at 0).
+        for (const auto &w : written) {
+            const uint32_t a = w.addr;
+            const bool mapper = (a >= 0x24000 && a < 0x24010) || (a >= 0x2C000 && a < 0x2D000) ||
+                                a == 0x2080E || a == 0x202A || (a >= 0x202C && a < 0x2034) || a == 0x2A020 ||
+                                a == 0x29282 || (a >= 0x2B602 && a < 0x2B602 + 12 * 0x20);
+            const bool t1Reset = c.tdm == 1 && a >= 0x24010 && a < 0x26000 && (model.peek(a) & 8) == 0;
+            EXPECT_TRUE(framer.count(a) != 0 || mapper || t1Reset) << std::hex << a;
         }
     }
 }
