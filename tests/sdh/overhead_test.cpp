@@ -101,33 +101,24 @@ TEST_F(SdhOverheadTest, ReceivedBytesOfEachPathKind) {
 }
 
 TEST_F(SdhOverheadTest, LowOrderTransmitBytesThroughTheirPage) {
-    // VC-3 byte `type` of (v, k), software mode `mode`.
-    const auto vc3 = [](uint32_t v, uint32_t k, uint32_t type, uint32_t mode) {
-        return [=](uint32_t x) { return VQ6192_SDH_SetTxLpByte(3, v, k, type, mode, x); };
-    };
-    const struct {
-        const char *name;
-        std::function<uint32_t(uint32_t value)> set;
-        uint32_t key, reg;
-    } cases[] = {
-        {"vc3 type 0", vc3(1, 2, 0, 1), 128 + 64, 0x2DE44},
-        {"vc3 type 1", vc3(1, 2, 1, 0), 128 + 64, 0x2DE48},
-        {"vc3 type 2", vc3(1, 2, 2, 0), 128 + 64, 0x2DE4C},
-        {"vc3 type 3", vc3(1, 2, 3, 0), 128 + 64, 0x2DE4A},
-        {"vc3 type 4", vc3(1, 2, 4, 0), 128 + 64, 0x2DE4E},
-        {"vc3 type 5", vc3(1, 2, 5, 0), 128 + 64, 0x2DE50},
-        {"vc3 G1", vc3(0, 1, 6, 0), 32, 0x2DE46},
-        {"vc3 B3", vc3(0, 1, 7, 0), 32, 0x2DE42},
-        {"vc12 V5", [](uint32_t x) { return VQ6192_SDH_SetTxLpV5(3, 2, 0, 13, 0, x); }, 256 + 13, 0x2DE44},
-        {"vc12 K4", [](uint32_t x) { return VQ6192_SDH_SetTxLpK4(3, 2, 1, 27, 0, x); }, 256 + 59, 0x2DE4E},
-        {"vc12 N2", [](uint32_t x) { return VQ6192_SDH_SetTxLpN2(3, 3, 2, 0, x); }, 384 + 64, 0x2DE50},
-    };
-    uint32_t value = 0xA1;  // bit 7 set: every byte is written eight bits wide
-    for (const auto &c : cases) {
-        EXPECT_EQ((Ints{c.set(value), paths().paged(Page::TxLo, c.key, c.reg) & 0xFF}), ints(0, value))
-            << c.name;
-        ++value;
+    // VC-3 byte types 0..7 in their page registers (types 0..5 of VC-3 (1, 2), page 128 + 64, the G1 and
+    // B3 types of VC-3 (0, 1), page 32); type 0 in software mode 1. Bit 7 set: every byte is eight bits.
+    const uint32_t vc3Regs[8] = {0x2DE44, 0x2DE48, 0x2DE4C, 0x2DE4A, 0x2DE4E, 0x2DE50, 0x2DE46, 0x2DE42};
+    for (uint32_t type = 0; type < 8; ++type) {
+        const uint32_t v = type < 6 ? 1 : 0, k = type < 6 ? 2 : 1, value = 0xA1 + type;
+        EXPECT_EQ((Ints{VQ6192_SDH_SetTxLpByte(kChip, v, k, type, type == 0 ? 1 : 0, value),
+                        paths().paged(Page::TxLo, 128 * v + 32 * k, vc3Regs[type]) & 0xFF}),
+                  ints(0, value))
+            << type;
     }
+    // V5 of VC-12 (2, 0, 13), K4 of (2, 1, 27) (channel 59) and N2 of the VC-3 (3, 2).
+    EXPECT_EQ(
+        (Ints{VQ6192_SDH_SetTxLpV5(kChip, 2, 0, 13, 0, 0xA9),
+              paths().paged(Page::TxLo, 256 + 13, 0x2DE44) & 0xFF,
+              VQ6192_SDH_SetTxLpK4(kChip, 2, 1, 27, 0, 0xAA),
+              paths().paged(Page::TxLo, 256 + 59, 0x2DE4E) & 0xFF, VQ6192_SDH_SetTxLpN2(kChip, 3, 2, 0, 0xAB),
+              paths().paged(Page::TxLo, 384 + 64, 0x2DE50) & 0xFF}),
+        ints(0, 0xA9, 0, 0xAA, 0, 0xAB));
     uint8_t m = 9, v = 0, k = 0, n = 0;
     EXPECT_EQ(
         (Ints{VQ6192_SDH_GetTxLpByte(kChip, 1, 2, 3, &m, &v), v,
