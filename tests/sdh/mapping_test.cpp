@@ -143,13 +143,11 @@ TEST_F(SdhMapTest, ReadBackPrefersTheHigherTypeAndReportsNoMatch) {
 
     // Disagreeing VT/TU types of the three receive blocks.
     model.poke(0x2C140 + 0x40, 3);
-    EXPECT_EQ(VQ6192_SDH_GetSDHMap(kChip, 1, 0, &type), 0x03080006u);
-    EXPECT_EQ(type, NULL_MAP_PATH);
+    EXPECT_EQ((Ints{VQ6192_SDH_GetSDHMap(kChip, 1, 0, &type), type}), ints(0x03080006, NULL_MAP_PATH));
     // Registers no row describes.
     setModes(0, 0);
     model.poke(0x202C, 3);
-    EXPECT_EQ(VQ6192_SDH_GetSDHMap(kChip, 0, 0, &type), 0x03080006u);
-    EXPECT_EQ(type, NULL_MAP_PATH);
+    EXPECT_EQ((Ints{VQ6192_SDH_GetSDHMap(kChip, 0, 0, &type), type}), ints(0x03080006, NULL_MAP_PATH));
     EXPECT_EQ(capture.traceTexts(), (std::vector<std::string>{
                                         "Err. VQ6192_SDH_GetSDHMap.VQ6192_MAP_STRUC1_ReadVttuType(1,0)       "
                                         "ErrCode[0x3080006]\r\n",

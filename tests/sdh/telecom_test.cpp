@@ -217,6 +217,7 @@ TEST_F(SamTest, SaBitExtraction) {
               ints(kSamParaErr, 0xEE, 0xFFF7));
     EXPECT_TRUE(capture.traceTexts().empty());
 }
+
 TEST_F(SamTest, ChannelAndGlobalSwitches) {
     // The register and the bits each call sets, from a register with every other bit set.
     const struct {
