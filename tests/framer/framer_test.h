@@ -24,10 +24,12 @@ constexpr uint32_t kTsBlock = 0x10ab;
 constexpr uint32_t kIngressSelect = 0;
 constexpr uint32_t kEgressSelect = 1;
 
-// EXPECT_EQ(ints(mode, value), ints(1, 0x5A)).
+// Several outputs in one comparison: EXPECT_EQ(ints(mode, value), ints(1, 0x5A)). A braced Ints is
+// evaluated left to right, so it can hold a call's status and then the outputs it filled.
+using Ints = std::vector<int64_t>;
 template <typename... T>
-std::vector<int> ints(T... v) {
-    return {static_cast<int>(v)...};
+Ints ints(T... v) {
+    return {static_cast<int64_t>(v)...};
 }
 
 class FramerTest : public vqtest::ChipTest {
@@ -54,20 +56,23 @@ class FramerTest : public vqtest::ChipTest {
     void tdm(uint32_t mode) { ASSERT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, mode), 0u); }
     bool wrote() { return !vqtest::writes(model.trace()).empty(); }
 
-    // Each call returns the parameter error, makes no bus access and prints the one parameter error line
-    // under the framer's print module.
-    void expectRefused(const std::vector<std::pair<const char *, std::function<uint32_t()>>> &calls) {
+    // Refused calls, made as the arguments after beginRefusals() (in any order): each returned the
+    // parameter error, none made a bus access, and each printed the parameter error line under the
+    // framer's print module.
+    void beginRefusals() {
+        capture.clear();
+        model.clearTrace();
         model.setTrace(true);
-        for (const auto &[name, call] : calls) {
-            capture.clear();
-            model.clearTrace();
-            EXPECT_EQ(call(), kParaErr) << name;
-            EXPECT_TRUE(model.trace().empty()) << name;
-            ASSERT_EQ(capture.traces.size(), 1u) << name;
-            EXPECT_EQ(capture.traces[0].module, uint32_t{VQ6192_MODULE_FRM}) << name;
-            EXPECT_EQ(capture.traces[0].text, "ParaErr.\r\n") << name;
-        }
+    }
+    template <typename... S>
+    void expectRefusals(S... got) {
         model.setTrace(false);
+        EXPECT_EQ(ints(got...), Ints(sizeof...(got), kParaErr));
+        EXPECT_TRUE(model.trace().empty());
+        ASSERT_EQ(capture.traces.size(), sizeof...(got));
+        for (const auto &t : capture.traces) {
+            EXPECT_EQ(ints(t.module, t.text == "ParaErr.\r\n"), ints(VQ6192_MODULE_FRM, 1));
+        }
     }
 };
 
