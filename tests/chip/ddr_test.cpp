@@ -109,6 +109,7 @@ TEST_F(Ddr, BlockWriteAndReadRoundTripWithAndWithoutSwap) {
     EXPECT_EQ(t, (Accesses{wr(0xC062, 0xFFEF), wr(0xC062, 0xFFFF), wr(0xC062, 0xFFEF)}));
     EXPECT_EQ(U16s(out, out + 32), U16s(data, data + 32));
     EXPECT_EQ(VQ6192_Base_ReadDdr64Bytes(kChip, addr, out, 1, 64), 0u);
+    expectRefused({"swap 2", kBasePara, [&] { return VQ6192_Base_ReadDdr64Bytes(kChip, addr, out, 2, 64); }});
     for (uint32_t k = 0; k < 32; ++k) {
         EXPECT_EQ(out[k], data[k ^ 3]) << k;  // the four words of each 64-bit group in reverse order
     }
@@ -206,29 +207,6 @@ TEST_F(Ddr, FifoFlagsLandInRecordOrder) {
         }
     }
     EXPECT_EQ(k, sizeof(F) + 2);
-}
-
-TEST_F(Ddr, ParameterErrors) {
-    uint16_t data[32] = {};
-    uint8_t failed = 0, st[VQ6192_DDR3STEP_STATUS_NUM];
-    VQ6192_DDR9STEP_RESULT r;
-    VQ6192_DDR3STEP_CTX ctx;
-    // clang-format off
-    expectRefused({
-        {"write null", kBasePara, [&] { return VQ6192_Base_WriteDdr64Bytes(kChip, 0, nullptr, 64); }},
-        {"read null", kBasePara, [&] { return VQ6192_Base_ReadDdr64Bytes(kChip, 0, nullptr, 0, 64); }},
-        {"read swap 2", kBasePara, [&] { return VQ6192_Base_ReadDdr64Bytes(kChip, 0, data, 2, 64); }},
-        {"scan null pattern", kBasePara, [&] { return VQ6192_Base_DDR9StepTest(kChip, nullptr, &failed); }},
-        {"scan null result", kBasePara, [&] { return VQ6192_Base_DDR9StepTest(kChip, kPattern, nullptr); }},
-        {"new scan null", kBasePara, [&] { return VQ6192_Base_DDR9StepTestNew(kChip, kPattern, nullptr); }},
-        {"new scan null pattern", kBasePara, [&] { return VQ6192_Base_DDR9StepTestNew(kChip, nullptr, &r); }},
-        {"stats null", kBasePara, [&] { return VQ6192_Base_GetDDRTestStats(kChip, nullptr); }},
-        {"fifo null", kBasePara, [&] { return VQ6192_Base_GetDDRFifoStats(kChip, nullptr); }},
-        {"counters null", kBasePara, [&] { return VQ6192_Base_GetDDRCntStats(kChip, nullptr); }},
-        {"3-step null status", kBasePara, [&] { return VQ6192_Base_DDR3StepTest(kChip, nullptr, &ctx); }},
-        {"3-step null ctx", kBasePara, [&] { return VQ6192_Base_DDR3StepTest(kChip, st, nullptr); }},
-    });
-    // clang-format on
 }
 
 }  // namespace

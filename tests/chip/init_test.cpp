@@ -65,8 +65,6 @@ TEST_F(Init, ParameterErrorsTouchNothing) {
         {"mode 0", kBasePara, [] { return VQ6192_Base_Initialize(kChip, 0, 0, 0, 0, nullptr); }},
         {"mode 3", kBasePara, [] { return VQ6192_Base_Initialize(kChip, 3, 0, 0, 0, nullptr); }},
         {"ddr test 2", kBasePara, [] { return VQ6192_Base_Initialize(kChip, 1, 0, 2, 0, nullptr); }},
-        {"null PLL table", kBasePara, [] { return VQ6192_Base_SetPLLCfg(kChip, nullptr); }},
-        {"null DDR flag", kBasePara, [] { return VQ6192_Base_InitDDR(kChip, nullptr, nullptr); }},
         {"reset mode 3", kBasePara, [] { return VQ6192_Base_ResetChip(kChip, 3); }},
         {"soft reset 2", kBasePara, [] { return VQ6192_Base_SetSoftResetModule(kChip, 1, 2); }},
         {"clock enable 2", kBasePara, [] { return VQ6192_Base_SetModuleClkEn(kChip, 1, 2); }},
