@@ -37,15 +37,12 @@ TEST(DumpLists, RegisterBlocks) {
         const VQ6192_DUMP_REG_BLOCK_S &b = g_VQ6192_ChipDump_DirectReg[i];
         SCOPED_TRACE(c.name);
         EXPECT_STREQ(b.pszName, c.name);
-        EXPECT_EQ(b.ulGroupId, c.id);
-        EXPECT_EQ(b.ucVersion, 3);
-        EXPECT_EQ(b.ucKind, 2);
-        ASSERT_EQ(b.ucRangeNum, c.ranges.size());
-        for (size_t r = 0; r < c.ranges.size(); ++r) {
-            EXPECT_EQ(
-                (std::array<uint16_t, 3>{b.astRange[r].usBase, b.astRange[r].usFirst, b.astRange[r].usLast}),
-                c.ranges[r]);
+        EXPECT_EQ((U32s{b.ulGroupId, b.ucVersion, b.ucKind}), (U32s{c.id, 3, 2}));
+        std::vector<std::array<uint16_t, 3>> ranges;
+        for (size_t r = 0; r < b.ucRangeNum; ++r) {
+            ranges.push_back({b.astRange[r].usBase, b.astRange[r].usFirst, b.astRange[r].usLast});
         }
+        EXPECT_EQ(ranges, c.ranges);
     }
 }
 
@@ -75,8 +72,7 @@ TEST(DumpLists, TableGroups) {
         const VQ6192_DUMP_TBL_GROUP_S &g = g_VQ6192_ChipDump_InDirectReg[i];
         SCOPED_TRACE(c.name);
         EXPECT_STREQ(g.pszName, c.name);
-        EXPECT_EQ(g.ulGroupId, c.id);
-        EXPECT_EQ(g.ucKind, 2);
+        EXPECT_EQ((U32s{g.ulGroupId, g.ucKind}), (U32s{c.id, 2}));
         ASSERT_EQ(g.ucTblNum, c.count);
         EXPECT_STREQ(g.astTbl[0].pszName, c.first);
         EXPECT_STREQ(g.astTbl[c.count - 1].pszName, c.last);
@@ -116,9 +112,8 @@ TEST(DumpLists, ImaGroupHasOneRecordPerSelectCode) {
     EXPECT_EQ(dumped.size(), g.ucTblNum);
 }
 
-bool sameField(const VQ6192_TBL_FIELD_S &a, const VQ6192_TBL_FIELD_S &b) {
-    return a.ulRegNo == b.ulRegNo && a.usStartBit == b.usStartBit && a.usWidth == b.usWidth &&
-           a.usValue1 == b.usValue1 && a.usValue2 == b.usValue2;
+U32s field(const VQ6192_TBL_FIELD_S &f) {
+    return {f.ulRegNo, f.usStartBit, f.usWidth, f.usValue1, f.usValue2};
 }
 
 TEST(DumpLists, RecordsCopyTheCatalogueExceptTheDocumentedDifferences) {
@@ -140,20 +135,15 @@ TEST(DumpLists, RecordsCopyTheCatalogueExceptTheDocumentedDifferences) {
             if (id == 118 || id == 120) {
                 readCmd.usValue1 = 0;  // E3/VC-4 timeslot tables
             }
-            EXPECT_EQ(d.ulDepth, depth);
-            EXPECT_EQ(d.ulBlockBase, c.ulBlockBase);
-            EXPECT_EQ(d.usData16, c.usData16);
-            EXPECT_EQ(d.usWidth, c.usWidth);
-            EXPECT_EQ(d.ulCounterLayout, 0u);
-            EXPECT_EQ(d.ulAccessKind, c.ulAccessKind);
-            EXPECT_EQ(d.ulPresent, 1u);
-            EXPECT_TRUE(sameField(d.stWriteCmd, c.stWriteCmd));
-            EXPECT_TRUE(sameField(d.stReadCmd, readCmd));
-            EXPECT_TRUE(sameField(d.stBusy, c.stBusy));
-            EXPECT_TRUE(sameField(d.stSelect, c.stSelect));
-            EXPECT_TRUE(sameField(d.stAddress, c.stAddress));
-            EXPECT_TRUE(sameField(d.stWriteData, c.stWriteData));
-            EXPECT_TRUE(sameField(d.stReadData, c.stReadData));
+            EXPECT_EQ((U32s{d.ulDepth, d.ulBlockBase, d.usData16, d.usWidth, d.ulCounterLayout,
+                            d.ulAccessKind, d.ulPresent}),
+                      (U32s{depth, c.ulBlockBase, c.usData16, c.usWidth, 0, c.ulAccessKind, 1}));
+            EXPECT_EQ(field(d.stReadCmd), field(readCmd));
+            for (auto m : {&VQ6192_CHIP_TABLE_INFO_S::stWriteCmd, &VQ6192_CHIP_TABLE_INFO_S::stBusy,
+                           &VQ6192_CHIP_TABLE_INFO_S::stSelect, &VQ6192_CHIP_TABLE_INFO_S::stAddress,
+                           &VQ6192_CHIP_TABLE_INFO_S::stWriteData, &VQ6192_CHIP_TABLE_INFO_S::stReadData}) {
+                EXPECT_EQ(field(d.*m), field(c.*m));
+            }
         }
     }
 }
