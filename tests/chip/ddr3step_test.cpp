@@ -7,6 +7,7 @@ namespace {
 
 using namespace chiptest;
 using Short = vq6192::sim::DdrBlock::Short;
+using Ctx = VQ6192_DDR3STEP_CTX;
 
 const char *const kLineName[16] = {"A0", "A1", "A2",  "A3",  "A4",  "A5",  "A6",  "A7",
                                    "A8", "A9", "A10", "A11", "A12", "BA0", "BA1", "BA2"};
@@ -51,6 +52,14 @@ class Ddr3Step : public ChipFixture {
     static uint32_t addrMasks(const VQ6192_DDR3STEP_CTX &c) {
         return c.ulAddrShortXMask | c.ulAddrStuckAtMask | c.ulAddrShortMask | c.ulAddrUnknownMask;
     }
+    // One fault found: the status bytes at `at`, the one context mask that names it, the verdict lines.
+    static void expectFound(const Result &r, std::initializer_list<size_t> at, const U32s &status,
+                            uint32_t VQ6192_DDR3STEP_CTX::*mask, uint32_t bits, const Lines &verdicts) {
+        EXPECT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
+        EXPECT_EQ(st(r, at), status);
+        EXPECT_EQ((U32s{r.ctx.*mask, dataMasks(r.ctx) | addrMasks(r.ctx)}), (U32s{bits, bits}));
+        EXPECT_EQ(r.verdicts, verdicts);
+    }
     bool traced(const std::string &line) const {
         const auto t = capture.traceTexts();
         return std::find(t.begin(), t.end(), line) != t.end();
@@ -92,14 +101,11 @@ TEST_F(Ddr3Step, EveryStuckDataLineIsFoundInStepOne) {
             SCOPED_TRACE(testing::Message() << "DQ" << line << " stuck at " << value);
             ddr().clearFaults();
             ddr().stickDataLine(line, value);
-            const Result r = run();
-            EXPECT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-            EXPECT_EQ(st(r, {0, 1, 2}),
-                      (U32s{1, value ? VQ6192_DDR3STEP_STUCK_OPEN_1 : VQ6192_DDR3STEP_STUCK_OPEN_0, line}));
-            EXPECT_EQ(value ? r.ctx.ulStuckOpen1Mask : r.ctx.ulStuckOpen0Mask, 1u << line);
-            EXPECT_EQ(dataMasks(r.ctx), 1u << line);
-            EXPECT_EQ(r.verdicts, Lines{"data[" + std::to_string(line) + "] is Stuck-open-" +
-                                        (value ? "1" : "0") + " fault\n"});
+            expectFound(
+                run(), {0, 1, 2},
+                {1, value ? VQ6192_DDR3STEP_STUCK_OPEN_1 : VQ6192_DDR3STEP_STUCK_OPEN_0, line},
+                value ? &Ctx::ulStuckOpen1Mask : &Ctx::ulStuckOpen0Mask, 1u << line,
+                {"data[" + std::to_string(line) + "] is Stuck-open-" + (value ? "1" : "0") + " fault\n"});
         }
     }
 }
@@ -115,17 +121,12 @@ TEST_F(Ddr3Step, EveryDataLineShortIsFoundInStepTwo) {
                              << "DQ" << i << " DQ" << j << (kind == Short::And ? " AND" : " OR"));
                 ddr().clearFaults();
                 ddr().shortDataLines(j, i, kind);
-                const Result r = run();
-                ASSERT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-                EXPECT_EQ(
-                    st(r, {0, 3, 4, 6}),
-                    (U32s{2, kind == Short::And ? VQ6192_DDR3STEP_SHORT_0 : VQ6192_DDR3STEP_SHORT_1, i, j}));
-                EXPECT_EQ(kind == Short::And ? r.ctx.ulShort0Mask : r.ctx.ulShort1Mask, 1u << i);
-                EXPECT_EQ(dataMasks(r.ctx), 1u << i);
-                ASSERT_EQ(r.verdicts.size(), 1u);
-                EXPECT_EQ(r.verdicts[0], "\n Step 2: data[" + std::to_string(i) + "] and data[" +
-                                             std::to_string(j) + "] is Stuck-short-" +
-                                             (kind == Short::And ? "0" : "1") + " fault\n");
+                const bool to0 = kind == Short::And;
+                expectFound(run(), {0, 3, 4, 6},
+                            {2, to0 ? VQ6192_DDR3STEP_SHORT_0 : VQ6192_DDR3STEP_SHORT_1, i, j},
+                            to0 ? &Ctx::ulShort0Mask : &Ctx::ulShort1Mask, 1u << i,
+                            {"\n Step 2: data[" + std::to_string(i) + "] and data[" + std::to_string(j) +
+                             "] is Stuck-short-" + (to0 ? "0" : "1") + " fault\n"});
                 EXPECT_FALSE(traced("\nStep 2 PASS!"));
             }
         }
@@ -146,15 +147,15 @@ TEST_F(Ddr3Step, ShortOfBitsThreeAndFourAsTheReadBacksShowIt) {
 // Such pattern-dependent read-backs come from a read filter on the model.
 TEST_F(Ddr3Step, StepTwoStuckAtVerdicts) {
     struct Case {
-        const char *name;
         uint32_t bit, walkingZeroReadsAs, kind;  // walking zero: low byte of word 0; words 1..3 read 0
+        uint32_t Ctx::*mask;
         std::string text;
     };
     const Case cases[] = {
-        {"S-A-0", 5, 0, VQ6192_DDR3STEP_STUCK_AT_0, "\n Step 2: data[5] is S-A-0 fault\n"},
-        {"S-A-1", 17, 1, VQ6192_DDR3STEP_STUCK_AT_1, "\n Step 2: data[17] is S-A-1 fault\n"}};
+        {5, 0, VQ6192_DDR3STEP_STUCK_AT_0, &Ctx::ulStuckAt0Mask, "\n Step 2: data[5] is S-A-0 fault\n"},
+        {17, 1, VQ6192_DDR3STEP_STUCK_AT_1, &Ctx::ulStuckAt1Mask, "\n Step 2: data[17] is S-A-1 fault\n"}};
     for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
+        SCOPED_TRACE(c.text);
         ddr().clearFaults();
         ddr().setReadFilter([&](uint32_t addr, uint32_t words, vq6192::sim::DdrBlock::Block &b) {
             if (addr != 0x0FEFFF60 || words != 8) {
@@ -170,13 +171,7 @@ TEST_F(Ddr3Step, StepTwoStuckAtVerdicts) {
                 b[1] = b[2] = b[3] = 0;
             }
         });
-        const Result r = run();
-        EXPECT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-        EXPECT_EQ(st(r, {0, 3, 4}), (U32s{2, c.kind, c.bit}));
-        EXPECT_EQ(c.kind == VQ6192_DDR3STEP_STUCK_AT_0 ? r.ctx.ulStuckAt0Mask : r.ctx.ulStuckAt1Mask,
-                  1u << c.bit);
-        EXPECT_EQ(dataMasks(r.ctx), 1u << c.bit);
-        EXPECT_EQ(r.verdicts, Lines{c.text});
+        expectFound(run(), {0, 3, 4}, {2, c.kind, c.bit}, c.mask, 1u << c.bit, {c.text});
     }
 }
 
@@ -188,14 +183,8 @@ TEST_F(Ddr3Step, EveryStuckAddressLineIsFoundInStepThree) {
             SCOPED_TRACE(testing::Message() << kLineName[line] << " stuck at " << value);
             ddr().clearFaults();
             ddr().stickAddressLine(line, value);
-            const Result r = run();
-            EXPECT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-            EXPECT_EQ(st(r, {0, 5, 6}), (U32s{3, 0, kLineCode[line]}));
-            EXPECT_EQ(r.ctx.ulAddrShortXMask, 1u << line);
-            EXPECT_EQ(addrMasks(r.ctx), 1u << line);
-            EXPECT_EQ(dataMasks(r.ctx), 0u);
-            EXPECT_EQ(r.verdicts,
-                      Lines{std::string("\nStep 3ab: ") + kLineName[line] + " is Stuck-Short-x fault\n"});
+            expectFound(run(), {0, 5, 6}, {3, 0, kLineCode[line]}, &Ctx::ulAddrShortXMask, 1u << line,
+                        {std::string("\nStep 3ab: ") + kLineName[line] + " is Stuck-Short-x fault\n"});
         }
     }
 }
@@ -242,12 +231,9 @@ TEST_F(Ddr3Step, AliasedAndUnknownAddressVerdicts) {
             b[1] = 0x1234;
         }
     });
-    Result r = run();
-    EXPECT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-    EXPECT_EQ(st(r, {5, 6}), (U32s{VQ6192_DDR3STEP_ADDR_SHORT, 6}));
-    EXPECT_EQ(r.ctx.ulAddrShortMask, 1u << 5 | 1u << 6);
-    EXPECT_EQ(r.verdicts, (Lines{"\nStep 3ab: A5 is Stuck-Short-1 or Stuck-Short-0 fault\n",
-                                 "\nStep 3ab: A6 is Stuck-Short-1 or Stuck-Short-0 fault\n"}));
+    expectFound(run(), {5, 6}, {VQ6192_DDR3STEP_ADDR_SHORT, 6}, &Ctx::ulAddrShortMask, 1u << 5 | 1u << 6,
+                {"\nStep 3ab: A5 is Stuck-Short-1 or Stuck-Short-0 fault\n",
+                 "\nStep 3ab: A6 is Stuck-Short-1 or Stuck-Short-0 fault\n"});
     EXPECT_TRUE(traced(" 3a. aulTemReadData0[5]=0x12345678\n"));
 
     ddr().setReadFilter([](uint32_t addr, uint32_t words, vq6192::sim::DdrBlock::Block &b) {
@@ -256,12 +242,8 @@ TEST_F(Ddr3Step, AliasedAndUnknownAddressVerdicts) {
             b[1] = 0xDEAD;
         }
     });
-    r = run();
-    EXPECT_EQ(r.rc, VQ6192_DDR3STEP_FAULT);
-    EXPECT_EQ(st(r, {5, 6}), (U32s{0, 51}));
-    EXPECT_EQ(r.ctx.ulAddrUnknownMask, 1u << 14);
-    EXPECT_EQ(addrMasks(r.ctx), 1u << 14);
-    EXPECT_EQ(r.verdicts, Lines{"\nStep 3ab: BA1 is Un-Know fault\n"});
+    expectFound(run(), {5, 6}, {0, 51}, &Ctx::ulAddrUnknownMask, 1u << 14,
+                {"\nStep 3ab: BA1 is Un-Know fault\n"});
 }
 
 // A block access that fails ends the test with its status and, in steps 1 and 2, a line naming it.
