@@ -57,8 +57,6 @@ class Init : public ChipFixture {
     }
 };
 
-// ---- parameter errors ------------------------------------------------------------------------------
-
 TEST_F(Init, ParameterErrorsTouchNothing) {
     // clang-format off
     expectRefused({
@@ -74,8 +72,6 @@ TEST_F(Init, ParameterErrorsTouchNothing) {
     });
     // clang-format on
 }
-
-// ---- PLLs --------------------------------------------------------------------------------------------
 
 TEST_F(Init, PllRegisterSetsFromTheTables) {
     struct Pll {
@@ -138,22 +134,17 @@ TEST_F(Init, UnlockedPllFailsButTheOthersAreProgrammed) {
         EXPECT_EQ(capture.traceTexts(), Lines{text});
         // The failing PLL stops after its first check; the later PLLs are still programmed.
         EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 1000000u - 2u * 50000u);
-        EXPECT_TRUE(wrote(t, 0x80));
-        EXPECT_TRUE(wrote(t, 0x8A));
+        EXPECT_TRUE(wrote(t, 0x80) && wrote(t, 0x8A));
         clocks().setPllLocked(pll, true);
     }
 }
 
-// ---- reset, soft resets, clock enables ----------------------------------------------------------------
-
-TEST_F(Init, ChipResetPulsesEveryResetBit) {
+TEST_F(Init, ResetsAndClockEnables) {
+    // The chip reset pulses every reset bit.
     model.poke(0x0C, 0xFFC0);
     EXPECT_EQ(writes(traced([&] { EXPECT_EQ(VQ6192_Base_ResetChip(kChip, 1), 0u); })),
               (Accesses{wr(0x0A, 0xFFFF), wr(0x0C, 0xFFFF), wr(0x0A, 0), wr(0x0C, 0xFFC0)}));
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 20000u);
-}
-
-TEST_F(Init, SoftResetAndClockEnableBits) {
     struct Case {
         const char *name;
         bool clock;
@@ -181,8 +172,6 @@ TEST_F(Init, SoftResetAndClockEnableBits) {
         EXPECT_EQ(peek({c.reg}), U32s{c.after});
     }
 }
-
-// ---- DDR start-up ----------------------------------------------------------------------------------------
 
 // The start-up sequence of a healthy DDR, the address map registers starting at all ones.
 Accesses healthyDdrWrites(uint32_t config, uint32_t timing1, uint32_t mode0) {
@@ -327,8 +316,6 @@ TEST_F(Init, WriteLevellingCorrection) {
     ddrCtrl().setBusyReads(0);
 }
 
-// ---- the whole bring-up ---------------------------------------------------------------------------------
-
 TEST_F(Init, FullBringUpOrderAndWaits) {
     // The initialisers' own waits, measured alone.
     VQ6192_Platform_ResetVirtualTime();
@@ -346,14 +333,13 @@ TEST_F(Init, FullBringUpOrderAndWaits) {
     // SerDes: 100 us and six short delays, one lock poll.
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(),
               70000u + 1000000u + 160000u + 160220u + 100u + 6u * 50u + 50u + initialisers);
-    // Step order on the bus.
     const uint32_t landmarks[] = {0x20, 0x06, 0x0A, 0x04, 0xC12C, 0xD000, 0x200, 0x220};
     for (size_t i = 1; i < std::size(landmarks); ++i) {
         EXPECT_LT(firstAccess(t, landmarks[i - 1]), firstAccess(t, landmarks[i])) << std::hex << landmarks[i];
     }
-    EXPECT_EQ(peek({0x06, 0x08}), (U32s{0xFFDF, 0xFFC0}));
-    EXPECT_EQ(model.peek(0x0A) & 0x3000, 0);
-    EXPECT_EQ(clocks().serdesLockReads(), 1u);
+    EXPECT_EQ((U32s{model.peek(0x06), model.peek(0x08), model.peek(0x0A) & 0x3000u,
+                    uint32_t(clocks().serdesLockReads())}),
+              (U32s{0xFFDF, 0xFFC0, 0, 1}));
 }
 
 TEST_F(Init, MacPortsGetPreamblesThenComeUp) {
@@ -470,9 +456,7 @@ TEST_F(Init, BringUpFailures) {
                 EXPECT_EQ(line.level, 4u);
             }
         }
-        // Bring-up stops at the failing step: the SerDes are never started.
-        EXPECT_FALSE(wrote(t, 0x200));
-        // Undo the fault on a fresh model state.
+        EXPECT_FALSE(wrote(t, 0x200)) << "bring-up stops at the failing step: the SerDes are never started";
         control().setNonInvertingBits(0);
         clocks().setPllLocked(2, true);
         ddrCtrl().setBusyReads(0);
@@ -499,17 +483,14 @@ TEST_F(Init, RestoreRunsOnlyTheModuleInitialisers) {
 
 TEST_F(Init, MacPortFailuresAreToldApart) {
     ASSERT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 0, 0, nullptr), 0u);
-    const auto steps = vq::chip::bringUpSteps();
-    const auto ports = std::find_if(steps.begin(), steps.end(),
-                                    [](const auto &s) { return std::string(s.name) == "MAC ports"; });
-    ASSERT_NE(ports, steps.end());
-    EXPECT_EQ(ports, steps.end() - 1);  // the last step
+    const vq::chip::BringUpStep &ports = vq::chip::bringUpSteps().back();  // the last step
+    ASSERT_STREQ(ports.name, "MAC ports");
     // A lock failure injected ever later in the step: port 1 fails first, then port 2, then nothing.
     const vq::chip::BringUpRun run{kChip, 1, 0, 0, 0, nullptr};
     std::vector<uint32_t> seen;
     for (uint32_t after = 0; after < 64; ++after) {
         VQ6192_Platform_FailSemTakes(after, 1);
-        const uint32_t rc = ports->run(run);
+        const uint32_t rc = ports.run(run);
         VQ6192_Platform_FailSemTakes(0, 0);
         if (seen.empty() || seen.back() != rc) {
             seen.push_back(rc);
