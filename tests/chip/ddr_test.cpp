@@ -170,26 +170,15 @@ TEST_F(Ddr, BusyTableTimesOut) {
 
 TEST_F(Ddr, FifoFlagsLandInRecordOrder) {
     using F = VQ6192_DDR_FIFO_STAT;
-    // The registers in record order with their flag bits, most significant first.
-    const std::vector<uint32_t> six = {5, 4, 3, 2, 1, 0}, four = {3, 2, 1, 0};
-    const std::pair<uint32_t, std::vector<uint32_t>> order[] = {
-        {0xC004, {10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0}},
-        {0xC060, {1, 0}},
-        {0xC100, four},
-        {0xC126, four},
-        {0xC12E, six},
-        {0xC136, six},
-        {0xC13E, six},
-        {0xC146, six},
-        {0xC14E, six},
-        {0xC156, six},
-        {0xC15E, six},
-        {0xC166, four},
-        {0xC16E, six},
-        {0xC176, {5, 4, 1, 0}},
-        {0xC176, {2}},   // no flag
-        {0xC004, {11}},  // no flag
-    };
+    // The registers in record order with their flag bits, most significant first; the last two rows are
+    // bits that carry no flag.
+    const U32s six = {5, 4, 3, 2, 1, 0}, four = {3, 2, 1, 0};
+    // clang-format off
+    const std::pair<uint32_t, U32s> order[] = {
+        {0xC004, {10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0}}, {0xC060, {1, 0}}, {0xC100, four}, {0xC126, four}, {0xC12E, six},
+        {0xC136, six}, {0xC13E, six}, {0xC146, six}, {0xC14E, six}, {0xC156, six}, {0xC15E, six}, {0xC166, four},
+        {0xC16E, six}, {0xC176, {5, 4, 1, 0}}, {0xC176, {2}}, {0xC004, {11}}};
+    // clang-format on
     size_t k = 0;
     for (const auto &[reg, bits] : order) {
         for (uint32_t bit : bits) {
