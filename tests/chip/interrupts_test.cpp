@@ -131,8 +131,7 @@ TEST_F(Interrupts, CesTimingRecoveryPendingInstance) {
     uint16_t inst = 0, f3 = 9, f2 = 9, f0 = 9;
     EXPECT_EQ(writes(traced([&] { EXPECT_EQ(VQ6192_INT_GetCesTrInt(kChip, &inst, &f3, &f2, &f0, 1), 0u); })),
               (Accesses{wr(0x1706E, 0xA0F)}));
-    EXPECT_EQ((U16s{inst, f3, f2, f0}), (U16s{7, 1, 1, 1}));
-    EXPECT_EQ(model.peek(0x1706E), 0);
+    EXPECT_EQ((U16s{inst, f3, f2, f0, model.peek(0x1706E)}), (U16s{7, 1, 1, 1, 0}));
     EXPECT_EQ(writes(traced([&] { EXPECT_EQ(VQ6192_INT_GetCesTrInt(kChip, &inst, &f3, &f2, &f0, 0), 0u); })),
               Accesses{});
     EXPECT_EQ((U16s{inst, f3, f2, f0}), (U16s{9, 0, 1, 0}));
@@ -159,22 +158,22 @@ TEST_F(Interrupts, EngineEnables) {
         EXPECT_EQ(model.peek(0x170A0 + 2 * i), 0xF) << i;
     }
     uint16_t inst = 0, f = 9;
-    EXPECT_EQ(VQ6192_INT_GetCesTrInt(kChip, &inst, &f, &f, &f, 1), VQ6192_INT_CES_TR_NONE);
-    EXPECT_EQ(inst, 0xFFFF);
+    EXPECT_EQ((U32s{VQ6192_INT_GetCesTrInt(kChip, &inst, &f, &f, &f, 1), inst}),
+              (U32s{VQ6192_INT_CES_TR_NONE, 0xFFFF}));
 
     model.poke(0x16180, 0x8F8F);  // channel 100: group 1, bits 4..6
     EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_INT_SetCesIntEn(kChip, 100, 1, 0, 0), 0u); }),
               (Accesses{rd(0x16180, 0x8F8F), wr(0x16180, 0x8FFF)}));
-    EXPECT_EQ(VQ6192_INT_SetCesIntEn(kChip, 335, 1, 1, 1), 0u);  // 335 mod 84 = 83, group 3
-    EXPECT_EQ(model.peek(0x16160 + 2 * 83), 0x7000);
     model.poke(0x16160, 0x8888);
-    EXPECT_EQ(VQ6192_INT_SetCesIntEn(kChip, VQ6192_INT_ALL, 1, 0, 0), 0u);
+    EXPECT_EQ(
+        (U32s{VQ6192_INT_SetCesIntEn(kChip, 335, 1, 1, 1), model.peek(0x16160 + 2 * 83),  // 335 mod 84 = 83
+              VQ6192_INT_SetCesIntEn(kChip, VQ6192_INT_ALL, 1, 0, 0), model.peek(0x16160)}),
+        (U32s{0, 0x7000, 0, 0xFFFF}));  // group 3 of channel 83; every group of every channel
     for (uint32_t k = 0; k < 84; ++k) {
         EXPECT_EQ(model.peek(0x16160 + 2 * k) & 0x7777, 0x7777) << k;
     }
-    EXPECT_EQ(model.peek(0x16160), 0xFFFF);
-    EXPECT_EQ(VQ6192_INT_SetCesIntEn(kChip, VQ6192_INT_ALL, 0, 0, 0), 0u);
-    EXPECT_EQ(model.peek(0x16160), 0x8888);
+    EXPECT_EQ((U32s{VQ6192_INT_SetCesIntEn(kChip, VQ6192_INT_ALL, 0, 0, 0), model.peek(0x16160)}),
+              (U32s{0, 0x8888}));
 }
 
 TEST_F(Interrupts, E1MapperRegisters) {
@@ -189,17 +188,18 @@ TEST_F(Interrupts, E1MapperRegisters) {
         EXPECT_EQ(VQ6192_INT_GetE1MapRfpInt(kChip, &f1, &f2, clear), 0u);
         EXPECT_EQ((U16s{f1, f2}), want);
     }
-    struct LpCase {
-        uint32_t type, group, index, addr;
-    };
-    for (const LpCase &c : {LpCase{0, 1, 2, 0x7C38C}, LpCase{1, 3, 62, 0xDC38C}, LpCase{2, 0, 27, 0x2C38C},
-                            LpCase{2, 2, 28, 0x9C38C}, LpCase{0, 0, 0, 0x2C38C}}) {
-        SCOPED_TRACE(testing::Message() << c.type << "/" << c.group << "/" << c.index);
-        model.poke(c.addr, 0xFFFD);
-        EXPECT_EQ(writes(traced([&] {
-                      EXPECT_EQ(VQ6192_INT_SetE1MapLpIntEn(kChip, c.type, c.group, c.index, 1), 0u);
-                  })),
-                  Accesses{wr(c.addr, 0xFFFF)});
+    // Low-order path enables: type, group, index and the register of their bit 1.
+    for (const auto &[type, group, index, addr] : {std::array<uint32_t, 4>{0, 1, 2, 0x7C38C},
+                                                   {1, 3, 62, 0xDC38C},
+                                                   {2, 0, 27, 0x2C38C},
+                                                   {2, 2, 28, 0x9C38C},
+                                                   {0, 0, 0, 0x2C38C}}) {
+        SCOPED_TRACE(testing::Message() << type << "/" << group << "/" << index);
+        model.poke(addr, 0xFFFD);
+        uint32_t rc = 1;
+        EXPECT_EQ(writes(traced([&] { rc = VQ6192_INT_SetE1MapLpIntEn(kChip, type, group, index, 1); })),
+                  Accesses{wr(addr, 0xFFFF)});
+        EXPECT_EQ(rc, 0u);
     }
     poke({{0x39A22, 0x2}, {0x2C30C, 0xFFFB}, {0x2C0DE, 0x8}});  // LP: type 3, index 90
     EXPECT_EQ(
@@ -215,8 +215,7 @@ TEST_F(Interrupts, E1MapperRegisters) {
 }
 
 TEST_F(Interrupts, TimeslotBusAndE3T3Ports) {
-    uint16_t a = 0, b = 0;
-    uint16_t c = 0, d = 0;
+    uint16_t a = 0, b = 0, c = 0, d = 0;
     poke({{0x2A01E, 0xF000}, {0x2A01C, 0xFF80}});
     EXPECT_EQ((U32s{VQ6192_INT_SetHtbWarmIntEn(kChip, 5, 63), VQ6192_INT_GetHtbWarmInt(kChip, &a, &b),
                     VQ6192_INT_SetHtbB2sfIntEn(kChip, 1, 10), VQ6192_INT_GetHtbB2sfInt(kChip, &c, &d)}),
