@@ -10,14 +10,12 @@ using Health = ChipFixture;
 
 TEST_F(Health, VersionTextAndRegister) {
     char buf[64] = {};
-    EXPECT_EQ(VQ6192_Base_GetVersion(kChip, buf, 40), 0u);
-    EXPECT_STREQ(buf, "VQ6192V0210 DRV REL 2.5.600  \n");
     control().setVersion(0xABCD, 0x0001);
-    EXPECT_EQ(VQ6192_Base_GetVersion(kChip, buf, sizeof buf), 0u);
+    EXPECT_EQ(VQ6192_Base_GetVersion(kChip, buf, 40), 0u);  // 40 bytes are enough
     EXPECT_STREQ(buf, "VQabcdV0001 DRV REL 2.5.600  \n");
     uint32_t reg = 0;
     EXPECT_EQ(traced([&] { EXPECT_EQ(VQ6192_Base_GetVersionReg(kChip, &reg), 0u); }),
-              (std::vector<BusAccess>{rd(0x00, 0xABCD), rd(0x02, 0x0001)}));
+              (Accesses{rd(0x00, 0xABCD), rd(0x02, 0x0001)}));
     EXPECT_EQ(reg, 0xABCD0001u);
 }
 
@@ -60,13 +58,9 @@ TEST_F(Health, RegisterTestReportsTheStepAndTheBitsThatDidNotInvert) {
 }
 
 TEST_F(Health, DieIdRecord) {
-    vq6192::sim::ChipControlBlock::DieId id;
-    id.ctrl = 0x9;   // read protect, write done
-    id.crc = 0x0A7;  // CRC wrong, CRC 0xA7
-    id.words = {1, 2, 3, 4, 5, 6, 0xFFFF, 0xFFFF};
-    control().setDieId(id);
+    // Control 0x9: read protect, write done; CRC 0x0A7: CRC wrong, CRC 0xA7.
+    control().setDieId({0x9, 0x0A7, {1, 2, 3, 4, 5, 6, 0xFFFF, 0xFFFF}});
     VQ6192_DIE_ID die{};
-    static_assert(sizeof die == VQ6192_DIE_ID_SIZE);
     EXPECT_EQ(VQ6192_Base_GetDieID(kChip, &die), 0u);
     EXPECT_EQ((U16s{die.byRead_protect_out, die.byWrite_protect_out, die.byDieId_read_done,
                     die.byDieId_write_done, die.byDieId_crc_right, die.byDieId_crc}),
