@@ -415,7 +415,7 @@ TEST_F(Init, SerdesLockAndShortDelays) {
 TEST_F(Init, BringUpFailures) {
     struct Case {
         const char *name;
-        std::function<void()> fault;
+        std::function<void(bool)> fault;  // injects (true) or removes (false) the fault
         uint32_t tdm, ddrTest, frmOption, rc;
         std::string trace;  // a line the failure traces, or its start
     };
@@ -423,27 +423,27 @@ TEST_F(Init, BringUpFailures) {
     const std::string step = "Err. VQ6192_Base_Initialize.  ";
     // clang-format off
     const Case cases[] = {
-        {"PLL2 unlocked", [this] { clocks().setPllLocked(2, false); }, 0, 0, 0, kStepFailed,
+        {"PLL2 unlocked", [this](bool on) { clocks().setPllLocked(2, !on); }, 0, 0, 0, kStepFailed,
          "Err. VQ6192_Base_SetPLLCfg.  SetPLL2, ChkTime[0x1], PLL Stat[0x4]\n, ErrCode[0x3010003]\r\n"},
-        {"TDM mode refused", [] {}, 2, 0, 0, kStepFailed, step + "VQ6192_Framer_SetFrmTDMMode ErrCode[0x30e0001]\r\n"},
-        {"register test", [this] { control().setNonInvertingBits(0xFFFF); }, 0, 0, 0, kStepFailed,
+        {"TDM mode refused", [](bool) {}, 2, 0, 0, kStepFailed, step + "VQ6192_Framer_SetFrmTDMMode ErrCode[0x30e0001]\r\n"},
+        {"register test", [this](bool on) { control().setNonInvertingBits(on ? 0xFFFF : 0); }, 0, 0, 0, kStepFailed,
          step + "VQ6192_Base_GetChipStatus ErrCode[0x3010007]\r\n"},
-        {"DDR never ready", [this] { ddrCtrl().setBusyReads(DdrCtrlBlock::kForever); }, 0, 0, 0, kDdrStartFailed,
-         "Err. VQ6192_Base_InitDDR.  TimeOut \r\n"},
-        {"DDR training", [this] { ddrCtrl().setTraining(7); }, 0, 0, 0, kDdrStartFailed,
+        {"DDR never ready", [this](bool on) { ddrCtrl().setBusyReads(on ? DdrCtrlBlock::kForever : 0); }, 0, 0, 0,
+         kDdrStartFailed, "Err. VQ6192_Base_InitDDR.  TimeOut \r\n"},
+        {"DDR training", [this](bool on) { ddrCtrl().setTraining(on ? 7 : 15); }, 0, 0, 0, kDdrStartFailed,
          "Err. VQ6192_Base_InitDDR.  DDR Init Dtr Err[700]. \r\n"},
-        {"DDR scan error", [this] { ddr().failScan(0x100, 2, {0, 0, 0, 0}); }, 0, 1, 0, kStepFailed,
-         step + "VQ6192_Base_DDR9StepTest ErrCode[0x3010007]\r\n"},
-        {"MAC tables stuck", [&] { model.tables().holdBusy(0x4000, stuck); }, 0, 0, 0, kStepFailed,
+        {"DDR scan error", [this](bool on) { on ? ddr().failScan(0x100, 2, {0, 0, 0, 0}) : ddr().passScan(); }, 0, 1, 0,
+         kStepFailed, step + "VQ6192_Base_DDR9StepTest ErrCode[0x3010007]\r\n"},
+        {"MAC tables stuck", [&](bool on) { model.tables().holdBusy(0x4000, on ? stuck : 0); }, 0, 0, 0, kStepFailed,
          step + "VQ6192_ETH_SetMACAttr ErrCode["},
-        {"CES tables stuck", [&] { model.tables().holdBusy(0xA000, stuck); }, 0, 0, 0, kStepFailed,
+        {"CES tables stuck", [&](bool on) { model.tables().holdBusy(0xA000, on ? stuck : 0); }, 0, 0, 0, kStepFailed,
          step + "VQ6192_CES_InitCesModule ErrCode["},
-        {"framer option low byte 2", [] {}, 0, 0, 0x0102, kStepFailed, step + "VQ6192_Framer_FrmInit ErrCode[0x30e0001]\r\n"},
+        {"framer option low byte 2", [](bool) {}, 0, 0, 0x0102, kStepFailed, step + "VQ6192_Framer_FrmInit ErrCode[0x30e0001]\r\n"},
     };
     // clang-format on
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
-        c.fault();
+        c.fault(true);
         capture.clear();
         const auto t = traced([&] {
             EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, c.tdm, c.ddrTest, c.frmOption, nullptr), c.rc);
@@ -457,13 +457,7 @@ TEST_F(Init, BringUpFailures) {
             }
         }
         EXPECT_FALSE(wrote(t, 0x200)) << "bring-up stops at the failing step: the SerDes are never started";
-        control().setNonInvertingBits(0);
-        clocks().setPllLocked(2, true);
-        ddrCtrl().setBusyReads(0);
-        ddrCtrl().setTraining(15);
-        ddr().passScan();
-        model.tables().holdBusy(0x4000, 0);
-        model.tables().holdBusy(0xA000, 0);
+        c.fault(false);
     }
     // With the scan passing, the DDR test runs and bring-up completes.
     EXPECT_EQ(VQ6192_Base_Initialize(kChip, 1, 0, 1, 0, nullptr), 0u);
