@@ -23,6 +23,7 @@ using Lines = std::vector<std::string>;
 using Accesses = std::vector<BusAccess>;
 using U16s = std::vector<uint16_t>;
 using U32s = std::vector<uint32_t>;
+using U64s = std::vector<uint64_t>;
 
 // Status codes of chip 3.
 constexpr uint32_t kBasePara = 0x03010001;
