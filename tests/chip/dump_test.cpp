@@ -269,25 +269,21 @@ TEST_F(TableReadTest, ReadsAnEntryWithTheRecordsProtocol) {
     EXPECT_EQ(reads, (U32s{0xA006, 0xA006, 0xA040, 0xA042, 0xA044, 0xA046, 0xA048, 0xA04A, 0xA04C, 0xA04E,
                            0xA050, 0xA052}));
     EXPECT_EQ((U32s{uint32_t(model.arbitrationsTaken()), uint32_t(model.cardPresentAsked())}), (U32s{0, 0}));
-}
-
-TEST_F(TableReadTest, OddDataRegisterCountKeepsTheHighHalf) {
+    // An odd count of data registers (TS_DL_ET1_TAB) keeps the high half of the last word.
     model.tables().setEntry(0x10ab, 1, 7, halves({0x1234}));
-    uint32_t entry[1] = {0xDEAD0000u};
-    EXPECT_EQ(VQ6192_DUMP_ReadDumpTbl(kChip, kTsGroup, 0, 7, entry), 0u);  // TS_DL_ET1_TAB
-    EXPECT_EQ(entry[0], 0xDEAD1234u);
+    entry[0] = 0xDEAD0000u;
+    EXPECT_EQ((U32s{VQ6192_DUMP_ReadDumpTbl(kChip, kTsGroup, 0, 7, entry), entry[0]}),
+              (U32s{0, 0xDEAD1234u}));
 }
 
-TEST_F(TableReadTest, BusyTimeOuts) {
+TEST_F(TableReadTest, BusyTimeOutsAndRefusals) {
     struct Case {
         const char *what;
-        uint32_t holdPolls, commandPolls, status;  // busy before and after the command
-        size_t busyReads;
-        bool dataRead;
+        uint32_t holdPolls, commandPolls, status, busyReads, dataRead;  // busy before and after the command
     } cases[] = {
-        {"stuck before the command", TableEngine::kForever, 0, kTimeout, 100, false},
-        {"99 polls after the command", 0, 99, 0, 101, true},
-        {"100 polls after the command", 0, 100, kTimeout, 101, false},
+        {"stuck before the command", TableEngine::kForever, 0, kTimeout, 100, 0},
+        {"99 polls after the command", 0, 99, 0, 101, 1},
+        {"100 polls after the command", 0, 100, kTimeout, 101, 0},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
@@ -296,23 +292,17 @@ TEST_F(TableReadTest, BusyTimeOuts) {
         uint32_t entry[5] = {};
         uint32_t rc = 1;
         const auto t = traced([&] { rc = VQ6192_DUMP_ReadDumpTbl(kChip, kAtmGroup, kPriTab, 0, entry); });
-        EXPECT_EQ(rc, c.status);
-        size_t busy = 0;
-        bool data = false;
+        uint32_t busy = 0, data = 0;
         for (const BusAccess &a : t) {
             busy += a.op == BusOp::Read && a.addr == 0xA006;
             data |= a.op == BusOp::Read && a.addr == 0xA040;
         }
-        EXPECT_EQ(busy, c.busyReads);
-        EXPECT_EQ(data, c.dataRead);
-        EXPECT_EQ(writes(t).empty(), c.holdPolls != 0);
+        EXPECT_EQ((U32s{rc, busy, data, writes(t).empty()}),
+                  (U32s{c.status, c.busyReads, c.dataRead, c.holdPolls != 0}));
         model.tables().holdBusy(0x5000, 0);
         model.tables().setCommandBusy(0x5000, 0);
     }
-    EXPECT_EQ(failCounters(), (std::vector<uint32_t>{0, 0, 0, 0})) << "the dump counts no table time-outs";
-}
-
-TEST_F(TableReadTest, ParameterErrorsTouchNoRegister) {
+    EXPECT_EQ(failCounters(), (U32s{0, 0, 0, 0})) << "the dump counts no table time-outs";
     uint32_t entry[16] = {};
     expectRefused(
         {{"group past the list", kPara, [&] { return VQ6192_DUMP_ReadDumpTbl(kChip, 7, 0, 0, entry); }},
