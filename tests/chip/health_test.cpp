@@ -37,18 +37,17 @@ TEST_F(Health, RegisterTestReportsTheStepAndTheBitsThatDidNotInvert) {
         control().setNonInvertingBits(c.nonInverting);
         model.stickBits(0x04, c.stuckAt1, c.stuckAt1);
         uint8_t failed = 9;
-        uint16_t readVal = 0, writeVal = 0;
-        EXPECT_EQ(VQ6192_Base_GetChipStatus(kChip, &failed, &readVal, &writeVal), c.rc);
-        EXPECT_EQ(failed, c.rc != 0 ? 1 : 0);
-        if (c.rc != 0) {
-            EXPECT_EQ(readVal, c.read);
-            EXPECT_EQ(writeVal, c.written);
-        }
-        uint16_t written = 0, read = 0;
+        uint16_t readVal = 0, writeVal = 0, written = 0, read = 0;
         uint32_t fail[2] = {7, 7};
-        EXPECT_EQ(VQ6192_Base_ChipRWTest(kChip, &written, &read), c.rc);
-        EXPECT_EQ(VQ6192_Base_GetChipStatus_Test(kChip, fail), c.rc);
-        EXPECT_EQ((U32s{written, read, fail[0], fail[1]}), (U32s{c.written, c.read, c.fail0, c.fail1}));
+        EXPECT_EQ((U32s{VQ6192_Base_GetChipStatus(kChip, &failed, &readVal, &writeVal),
+                        VQ6192_Base_ChipRWTest(kChip, &written, &read),
+                        VQ6192_Base_GetChipStatus_Test(kChip, fail)}),
+                  U32s(3, c.rc));
+        EXPECT_EQ((U32s{failed, written, read, fail[0], fail[1]}),
+                  (U32s{c.rc != 0, c.written, c.read, c.fail0, c.fail1}));
+        if (c.rc != 0) {  // the failing step's values
+            EXPECT_EQ((U32s{readVal, writeVal}), (U32s{c.read, c.written}));
+        }
     }
     model.clearStuckBits();
     control().setNonInvertingBits(0);
@@ -224,10 +223,10 @@ TEST_F(Health, ServiceThatDoesNotPowerUpOrDown) {
         capture.clear();
         control().holdPowerStatus(s.block, static_cast<uint16_t>(s.mask >> 1));
         VQ6192_Platform_ResetVirtualTime();
-        const auto up =
-            writes(traced([&] { EXPECT_EQ(VQ6192_Base_SetSrvPowerDownEn(kChip, s.srv, 0), kBaseFailed); }));
-        EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 30u);  // three polls, 10 us each
-        EXPECT_EQ(up.size(), 1u) << "clock, reset and isolation stay as they were";
+        uint32_t rc = 0;
+        const auto up = writes(traced([&] { rc = VQ6192_Base_SetSrvPowerDownEn(kChip, s.srv, 0); }));
+        // Three polls, 10 us each; clock, reset and isolation stay as they were.
+        EXPECT_EQ((U64s{rc, VQ6192_Platform_GetVirtualTimeUs(), up.size()}), (U64s{kBaseFailed, 30, 1}));
         EXPECT_EQ(capture.traceTexts(), Lines{"Err. VQ6192_Base_SetSrvPowerDownEn.  Power On Err srv[" +
                                               s.on + "  ErrCode[0x3010007]\r\n"});
 
