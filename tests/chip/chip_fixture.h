@@ -55,18 +55,15 @@ class ChipFixture : public vqtest::ChipTest {
     vq6192::sim::DdrBlock &ddr() { return model.block<vq6192::sim::DdrBlock>(); }
     static Accesses writes(const Accesses &t) { return vqtest::writes(t); }
 
-    void expectRefused(const Refusal &r) {
-        SCOPED_TRACE(r.what);
-        capture.clear();
-        uint32_t rc = 0;
-        const auto t = traced([&] { rc = r.op(); });
-        EXPECT_EQ(rc, r.status);
-        EXPECT_TRUE(t.empty()) << t.size() << " bus accesses";
-        EXPECT_EQ(capture.traceTexts(), r.quiet ? Lines{} : Lines{"ParaErr.\r\n"});
-    }
     void expectRefused(std::initializer_list<Refusal> rows) {
         for (const Refusal &r : rows) {
-            expectRefused(r);
+            SCOPED_TRACE(r.what);
+            capture.clear();
+            uint32_t rc = 0;
+            const auto t = traced([&] { rc = r.op(); });
+            EXPECT_EQ(rc, r.status);
+            EXPECT_TRUE(t.empty()) << t.size() << " bus accesses";
+            EXPECT_EQ(capture.traceTexts(), r.quiet ? Lines{} : Lines{"ParaErr.\r\n"});
         }
     }
 };

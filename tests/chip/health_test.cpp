@@ -128,7 +128,7 @@ TEST_F(Health, ClockSelectionsWriteTheirBit) {
             (U32s{c.get(kChip, &on), c.set(kChip, CDK_FE_VQ6192_CLK_DETECT_SERDES), c.get(kChip, &off)}),
             U32s(3, 0));
         EXPECT_EQ((U32s{on, off, model.peek(c.addr)}), (U32s{1, 0, 0x1234u & ~(1u << c.bit)}));
-        expectRefused({"selection 2", kBasePara, [&] { return c.set(kChip, 2); }});
+        expectRefused({{"selection 2", kBasePara, [&] { return c.set(kChip, 2); }}});
     }
     // The SerDes transmit clock selection is mirrored into reg 0x240 bit 14.
     model.poke(0x240, 0);

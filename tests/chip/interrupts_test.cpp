@@ -233,7 +233,7 @@ TEST_F(Interrupts, TimeslotBusAndE3T3Ports) {
         EXPECT_EQ(peek({0x2B768}), U32s{0xFFF0u | 1u << (3 - kind)});
         EXPECT_EQ(out, 1);
     }
-    expectRefused({"et3 get kind 4", 0, [&] { return VQ6192_INT_GetET3Int(kChip, 0, 4, &out); }, true});
+    expectRefused({{"et3 get kind 4", 0, [&] { return VQ6192_INT_GetET3Int(kChip, 0, 4, &out); }, true}});
     EXPECT_EQ(out, 0);
 }
 
@@ -250,7 +250,7 @@ TEST_F(Interrupts, ParameterErrors) {
                        {"alarm", 1, [&] { return VQ6192_INT_GetIntAlm(kChip, id, 0, &u16); }, true}});
     }
     for (uint32_t id : {4u, 8u, 32u, 64u}) {
-        expectRefused({"sub 2", kIntPara, [&] { return VQ6192_INT_GetIntFlag(kChip, id, 2, 1, &u16); }});
+        expectRefused({{"sub 2", kIntPara, [&] { return VQ6192_INT_GetIntFlag(kChip, id, 2, 1, &u16); }}});
     }
     // clang-format off
     expectRefused({

@@ -100,7 +100,7 @@ TEST_F(RamBist, AllBlocksReportAMaskAndATable) {
 
 TEST_F(RamBist, ParameterErrors) {
     uint8_t failed = 0;
-    expectRefused({"block 9", kBasePara, [&] { return VQ6192_Base_RamBistTest(kChip, 9, &failed); }});
+    expectRefused({{"block 9", kBasePara, [&] { return VQ6192_Base_RamBistTest(kChip, 9, &failed); }}});
     EXPECT_EQ(VQ6192_Base_RamBist(264), 0x1FFu);  // nothing tested: every block reported failed
 }
 
@@ -201,7 +201,8 @@ TEST_F(Ddr, BlockWriteAndReadRoundTripWithAndWithoutSwap) {
     EXPECT_EQ(t, (Accesses{wr(0xC062, 0xFFEF), wr(0xC062, 0xFFFF), wr(0xC062, 0xFFEF)}));
     EXPECT_EQ(U16s(out, out + 32), U16s(data, data + 32));
     EXPECT_EQ(VQ6192_Base_ReadDdr64Bytes(kChip, addr, out, 1, 64), 0u);
-    expectRefused({"swap 2", kBasePara, [&] { return VQ6192_Base_ReadDdr64Bytes(kChip, addr, out, 2, 64); }});
+    expectRefused(
+        {{"swap 2", kBasePara, [&] { return VQ6192_Base_ReadDdr64Bytes(kChip, addr, out, 2, 64); }}});
     for (uint32_t k = 0; k < 32; ++k) {
         EXPECT_EQ(out[k], data[k ^ 3]) << k;  // the four words of each 64-bit group in reverse order
     }
