@@ -22,6 +22,8 @@ using vq6192::sim::BusOp;
 using Lines = std::vector<std::string>;
 using Accesses = std::vector<BusAccess>;
 using U16s = std::vector<uint16_t>;
+using U32s = std::vector<uint32_t>;
+using U64s = std::vector<uint64_t>;
 
 // Status codes of chip 3.
 constexpr uint32_t kBasePara = 0x03010001;
@@ -52,27 +54,16 @@ class ChipFixture : public vqtest::ChipTest {
     vq6192::sim::RamBistBlock &bist() { return model.block<vq6192::sim::RamBistBlock>(); }
     vq6192::sim::DdrBlock &ddr() { return model.block<vq6192::sim::DdrBlock>(); }
     static Accesses writes(const Accesses &t) { return vqtest::writes(t); }
-    // The registers at `addrs`, as the model holds them.
-    std::vector<uint16_t> peeks(std::initializer_list<uint32_t> addrs) {
-        std::vector<uint16_t> v;
-        for (uint32_t a : addrs) {
-            v.push_back(model.peek(a));
-        }
-        return v;
-    }
 
-    void expectRefused(const Refusal &r) {
-        SCOPED_TRACE(r.what);
-        capture.clear();
-        uint32_t rc = 0;
-        const auto t = traced([&] { rc = r.op(); });
-        EXPECT_EQ(rc, r.status);
-        EXPECT_TRUE(t.empty()) << t.size() << " bus accesses";
-        EXPECT_EQ(capture.traceTexts(), r.quiet ? Lines{} : Lines{"ParaErr.\r\n"});
-    }
     void expectRefused(std::initializer_list<Refusal> rows) {
         for (const Refusal &r : rows) {
-            expectRefused(r);
+            SCOPED_TRACE(r.what);
+            capture.clear();
+            uint32_t rc = 0;
+            const auto t = traced([&] { rc = r.op(); });
+            EXPECT_EQ(rc, r.status);
+            EXPECT_TRUE(t.empty()) << t.size() << " bus accesses";
+            EXPECT_EQ(capture.traceTexts(), r.quiet ? Lines{} : Lines{"ParaErr.\r\n"});
         }
     }
 };
