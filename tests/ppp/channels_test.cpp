@@ -15,18 +15,19 @@ constexpr uint32_t kTsIngress = 0;
 constexpr uint32_t kTsEgress = 1;
 
 TEST_F(PppTest, TypicalRequestPppChannelOnE1Tributary5) {
-    // Neighbouring bits set everywhere, the engines closed.
-    const uint32_t sels[] = {kTppucfg, kRppucfg, kLinkcfg, kHdlccfg1};
-    const uint64_t before[] = {0x3FFF, 0x1FFFFFFF, 0x3FFE, 0x6};
-    // Tppucfg Chcen (bit 12) and Rppucfg Chcen (bit 27) opened; Linkpppen and Mprxmlinktype0: PPP link.
-    const uint64_t after[] = {0x2FFF, 0x17FFFFFF, 0x3FFF, 0x7};
-    for (int k = 0; k < 4; ++k) {
-        setEntry(sels[k], 37, before[k]);
+    // Select, before (neighbours set, engines closed), after: Tppucfg Chcen (bit 12) and Rppucfg Chcen
+    // (bit 27) opened; Linkpppen and Mprxmlinktype0: PPP link.
+    const uint64_t rows[][3] = {{kTppucfg, 0x3FFF, 0x2FFF},
+                                {kRppucfg, 0x1FFFFFFF, 0x17FFFFFF},
+                                {kLinkcfg, 0x3FFE, 0x3FFF},
+                                {kHdlccfg1, 6, 7}};
+    for (const auto &[sel, before, after] : rows) {
+        setEntry(static_cast<uint32_t>(sel), 37, before);
     }
     const VQ6192_PPP_CHAN_S chan{5, 37, 0xFFFFFFFEu, 3};
     ASSERT_EQ(VQ6192_PPP_CreatePppChan(kChip, &chan), 0u);
-    for (int k = 0; k < 4; ++k) {
-        EXPECT_EQ(entry(sels[k], 37), after[k]) << sels[k];
+    for (const auto &[sel, before, after] : rows) {
+        EXPECT_EQ(entry(static_cast<uint32_t>(sel), 37), after) << sel;
     }
     // One entry per timeslot 1..31 in both directions: En, MLPPP module, 64 kbit/s, channel 37.
     for (uint32_t ts = 0; ts < 32; ++ts) {
@@ -66,29 +67,27 @@ TEST_F(PppTest, Vc4ChannelLivesAtItsInnerNumber) {
     ASSERT_EQ(VQ6192_PPP_SetMpVc4En(kChip, 1, 0), 0u);
     EXPECT_EQ(model.peek(kVc4Enable), 0x0u);
     EXPECT_EQ(entry(kHdfccfg, 1), 0xFF0003300019u);  // drop 255, high 51, low 25
-}
-
-TEST_F(PppTest, Vc4ChannelRefusedWhileItsEnableIsOff) {
-    model.poke(kVc4Enable, 0xD);  // every VC-4 channel but 1
-    const VQ6192_PPP_CHAN_S chan{1, 1, 0, 0};
-    PPP_REFUSED(VQ6192_PPP_CreateVC4PppChan(kChip, &chan), "usVc4Enable == VQ6192_PPP_ENABLE");
+    model.poke(kVc4Enable, 0xD);                     // every VC-4 channel but 1
+    const VQ6192_PPP_CHAN_S off{1, 1, 0, 0};
+    PPP_REFUSED(VQ6192_PPP_CreateVC4PppChan(kChip, &off), "usVc4Enable == VQ6192_PPP_ENABLE");
 }
 
 TEST_F(PppTest, DeleteRestoresTheChannelAndResetsIt) {
-    const uint32_t sels[] = {kHdlccfg1, kLinkcfg, kRppucfg, kTppucfg, kAfidcfg};
-    const uint64_t before[] = {0x7, 0x3FFF, 0x1FFFFFFF, 0x3FFF, 0xFFF};
-    for (int k = 0; k < 5; ++k) {
-        setEntry(sels[k], 9, before[k]);
+    // Hdlccfg1: ingress off, plain HDLC, loopback kept. Linkcfg: ACFC, PFC and PPP off. Rppucfg: Rxmtu 2036,
+    // Crcmod 0, Chcen 0, Crcfe kept. Tppucfg: Crcfe 0, Chcen 0. Afidcfg: Crcmod 0.
+    const uint64_t rows[][3] = {{kHdlccfg1, 0x7, 0x4},
+                                {kLinkcfg, 0x3FFF, 0x33FE},
+                                {kRppucfg, 0x1FFFFFFF, 0x14FFA7FF},
+                                {kTppucfg, 0x3FFF, 0x0FFF},
+                                {kAfidcfg, 0xFFF, 0xFF9}};
+    for (const auto &[sel, before, after] : rows) {
+        setEntry(static_cast<uint32_t>(sel), 9, before);
     }
     ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 7, 9, 1, 0x6, 3), 0u);
     model.setTrace(true);
     ASSERT_EQ(VQ6192_PPP_DelPppChan(kChip, 9, 7, 0x6), 0u);
-
-    // Hdlccfg1: ingress off, plain HDLC, loopback kept. Linkcfg: ACFC, PFC and PPP off. Rppucfg: Rxmtu 2036,
-    // Crcmod 0, Chcen 0, Crcfe kept. Tppucfg: Crcfe 0, Chcen 0. Afidcfg: Crcmod 0.
-    const uint64_t after[] = {0x4, 0x33FE, 0x14FFA7FF, 0x0FFF, 0xFF9};
-    for (int k = 0; k < 5; ++k) {
-        EXPECT_EQ(entry(sels[k], 9), after[k]) << sels[k];
+    for (const auto &[sel, before, after] : rows) {
+        EXPECT_EQ(entry(static_cast<uint32_t>(sel), 9), after) << sel;
     }
     EXPECT_EQ((U32s{tsEntry(kTsIngress, 7, 1), tsEntry(kTsIngress, 7, 2), tsEntry(kTsEgress, 7, 1),
                     tsEntry(kTsEgress, 7, 2)}),
@@ -166,10 +165,10 @@ TEST_F(PppTest, CrcModeGoesToThreeIngressPlacesAndOneEgress) {
     setEntry(kTppucfg, 40, 0x3FFF);
     model.poke(0x11200 + 2 * 40, 0xFFFF);
     ASSERT_EQ(VQ6192_PPP_SetPppCRCMode(kChip, 40, 2, 0), 0u);
-    EXPECT_EQ(entry(kRppucfg, 40), 0x1EFFFFFFu);       // Crcmod bits 24..25 = 2
-    EXPECT_EQ(entry(kAfidcfg, 40), 0xFFDu);            // Crcmod bits 1..2 = 2
-    EXPECT_EQ(model.peek(0x11200 + 2 * 40), 0xFFF7u);  // CRC correction bits 3..4 = 2
-    EXPECT_EQ(entry(kTppucfg, 40), 0x3FFFu) << "egress untouched";
+    // Rppucfg Crcmod bits 24..25, Afidcfg Crcmod bits 1..2, CRC correction bits 3..4 = 2; egress untouched.
+    EXPECT_EQ(
+        (U64s{entry(kRppucfg, 40), entry(kAfidcfg, 40), model.peek(0x11200 + 2 * 40), entry(kTppucfg, 40)}),
+        (U64s{0x1EFFFFFF, 0xFFD, 0xFFF7, 0x3FFF}));
     ASSERT_EQ(VQ6192_PPP_SetPppCRCMode(kChip, 40, 1, 1), 0u);
     EXPECT_EQ(entry(kTppucfg, 40), 0x3FF7u);  // Crcmod bits 2..3 = 1
     uint32_t eg = 9, in = 9;
@@ -187,8 +186,7 @@ TEST_F(PppTest, PpuConfigWritesOnlyTheSelectedFields) {
     const uint64_t writesBefore = model.tables().writesExecuted(kPppBlock);
     ASSERT_EQ(VQ6192_PPP_SetPppPpuCfg(kChip, 50, &cfg, &sel), 0u);
     // Rppucfg bits 24..25 = 1, Rxmintu untouched.
-    EXPECT_EQ((std::vector<uint64_t>{entry(kRppucfg, 50), entry(kTppucfg, 50)}),
-              (std::vector<uint64_t>{0x1DFFFFFF, 0x3FFF}));
+    EXPECT_EQ(entries({kRppucfg, kTppucfg}, 50), (U64s{0x1DFFFFFF, 0x3FFF}));
     EXPECT_EQ(model.tables().writesExecuted(kPppBlock) - writesBefore, 1u);
 
     // Every field, through the getter.
@@ -203,8 +201,7 @@ TEST_F(PppTest, PpuConfigWritesOnlyTheSelectedFields) {
     // Afidcfg: Rxafi 11, Mpv 3..10, Bytefe 0. Tppucfg: Chcen 12, Txaifs 11, Txifs 10, Txcfcs 9,
     // Txfmod 5..8, Fillmod 4, Crcmod 2..3, Die 1, Bytefe 0.
     // Rppucfg: Chcen 27, Fillmod 26, Crcmod 24..25, Die 23, Rxpldet 22, Rxmtu 11..21, Rxmintu 0..10.
-    EXPECT_EQ((std::vector<uint64_t>{entry(kAfidcfg, 51), entry(kTppucfg, 51), entry(kRppucfg, 51)}),
-              (std::vector<uint64_t>{0xD29, 0x1F3B, 0xEEEE00A}));
+    EXPECT_EQ(entries({kAfidcfg, kTppucfg, kRppucfg}, 51), (U64s{0xD29, 0x1F3B, 0xEEEE00A}));
     EXPECT_EQ(model.peek(0x11200 + 2 * 51) >> 3 & 3u, 2u);
     VQ6192_PPP_PPU_CFG_S back{};
     ASSERT_EQ(VQ6192_PPP_GetPppPpuCfg(kChip, 51, &back), 0u);
@@ -244,35 +241,29 @@ TEST_F(PppTest, TableFailuresAreOredAndLaterStepsStillRun) {
     setEntry(kRppucfg, 15, 0x08000000);
     model.tables().holdBusy(kPppBlock, 500);  // the first table access of the create fails
     EXPECT_EQ(VQ6192_PPP_CreatePppChanNoTS(kChip, 15, 1), kTableTimeout);
-    EXPECT_EQ((std::vector<uint64_t>{entry(kRppucfg, 15), entry(kLinkcfg, 15)}),
-              (std::vector<uint64_t>{0, 1}));
+    EXPECT_EQ(entries({kRppucfg, kLinkcfg}, 15), (U64s{0, 1}));
     EXPECT_EQ(failCounters()[3], 2u) << "both time-outs counted in the chip record";
     EXPECT_EQ(capture.traceTexts().back(), "Err. VQ6192_PPP_CreatePppChanNoTS Return:[0x30c0003]\n");
 }
 
-TEST_F(PppTest, PfcGetterReadsThePfcBit) {
-    setEntry(kLinkcfg, 11, 0);
-    ASSERT_EQ(VQ6192_PPP_SetPppACFCEnable(kChip, 11, 1), 0u);
-    ASSERT_EQ(VQ6192_PPP_SetPppPFCEnable(kChip, 11, 0), 0u);
+TEST_F(PppTest, PfcAndAcfcGettersReadTheirOwnBits) {
+    setEntry(kLinkcfg, 11, 0x37FF ^ 0x0C00);  // ACFC (bit 11) on, PFC (bit 10) off
     uint32_t pfc = 9, acfc = 9;
-    ASSERT_EQ(VQ6192_PPP_GetPppPFCEnable(kChip, 11, &pfc), 0u);
-    ASSERT_EQ(VQ6192_PPP_GetPppACFCEnable(kChip, 11, &acfc), 0u);
-    EXPECT_EQ(pfc, 0u);
-    EXPECT_EQ(acfc, 1u);
+    ASSERT_EQ(VQ6192_PPP_GetPppPFCEnable(kChip, 11, &pfc) | VQ6192_PPP_GetPppACFCEnable(kChip, 11, &acfc),
+              0u);
+    EXPECT_EQ((U32s{pfc, acfc}), (U32s{0, 1}));
 }
 
 TEST_F(PppTest, EgressQueueEnableOfALinkAndAFailedRead) {
     setEntry(kQmencfg, 5, 0xFF);
     ASSERT_EQ(VQ6192_PPP_SetPPPQmEnable(kChip, 41, 0, 0), 0u);
     EXPECT_EQ(entry(kQmencfg, 5), 0xFDu);  // link 41: entry 5, bit 1
+    // Failed reads, of the link's entry and of a bundle's SN format first: nothing written.
     model.tables().holdBusy(kPppBlock, vq6192::sim::TableEngine::kForever);
-    EXPECT_EQ(VQ6192_PPP_SetPPPQmEnable(kChip, 41, 0, 1), kNoData);
+    EXPECT_EQ((U32s{VQ6192_PPP_SetPPPQmEnable(kChip, 41, 0, 1), VQ6192_PPP_SetPPPQmEnable(kChip, 12, 1, 1)}),
+              (U32s{kNoData, kNoData}));
     model.tables().holdBusy(kPppBlock, 0);
-    EXPECT_EQ(entry(kQmencfg, 5), 0xFDu) << "nothing written after the failed read";
-    // A bundle: the SN format read comes first and its failure is reported the same way.
-    model.tables().holdBusy(kPppBlock, vq6192::sim::TableEngine::kForever);
-    EXPECT_EQ(VQ6192_PPP_SetPPPQmEnable(kChip, 12, 1, 1), kNoData);
-    model.tables().holdBusy(kPppBlock, 0);
+    EXPECT_EQ(entry(kQmencfg, 5), 0xFDu);
     EXPECT_EQ(entry(kQmencfg, 256 + 12), 0u);
     ASSERT_EQ(VQ6192_PPP_SetPPPQmEnable(kChip, 12, 1, 1), 0u);
     EXPECT_EQ(entry(kQmencfg, 256 + 12), 0xFFu);
@@ -302,21 +293,14 @@ TEST_F(PppTest, ModuleRegistersKeepTheirNeighbours) {
 }
 
 TEST_F(PppTest, ModuleGettersReadTheirRegisters) {
-    model.poke(0x1306A, 0x5678);
-    model.poke(0x1306C, 0x1234);
-    uint32_t cnt = 0;
-    ASSERT_EQ(VQ6192_PPP_GetPppRxCfgPrtcCnt(kChip, &cnt), 0u);
-    EXPECT_EQ(cnt, 0x12345678u);
-    uint32_t ppp = 9, mp = 9;
-    model.setTrace(true);
-    ASSERT_EQ(VQ6192_PPP_GetPppMpSchMode(kChip, &ppp, &mp), 0u);
-    EXPECT_EQ(ppp, 0u);
-    EXPECT_EQ(mp, 1u);
-    EXPECT_TRUE(model.trace().empty()) << "the scheduling mode is not read from the chip";
-    model.poke(0x130D4, 0xFF7F);
+    poke({{0x1306A, 0x5678}, {0x1306C, 0x1234}, {0x130D4, 0xFF7F}});
+    uint32_t cnt = 0, ppp = 9, mp = 9;
     uint16_t thld = 0;
-    ASSERT_EQ(VQ6192_PPP_GetMpAbortThld(kChip, &thld), 0u);
-    EXPECT_EQ(thld, 0x7Fu);
+    ASSERT_EQ(VQ6192_PPP_GetPppRxCfgPrtcCnt(kChip, &cnt) | VQ6192_PPP_GetMpAbortThld(kChip, &thld), 0u);
+    EXPECT_EQ((U32s{cnt, thld}), (U32s{0x12345678, 0x7F}));
+    EXPECT_TRUE(traced([&] { ASSERT_EQ(VQ6192_PPP_GetPppMpSchMode(kChip, &ppp, &mp), 0u); }).empty())
+        << "the scheduling mode is not read from the chip";
+    EXPECT_EQ((U32s{ppp, mp}), (U32s{0, 1}));
 }
 
 }  // namespace

@@ -24,23 +24,15 @@ class LifecycleTest : public PppTest {
             put("Mprxmhdlccfg2.type", ch, entry(kHdlccfg2, ch) >> 8);
             put("Linkcfg.member", ch, entry(kLinkcfg, ch) & 0x3);  // Linkmpen, Linkpppen
             put("Tppucfg.Chcen", ch, entry(kTppucfg, ch) >> 12 & 1u);
+            put("Qmencfg", ch, entry(kQmencfg, ch));
+            put("Pppencfg", ch / 2, entry(kPppencfg, ch / 2));
+            put("count", ch / 2, g_vq6192[kChip].aulMpChanCnt[ch / 2]);
+            put("bundle enable", ch / 32, model.peek(0x13240 + 2 * (ch / 32)));
+            put("group reset", ch / 32, model.peek(0x13080 + 2 * (ch / 32)));
         }
-        for (uint32_t i = 0; i < 512; ++i) {
-            put("Qmencfg", i, entry(kQmencfg, i));
-        }
-        for (uint32_t i = 0; i < 256; ++i) {
-            put("Pppencfg", i, entry(kPppencfg, i));
-            put("count", i, g_vq6192[kChip].aulMpChanCnt[i]);
-        }
-        for (uint32_t r = 0; r < 16; ++r) {
-            put("bundle enable", r, model.peek(0x13240 + 2 * r));
-            put("group reset", r, model.peek(0x13080 + 2 * r));
-        }
-        for (uint32_t e1 = 0; e1 < kTributaries; ++e1) {
-            for (uint32_t ts = 0; ts < 32; ++ts) {
-                put("ts in", e1 * 32 + ts, tsEntry(0, e1, ts) == 0 ? 0x7800 : tsEntry(0, e1, ts));
-                put("ts out", e1 * 32 + ts, tsEntry(1, e1, ts) == 0 ? 0x7800 : tsEntry(1, e1, ts));
-            }
+        for (uint32_t i = 0; i < kTributaries * 32; ++i) {
+            put("ts in", i, tsEntry(0, i / 32, i % 32) == 0 ? 0x7800 : tsEntry(0, i / 32, i % 32));
+            put("ts out", i, tsEntry(1, i / 32, i % 32) == 0 ? 0x7800 : tsEntry(1, i / 32, i % 32));
         }
         return s;
     }
