@@ -45,13 +45,11 @@ TEST_F(HelpersTest, LinkVectors) {
     // asymmetric one (link numbers, 40 sets no bit); the LID of link 9, and 0 for a link not found.
     uint32_t v[5] = {0, 0, 0, 9, 9};
     EXPECT_EQ(
-        (std::vector<uint32_t>{
-            VQ6192_setupTxLinksVec(kChip, 3, tx, &v[0]), VQ6192_setupRxLinksVec(kChip, 3, rx, tx, 1, &v[1]),
-            VQ6192_setupRxLinksVec(kChip, 3, rx, tx, 2, &v[2]), VQ6192_getLidFromPhy(kChip, 9, 3, tx, &v[3]),
-            VQ6192_getLidFromPhy(kChip, 10, 3, tx, &v[4])}),
-        std::vector<uint32_t>(5, 0));
-    EXPECT_EQ(std::vector<uint32_t>(v, v + 5),
-              (std::vector<uint32_t>{0x80000081, 0x80000081, 0x80000008, 7, 0}));
+        (U32s{VQ6192_setupTxLinksVec(kChip, 3, tx, &v[0]), VQ6192_setupRxLinksVec(kChip, 3, rx, tx, 1, &v[1]),
+              VQ6192_setupRxLinksVec(kChip, 3, rx, tx, 2, &v[2]),
+              VQ6192_getLidFromPhy(kChip, 9, 3, tx, &v[3]), VQ6192_getLidFromPhy(kChip, 10, 3, tx, &v[4])}),
+        U32s(5, 0));
+    EXPECT_EQ(U32s(v, v + 5), (U32s{0x80000081, 0x80000081, 0x80000008, 7, 0}));
 }
 
 TEST_F(HelpersTest, CaptureSubModes) {
@@ -81,10 +79,10 @@ TEST_F(HelpersTest, TcStateRecords) {
     ASSERT_EQ(VQ6192_IMA_GetTcLinkStatus(kChip, 11, rx0, rx1, nullptr, tx), 0u);
     // wRxScrambleByte0, wRxCdfsmSt SYNC, wRxDinDff1, the first receive word, wRxOcdCellCnt, dwHecCrcOut,
     // dwTxCellSentCnt.
-    EXPECT_EQ((std::vector<uint32_t>{rx0[0], rx0[5], rx0[14], rx1[0], rx1[5], tx[0], tx[3]}),
-              (std::vector<uint32_t>{0xBEEF, 2, 0x7A, 0xCAFE, 0x0101, 0x9C, 0x12345678}));
+    EXPECT_EQ((U32s{rx0[0], rx0[5], rx0[14], rx1[0], rx1[5], tx[0], tx[3]}),
+              (U32s{0xBEEF, 2, 0x7A, 0xCAFE, 0x0101, 0x9C, 0x12345678}));
     ASSERT_EQ(VQ6192_IMA_GetTcLinkStatus(kChip, 11, nullptr, rx1, nullptr, tx), 0u);
-    EXPECT_EQ((std::vector<uint32_t>{rx1[5], tx[3]}), (std::vector<uint32_t>{0, 0})) << "read-clear";
+    EXPECT_EQ((U32s{rx1[5], tx[3]}), (U32s{0, 0})) << "read-clear";
     expectRefused("no output",
                   [] { return VQ6192_IMA_GetTcLinkStatus(kChip, 11, nullptr, nullptr, nullptr, nullptr); });
 }

@@ -17,6 +17,9 @@ namespace imatest {
 using vq6192::sim::BusAccess;
 using vq6192::sim::BusOp;
 using Proc = vq6192::sim::ImaProcessor;
+using U32s = std::vector<uint32_t>;
+using U64s = std::vector<uint64_t>;
+using Texts = std::vector<std::string>;
 
 // Status codes of chip 3 (module field 13).
 constexpr uint32_t kPara = 0x030D0001;
@@ -68,17 +71,16 @@ class ImaTest : public vqtest::ChipTest {
         return n;
     }
 
-    // Refused with `status`, "ParaErr.\r\n" traced (or nothing when quiet) and no register touched.
-    void expectRefused(const char *what, const std::function<uint32_t()> &op, bool quiet = false,
-                       uint32_t status = kPara) {
+    // Refused with `status`, `text` traced (nothing when null) and no register touched.
+    void expectRefused(const std::string &what, const std::function<uint32_t()> &op,
+                       const char *text = "ParaErr.\r\n", uint32_t status = kPara) {
         SCOPED_TRACE(what);
         capture.clear();
         uint32_t rc = 0;
         const auto t = traced([&] { rc = op(); });
         EXPECT_EQ(rc, status);
         EXPECT_TRUE(t.empty()) << t.size() << " bus accesses";
-        EXPECT_EQ(capture.traceTexts(),
-                  quiet ? std::vector<std::string>{} : std::vector<std::string>{"ParaErr.\r\n"});
+        EXPECT_EQ(capture.traceTexts(), text ? Texts{text} : Texts{});
     }
 
     void SetUp() override {

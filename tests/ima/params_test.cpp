@@ -35,7 +35,7 @@ TEST_F(ParamsTest, RunningGroupParameters) {
     setBits(kPpB, kGpc, g * 16 + 2, 0, 32, 0x00000000);
     setBits(kTxB, kTxGpc, g, 0, 32, 0x0FFFFF01);
     setBits(kRxB, kRxGpc, g, 0, 32, 0xFFFFFC00);
-    using W = std::vector<uint32_t>;
+    using W = U32s;
     // Mask, value, then processor words 0..2, transmit and receive group configuration after the change.
     const std::tuple<const char *, IMA_GRP_PARAM, IMA_GRP_PARAM, W> cases[] = {
         {"third byte alone rewrites word 0 unchanged",
@@ -76,8 +76,7 @@ TEST_F(ParamsTest, Vc4PortRemoval) {
     setBits(kTxB, kInGrp, 170, 0, 256, 0);
     setBits(kTxB, kInGrp, 170, 168, 3, 7);
     ASSERT_EQ(VQ6192_IMA_DelVc4(kChip, 2, 9), 0u);
-    EXPECT_EQ(peek({0x4C24, 0x5028}), (std::vector<uint32_t>{0xFDFF, 0xFFFB}))
-        << "only the enable bits cleared";
+    EXPECT_EQ(peek({0x4C24, 0x5028}), (U32s{0xFDFF, 0xFFFB})) << "only the enable bits cleared";
     EXPECT_EQ(bits(kTxB, kInGrp, 170, 168, 3), 3u) << "link 170 (bit 2 of the three) leaves group 170";
     ASSERT_EQ(proc().commands().size(), 84u);
     EXPECT_EQ(proc().commands().front(), (Proc::Command{13, 168, 0, 0, 0}));
@@ -94,16 +93,16 @@ TEST_F(ParamsTest, UniCountersAndLinkConfiguration) {
     setBits(kRxB, kGpCnt, 30 * 2 + 1, 0, 32, 0x11);
     IMA_GRP_STAT g{1, 2, 3, 4, 5};
     ASSERT_EQ(VQ6192_IMA_GetUniGrpStat(kChip, 30, &g), 0u);
-    EXPECT_EQ((std::vector<uint32_t>{g.dwTxDiscardCells, g.dwTxUserCells, g.dwTxFillerCells, g.dwRxUserCells,
-                                     g.dwRxFillerCells}),
-              (std::vector<uint32_t>{0, 0, 0, 0xFFFFFFFF, 0}));
+    EXPECT_EQ(
+        (U32s{g.dwTxDiscardCells, g.dwTxUserCells, g.dwTxFillerCells, g.dwRxUserCells, g.dwRxFillerCells}),
+        (U32s{0, 0, 0, 0xFFFFFFFF, 0}));
     setBits(kRxB, kLkCnt, 40 * 4 + 2, 0, 32, 1000);
     setBits(kRxB, kLkCnt, 40 * 4 + 3, 0, 32, 7);
     setBits(kTxB, kTxLks, 40 * 2 + 1, 0, 32, 0x00030004);
     IMA_LINK_STAT l{};
     ASSERT_EQ(VQ6192_IMA_GetUniLinkStat(kChip, 40, &l), 0u);
-    EXPECT_EQ((std::vector<uint32_t>{l.dwTxUserCells, l.dwTxStuffCells, l.dwRxUserCells, l.dwRxDroppedCells}),
-              (std::vector<uint32_t>{4, 3, 1000, 7}));
+    EXPECT_EQ((U32s{l.dwTxUserCells, l.dwTxStuffCells, l.dwRxUserCells, l.dwRxDroppedCells}),
+              (U32s{4, 3, 1000, 7}));
     setBits(kPpB, kTxc, 40, 0, 32, 0x8123F80F);
     setBits(kPpB, kRxc, 40, 0, 32, 0xC0450FFF);
     setBits(kTxB, kTxLkc, 40, 0, 8, 0x77);
