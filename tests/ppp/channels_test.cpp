@@ -270,26 +270,31 @@ TEST_F(PppTest, EgressQueueEnableOfALinkAndAFailedRead) {
 }
 
 TEST_F(PppTest, ModuleRegistersKeepTheirNeighbours) {
-    expectRegOps({{PPP_OP(VQ6192_PPP_SetMpMode(c, 0)), 0x1004A, 0xFFFF, 0xFFFE},
-                  {PPP_OP(VQ6192_PPP_SetMpAbortThld(c, 0x5A)), 0x130D4, 0xFFFF, 0xFF5A},
-                  {PPP_OP(VQ6192_PPP_SetPppUnidentifyMode(c, 1)), 0x13004, 0xFFFF, 0xFFFD},
-                  {PPP_OP(VQ6192_PPP_SetPppESPTEnable(c, 0)), 0x13008, 0xFFFF, 0xFFFE},
-                  {PPP_OP(VQ6192_PPP_SetPppDCNEnable(c, 1)), 0x13006, 0xFFFE, 0xFFFF},
-                  {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13066, 0xFFFF, 0xFFFE},
-                  {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13068, 0xFFFF, 0xC021},
-                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x1301E, 0, 0x1234},
-                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13020, 0, 0x5678},
-                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13022, 0, 0x9ABC},
-                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13024, 0, 0xDEF0},
-                  {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12022, 0xF000, 0xFFFF},
-                  {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12024, 0xFFFF, 0xF001},
-                  {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 0, 3)), 0x12000, 0xFFFD, 0xFFFE},
-                  {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 1, 2)), 0x12000, 0xFFFE, 0xFFFD},
-                  {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11000, 0xFFF0, 0xFFF4},
-                  {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11002, 0xFFFF, 0xFFFB},
-                  {PPP_OP(VQ6192_PPP_SetMpMaxFragNum(c, 127)), 0x130C6, 0xFF80, 0xFFFF},
-                  {PPP_OP(VQ6192_PPP_SetCobcMode(c, 5, 2)), 0x1120A, 0xFFFF, 0xFFFD},
-                  {PPP_OP(VQ6192_PPP_SetPppTestConfig(c, 9, 0x21, 0x57)), 0x13402, 0, 9}});
+    for (const RegCase &c : std::initializer_list<RegCase>{
+             {PPP_OP(VQ6192_PPP_SetMpMode(c, 0)), 0x1004A, 0xFFFF, 0xFFFE},
+             {PPP_OP(VQ6192_PPP_SetMpAbortThld(c, 0x5A)), 0x130D4, 0xFFFF, 0xFF5A},
+             {PPP_OP(VQ6192_PPP_SetPppUnidentifyMode(c, 1)), 0x13004, 0xFFFF, 0xFFFD},
+             {PPP_OP(VQ6192_PPP_SetPppESPTEnable(c, 0)), 0x13008, 0xFFFF, 0xFFFE},
+             {PPP_OP(VQ6192_PPP_SetPppDCNEnable(c, 1)), 0x13006, 0xFFFE, 0xFFFF},
+             {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13066, 0xFFFF, 0xFFFE},
+             {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13068, 0xFFFF, 0xC021},
+             {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x1301E, 0, 0x1234},
+             {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13020, 0, 0x5678},
+             {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13022, 0, 0x9ABC},
+             {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13024, 0, 0xDEF0},
+             {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12022, 0xF000, 0xFFFF},
+             {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12024, 0xFFFF, 0xF001},
+             {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 0, 3)), 0x12000, 0xFFFD, 0xFFFE},
+             {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 1, 2)), 0x12000, 0xFFFE, 0xFFFD},
+             {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11000, 0xFFF0, 0xFFF4},
+             {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11002, 0xFFFF, 0xFFFB},
+             {PPP_OP(VQ6192_PPP_SetMpMaxFragNum(c, 127)), 0x130C6, 0xFF80, 0xFFFF},
+             {PPP_OP(VQ6192_PPP_SetCobcMode(c, 5, 2)), 0x1120A, 0xFFFF, 0xFFFD},
+             {PPP_OP(VQ6192_PPP_SetPppTestConfig(c, 9, 0x21, 0x57)), 0x13402, 0, 9}}) {
+        model.poke(c.addr, static_cast<uint16_t>(c.before));
+        ASSERT_EQ(c.op(kChip), 0u) << c.name;
+        EXPECT_EQ(model.peek(c.addr), c.after) << c.name;
+    }
 }
 
 TEST_F(PppTest, ModuleGettersReadTheirRegisters) {

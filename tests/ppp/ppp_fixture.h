@@ -22,8 +22,8 @@ constexpr uint32_t kRppucfg = 0, kTppucfg = 1, kAfidcfg = 2, kRppustat = 3, kTpp
                    kPppwgtcfg = 22, kMpwgtcfg = 23, kMprpbytecnt = 27, kMplooptimestp = 29, kMprxmmccnt = 31,
                    kMpskyeyecfg = 32, kMptesttxen = 33, kHdlccfg1 = 34, kHdlccfg2 = 35, kMprxmmpcfg1 = 36,
                    kMprxmhdlcpktcnt = 38, kMprxmbecnt = 39, kMprgrpcfg = 41, kMprgrppktcnt = 42,
-                   kCsptcfg1 = 43, kCsptcfg2 = 44, kSnctrlcfg = 45, kMprpmrrucfg = 48, kMptestrefstat = 49,
-                   kMprpkt = 50, kMprbyte = 51;
+                   kCsptcfg1 = 43, kCsptcfg2 = 44, kSnctrlcfg = 45, kMprpmrrucfg = 48, kMprpkt = 50,
+                   kMprbyte = 51;
 
 constexpr uint32_t kPppBlock = 0x8000;
 constexpr uint32_t kTsBlock = 0x10ab;
@@ -40,7 +40,6 @@ using U64s = std::vector<uint64_t>;
 // Rows of a table-driven test, N numbers each, bound by name in the loop.
 template <size_t N>
 using Rows = std::initializer_list<std::array<uint64_t, N>>;
-using Reg = std::pair<uint32_t, uint32_t>;
 
 // A call on chip c and its text, for table rows {name, op, ...}.
 #define PPP_REFUSED(call, condition) \
@@ -97,26 +96,18 @@ class PppTest : public vqtest::ChipTest {
         return model.tables().entry(kTsBlock, select, (e1 << 5) | ts)[0];
     }
     vq6192::sim::PppBlock &ppp() { return model.block<vq6192::sim::PppBlock>(); }
-    std::vector<vq6192::sim::BusAccess> busWrites() { return vqtest::writes(model.trace()); }
-    // Traced "ParaErr. [ ... ]" lines.
-    std::vector<std::string> paraErrs() {
-        std::vector<std::string> out;
-        for (const auto &t : capture.traces) {
-            if (t.level == VQ6192_PRINT_PARA_WRONG) {
-                out.push_back(t.text);
-            }
-        }
-        return out;
-    }
     // A call refused with the parameter error: the condition traced and no register written.
     void expectRefused(const char *call, const std::function<uint32_t()> &op, const std::string &condition) {
         SCOPED_TRACE(call);
         capture.clear();
-        model.setTrace(true);
-        model.clearTrace();
-        EXPECT_EQ(op(), kParaErr);
-        EXPECT_TRUE(busWrites().empty());
-        EXPECT_EQ(paraErrs(), std::vector<std::string>{"ParaErr. [ " + condition + " ]\r\n"});
+        EXPECT_TRUE(vqtest::writes(traced([&] { EXPECT_EQ(op(), kParaErr); })).empty());
+        std::vector<std::string> paraErrs;
+        for (const auto &t : capture.traces) {
+            if (t.level == VQ6192_PRINT_PARA_WRONG) {
+                paraErrs.push_back(t.text);
+            }
+        }
+        EXPECT_EQ(paraErrs, std::vector<std::string>{"ParaErr. [ " + condition + " ]\r\n"});
     }
     void expectEntryOps(std::initializer_list<EntryCase> cases) {
         for (const EntryCase &c : cases) {
@@ -127,14 +118,6 @@ class PppTest : public vqtest::ChipTest {
             EXPECT_EQ(entry(c.select, c.index), c.after);
         }
     }
-    void expectRegOps(std::initializer_list<RegCase> cases) {
-        for (const RegCase &c : cases) {
-            SCOPED_TRACE(c.name);
-            model.poke(c.addr, static_cast<uint16_t>(c.before));
-            ASSERT_EQ(c.op(kChip), 0u);
-            EXPECT_EQ(model.peek(c.addr), c.after);
-        }
-    }
     uint64_t virtualUs() { return VQ6192_Platform_GetVirtualTimeUs(); }
     bool tracedLine(const std::string &text) {
         const auto t = capture.traceTexts();
@@ -143,7 +126,7 @@ class PppTest : public vqtest::ChipTest {
     // The values written to one register, in order.
     U32s writesTo(uint32_t addr) {
         U32s out;
-        for (const auto &a : busWrites()) {
+        for (const auto &a : vqtest::writes(model.trace())) {
             if (a.addr == addr) {
                 out.push_back(a.value);
             }
