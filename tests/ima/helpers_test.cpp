@@ -33,8 +33,8 @@ TEST_F(HelpersTest, EntryIndexesByNumberAndWord) {
     };
     for (const auto &[table, number, w, want] : cases) {
         uint32_t index = 0;
-        ASSERT_EQ(VQ6192_utlTransIdxID(kChip, idOf(table), number, w, &index), 0u) << table;
-        EXPECT_EQ(index, want) << table;
+        EXPECT_EQ((U32s{VQ6192_utlTransIdxID(kChip, idOf(table), number, w, &index), index}), (U32s{0, want}))
+            << table;
     }
 }
 
@@ -59,14 +59,13 @@ TEST_F(HelpersTest, CaptureSubModes) {
         {4, 0x4C46, 0x0000, 0x8000 | (0x1E << 10)},
         {3, 0x4C46, 0xFFE0, 0xFFE0 | 0x15},
     };
+    IMA_CAP_FILTER f{};
+    f.wFlag = 1, f.wSelect = 1024, f.wValueA = 0x15, f.wValueB = 0x1234, f.wFilterNum = 1,
+    f.awValueC[0] = 0x1E;
     for (const auto &[subMode, reg, before, after] : cases) {
-        SCOPED_TRACE(subMode);
-        IMA_CAP_FILTER f{};
-        f.wFlag = 1, f.wSelect = 1024, f.wSubMode = subMode, f.wValueA = 0x15, f.wValueB = 0x1234;
-        f.wFilterNum = 1, f.awValueC[0] = 0x1E;
+        f.wSubMode = subMode;
         model.poke(reg, before);
-        ASSERT_EQ(VQ6192_IMA_SetImaCapture(kChip, &f), 0u);
-        EXPECT_EQ(model.peek(reg), after);
+        EXPECT_EQ((U32s{VQ6192_IMA_SetImaCapture(kChip, &f), model.peek(reg)}), (U32s{0, after})) << subMode;
     }
 }
 
@@ -83,8 +82,6 @@ TEST_F(HelpersTest, TcStateRecords) {
               (U32s{0xBEEF, 2, 0x7A, 0xCAFE, 0x0101, 0x9C, 0x12345678}));
     ASSERT_EQ(VQ6192_IMA_GetTcLinkStatus(kChip, 11, nullptr, rx1, nullptr, tx), 0u);
     EXPECT_EQ((U32s{rx1[5], tx[3]}), (U32s{0, 0})) << "read-clear";
-    expectRefused("no output",
-                  [] { return VQ6192_IMA_GetTcLinkStatus(kChip, 11, nullptr, nullptr, nullptr, nullptr); });
 }
 
 }  // namespace

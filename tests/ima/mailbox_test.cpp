@@ -42,8 +42,6 @@ TEST_F(MailboxTest, RunCmdPassesOnlyKnownCodes) {
         EXPECT_EQ(VQ6192_IMA_RunCmd(kChip, code, para), 0u) << code;
     }
     EXPECT_EQ(proc().commands().size(), 15u);
-    expectRefused(
-        "no parameters", [] { return VQ6192_IMA_RunCmd(kChip, 0, nullptr); }, nullptr);
 }
 
 TEST_F(MailboxTest, BusyRefusedAndWaits) {
@@ -72,12 +70,8 @@ TEST_F(MailboxTest, BusyRefusedAndWaits) {
 }
 
 TEST_F(MailboxTest, InitImaStartsTheBlock) {
-    poke({{0x5030, 0xFFF8},
-          {0x4008, 0xFFFE},
-          {0x5024, 0xFFFE},
-          {0x4C20, 0xFFFF},
-          {0x5028, 0xFFFF},
-          {0x000A, 0x00FF}});
+    poke({{0x5030, 0xFFF8}, {0x4008, 0xFFFE}, {0x5024, 0xFFFE}, {0x4C20, 0xFFFF}, {0x5028, 0xFFFF}});
+    model.poke(0x000A, 0x00FF);
     setBits(kPpB, kTxc, 335, 0, 32, 0xC0050000);
     ASSERT_EQ(VQ6192_IMA_InitIma(kChip, 1), 0u);
     // VC-4 group and enable cleared (0x4C20); the block reset pulsed and released (0x000A).
@@ -96,27 +90,22 @@ TEST_F(MailboxTest, InitImaStartsTheBlock) {
                   (1ull << 46) | (1ull << 44) | (1ull << 42) | (1ull << 40) | (1ull << 32) | (1ull << 24));
     }
     expectRefused("mode 3", [] { return VQ6192_IMA_InitIma(kChip, 3); });
-    const auto t = traced([] { EXPECT_EQ(VQ6192_IMA_InitIma(kChip, 2), 0u); });
-    EXPECT_TRUE(t.empty()) << "mode 2 does nothing";
-}
-
-TEST_F(MailboxTest, InitImaBlockBusy) {
+    EXPECT_TRUE(traced([] { EXPECT_EQ(VQ6192_IMA_InitIma(kChip, 2), 0u); }).empty()) << "mode 2 does nothing";
+    // The block never leaves busy: nothing started.
     model.stickBits(0x4004, 1, 1);
+    model.poke(0x5030, 0);
     capture.clear();
+    VQ6192_Platform_ResetVirtualTime();
     EXPECT_EQ(VQ6192_IMA_InitIma(kChip, 1), kTimeout);
     EXPECT_EQ(capture.traceTexts(),
               Texts{"Err. VQ6192_IMA_InitIma.ReadImaBusy(3)       TimeOut ErrCode[0x30d0003]\r\n"});
-    EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), 100 * kTickUs);
-    EXPECT_EQ(model.peek(0x5030), 0u) << "nothing started";
+    EXPECT_EQ((U64s{VQ6192_Platform_GetVirtualTimeUs(), model.peek(0x5030)}), (U64s{100 * kTickUs, 0}));
 }
 
 TEST_F(MailboxTest, LinkParametersAndAutoProcessing) {
     model.poke(0x4C10, 0xFF00);
     ASSERT_EQ(VQ6192_IMA_SetImaLinkParam(kChip, 2, 3, 5), 0u);
     EXPECT_EQ(model.peek(0x4C10), 0xFFAEu);
-    uint16_t a = 0, b = 0, g = 0;
-    ASSERT_EQ(VQ6192_IMA_GetImaLinkParam(kChip, &a, &b, &g), 0u);
-    EXPECT_EQ((std::vector<uint16_t>{a, b, g}), (std::vector<uint16_t>{2, 3, 5}));
     for (auto args :
          {std::array<uint32_t, 3>{0, 1, 1}, {3, 1, 1}, {1, 0, 1}, {1, 6, 1}, {1, 1, 0}, {1, 1, 6}}) {
         expectRefused("out of range",
@@ -157,8 +146,7 @@ TEST_F(MailboxTest, Vc4TransparentPort) {
     ASSERT_EQ(VQ6192_IMA_AddVc4(kChip, 1, 7), 0u);
     EXPECT_EQ(peek({0x4C22, 0x5028}), (U32s{0xFE07, 0xFFF2})) << "group 7, enable bit 9, 10..15 kept";
     uint16_t en = 0, port = 0, grp = 0;
-    ASSERT_EQ(VQ6192_IMA_GetImaVC4Cfg(kChip, 1, &en, &port, &grp), 0u);
-    EXPECT_EQ((std::vector<uint16_t>{en, port, grp}), (std::vector<uint16_t>{1, 1, 7}));
+    EXPECT_EQ((U32s{VQ6192_IMA_GetImaVC4Cfg(kChip, 1, &en, &port, &grp), en, port, grp}), (U32s{0, 1, 1, 7}));
     for (uint32_t l : {84u, 167u}) {
         EXPECT_EQ(
             (U64s{bits(kTcB, kRxCfg, l, 89, 1), bits(kTcB, kRxCfg, l, 95, 1), bits(kTxB, kMap, l * 32, 0, 9),
@@ -190,7 +178,6 @@ TEST_F(MailboxTest, TcResetDrainsTheTransmitLink) {
     std::vector<uint16_t> all(336);
     std::iota(all.begin(), all.end(), uint16_t{0});
     EXPECT_EQ(VQ6192_IMA_ResetTc(kChip, 1, 336, all.data()), 0u) << "every TC link in one call";
-    expectRefused("no list", [] { return VQ6192_IMA_ResetTc(kChip, 1, 1, nullptr); });
     model.poke(0x000A, 0x1234);
     ASSERT_EQ(VQ6192_IMA_ResetVc(kChip), 0u);
     EXPECT_EQ(model.peek(0x000A), 0x1234u);
