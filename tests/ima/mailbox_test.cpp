@@ -104,8 +104,7 @@ TEST_F(MailboxTest, InitImaStartsTheBlock) {
 
 TEST_F(MailboxTest, LinkParametersAndAutoProcessing) {
     model.poke(0x4C10, 0xFF00);
-    ASSERT_EQ(VQ6192_IMA_SetImaLinkParam(kChip, 2, 3, 5), 0u);
-    EXPECT_EQ(model.peek(0x4C10), 0xFFAEu);
+    EXPECT_EQ((U64s{VQ6192_IMA_SetImaLinkParam(kChip, 2, 3, 5), model.peek(0x4C10)}), (U64s{0, 0xFFAEu}));
     for (auto args :
          {std::array<uint32_t, 3>{0, 1, 1}, {3, 1, 1}, {1, 0, 1}, {1, 6, 1}, {1, 1, 0}, {1, 1, 6}}) {
         expectRefused("out of range",
@@ -113,8 +112,7 @@ TEST_F(MailboxTest, LinkParametersAndAutoProcessing) {
     }
     model.poke(0x4452, 0xF00F);
     for (const auto &p : {std::array<uint32_t, 3>{0x0F0, 1, 0xF0FF}, {0x00F, 0, 0xF0F0}}) {
-        ASSERT_EQ(VQ6192_IMA_SetAutoProcEn(kChip, p[0], p[1]), 0u);
-        EXPECT_EQ(model.peek(0x4452), p[2]);
+        EXPECT_EQ((U64s{VQ6192_IMA_SetAutoProcEn(kChip, p[0], p[1]), model.peek(0x4452)}), (U64s{0, p[2]}));
     }
     expectRefused("mask past bit 10", [] { return VQ6192_IMA_SetAutoProcEn(kChip, 0x800, 1); });
 }
@@ -131,8 +129,7 @@ TEST_F(MailboxTest, UniLinkAddAndDelete) {
               (U64s{1, 0, 33, 511, 1ull << 33, 0x80140000, 0x80140000, 0x200u | 20u}));
     expectRefused("second group differs", [] { return VQ6192_IMA_AddTcLink(kChip, 33, 20, 21); });
 
-    ASSERT_EQ(VQ6192_IMA_DelTcLink(kChip, 33), 0u);
-    EXPECT_EQ(bits(kTxB, kInGrp, 20, 0, 64), 0u);
+    EXPECT_EQ((U64s{VQ6192_IMA_DelTcLink(kChip, 33), bits(kTxB, kInGrp, 20, 0, 64)}), (U64s{0, 0u}));
     EXPECT_EQ(proc().commands(), (std::vector<Proc::Command>{{13, 20, 0, 0, 0}}));
 
     setBits(kPpB, kTxc, 40, 30, 2, 3);
@@ -179,8 +176,7 @@ TEST_F(MailboxTest, TcResetDrainsTheTransmitLink) {
     std::iota(all.begin(), all.end(), uint16_t{0});
     EXPECT_EQ(VQ6192_IMA_ResetTc(kChip, 1, 336, all.data()), 0u) << "every TC link in one call";
     model.poke(0x000A, 0x1234);
-    ASSERT_EQ(VQ6192_IMA_ResetVc(kChip), 0u);
-    EXPECT_EQ(model.peek(0x000A), 0x1234u);
+    EXPECT_EQ((U64s{VQ6192_IMA_ResetVc(kChip), model.peek(0x000A)}), (U64s{0, 0x1234u}));
 }
 
 }  // namespace

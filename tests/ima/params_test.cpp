@@ -101,8 +101,7 @@ TEST_F(ParamsTest, UniCountersAndLinkConfiguration) {
     ASSERT_EQ(VQ6192_IMA_GetImaLinkCfg(kChip, 40, cfg), 0u);
     EXPECT_EQ((std::vector<uint16_t>(cfg, cfg + 5)), (std::vector<uint16_t>{2, 0x123, 0x1F, 3, 0x45}));
     IMA_TX_LINK tx{};
-    ASSERT_EQ(VQ6192_IMA_GetImaTxLinkCfg(kChip, 40, &tx), 0u);
-    EXPECT_EQ(tx.ucLid, 0x1Fu);
+    EXPECT_EQ((U64s{VQ6192_IMA_GetImaTxLinkCfg(kChip, 40, &tx), tx.ucLid}), (U64s{0, 0x1Fu}));
     EXPECT_EQ(tx.ucIcpOffset, 0x77u);
     EXPECT_EQ(tx.usPhyLink, 40u);
 }

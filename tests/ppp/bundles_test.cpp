@@ -18,25 +18,21 @@ TEST_F(BundleTest, FirstEgressMemberSwitchesTheQueuesOnAndTheLastOff) {
     setEntry(kLinkcfg, 20, 0x3C01);  // a PPP link, not in a bundle
     setEntry(kLinkcfg, 21, 0x3C01);
     setEntry(kHdlccfg2, 20, 0x0FF);
-    ASSERT_EQ(VQ6192_PPP_AddPppChanToMp(kChip, 20, 7, 2), 0u);
-    EXPECT_EQ(count(7), 1u);
+    EXPECT_EQ((U64s{VQ6192_PPP_AddPppChanToMp(kChip, 20, 7, 2), count(7)}), (U64s{0, 1u}));
     // Linkcfg: bundle 7 at bits 2..9, member flag bit 1, PPP bit 0.
     EXPECT_EQ((U64s{entry(kQmencfg, 256 + 7), entry(kLinkcfg, 20), entry(kHdlccfg2, 20)}),
               (U64s{0xFF, 0x3C1F, 0x107}));
 
     setEntry(kQmencfg, 256 + 7, 0x0F);
-    ASSERT_EQ(VQ6192_PPP_AddPppChanToMp(kChip, 21, 7, 1), 0u);
-    EXPECT_EQ(count(7), 2u);
+    EXPECT_EQ((U64s{VQ6192_PPP_AddPppChanToMp(kChip, 21, 7, 1), count(7)}), (U64s{0, 2u}));
     EXPECT_EQ(entry(kQmencfg, 256 + 7), 0x0Fu) << "a second member leaves the queues";
     EXPECT_EQ(entry(kHdlccfg2, 21), 0u) << "egress only";
 
-    ASSERT_EQ(VQ6192_PPP_RemovePppChanFromMp(kChip, 21, 7, 1), 0u);
-    EXPECT_EQ(count(7), 1u);
+    EXPECT_EQ((U64s{VQ6192_PPP_RemovePppChanFromMp(kChip, 21, 7, 1), count(7)}), (U64s{0, 1u}));
     EXPECT_TRUE(ppp().bundleResets().empty());
 
     VQ6192_Platform_ResetVirtualTime();
-    ASSERT_EQ(VQ6192_PPP_RemovePppChanFromMp(kChip, 20, 7, 2), 0u);
-    EXPECT_EQ(count(7), 0u);
+    EXPECT_EQ((U64s{VQ6192_PPP_RemovePppChanFromMp(kChip, 20, 7, 2), count(7)}), (U64s{0, 0u}));
     EXPECT_EQ(ppp().bundleResets(), U32s{7});
     // The bundle number stays, the member flag goes.
     EXPECT_EQ((U64s{entry(kQmencfg, 256 + 7), entry(kLinkcfg, 20), entry(kHdlccfg2, 20)}),
@@ -246,8 +242,7 @@ TEST_F(BundleTest, DeleteReturnsTheBundleToTheDeleteDefaults) {
     for (uint32_t q = 0; q < 8; ++q) {
         setEntry(kMcfccfg, 64 + q, kOnes);
     }
-    ASSERT_EQ(VQ6192_PPP_DelMpBundle(kChip, 8), 0u);
-    EXPECT_EQ(model.peek(0x13240), 0xFEFFu);
+    EXPECT_EQ((U64s{VQ6192_PPP_DelMpBundle(kChip, 8), model.peek(0x13240)}), (U64s{0, 0xFEFFu}));
     EXPECT_EQ(ppp().groupResets(), U32s{8});
     // Ingress watermarks high 1, low 0; weights cleared but bits 56..63; fragment code 2 and PFC off.
     EXPECT_EQ((U64s{entry(kQmencfg, 256 + 8), entry(kMprxmmpcfg1, 8) & 0xFFFFFFFFF, entry(kMpwgtcfg, 8),

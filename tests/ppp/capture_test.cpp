@@ -79,8 +79,7 @@ TEST_F(CaptureTest, DdrCaptureRunControl) {
     EXPECT_EQ((U32s{w[0].addr, w[0].value}), (U32s{0x13600, 0})) << "run bit cleared first";
     ASSERT_EQ(VQ6192_PPP_StartPppDdrCapPkt(kChip, 0, 36), 0u);
     EXPECT_EQ(model.peek(0x13602), 0xFFFFu) << "ingress selects 1";
-    ASSERT_EQ(VQ6192_PPP_StopPppDdrCapPkt(kChip), 0u);
-    EXPECT_EQ(model.peek(0x13600), 36u);
+    EXPECT_EQ((U64s{VQ6192_PPP_StopPppDdrCapPkt(kChip), model.peek(0x13600)}), (U64s{0, 36u}));
 }
 
 TEST_F(CaptureTest, CobcCapture) {
@@ -134,19 +133,16 @@ TEST_F(CaptureTest, CobcStartAndStop) {
     ASSERT_EQ(VQ6192_PPP_StartCobcCap(kChip, 0x7FF), 0u);
     EXPECT_EQ(model.peek(0x11012), 0xFFFFu);  // channel bits 1..11, start bit 0
     EXPECT_EQ(writesTo(0x11014), (U32s{0, 1, 0}));
-    ASSERT_EQ(VQ6192_PPP_StopCobcCap(kChip), 0u);
-    EXPECT_EQ(model.peek(0x11012), 0xFFFEu);
+    EXPECT_EQ((U64s{VQ6192_PPP_StopCobcCap(kChip), model.peek(0x11012)}), (U64s{0, 0xFFFEu}));
     // Channels 2048..4095 pass the bound but the field holds 11 bits.
-    ASSERT_EQ(VQ6192_PPP_StartCobcCap(kChip, 0x801), 0u);
-    EXPECT_EQ(model.peek(0x11012), 0xF003u);
+    EXPECT_EQ((U64s{VQ6192_PPP_StartCobcCap(kChip, 0x801), model.peek(0x11012)}), (U64s{0, 0xF003u}));
 }
 
 TEST_F(CaptureTest, FifoCapture) {
     const auto frame = pattern(10);
     ppp().loadFifoFrame(frame);
     model.poke(kVc4Enable, 0x2);
-    ASSERT_EQ(VQ6192_PPP_CapturePppFifoPkt(kChip, 1, 0, buf.data(), &flen), 0u);
-    EXPECT_EQ(flen, 10u);
+    EXPECT_EQ((U64s{VQ6192_PPP_CapturePppFifoPkt(kChip, 1, 0, buf.data(), &flen), flen}), (U64s{0, 10u}));
     EXPECT_TRUE(std::equal(frame.begin(), frame.end(), buf.begin()));
     EXPECT_EQ(peek({0x1300E, 0x1300C}), (U32s{0x200, 0})) << "the inner number; start cleared, type PPP";
     // Never ready; ready but the read never acknowledged.

@@ -49,8 +49,7 @@ TEST_F(PppTest, CreateOnAnE1TheTimeslotLayerRefusesOrsItsStatus) {
 
 TEST_F(PppTest, Vc4ChannelLivesAtItsInnerNumber) {
     setEntry(kHdfccfg, 0x200, 0xF000000000000000ull);
-    ASSERT_EQ(VQ6192_PPP_SetMpVc4En(kChip, 1, 1), 0u);
-    EXPECT_EQ(model.peek(kVc4Enable), 0x2u);
+    EXPECT_EQ((U64s{VQ6192_PPP_SetMpVc4En(kChip, 1, 1), model.peek(kVc4Enable)}), (U64s{0, 0x2u}));
     // H 0x3FF00 (bits 20..39), L 6400 (0..19), Drop 0x3FFFF (40..59); bits 60..63 kept.
     EXPECT_EQ(entry(kHdfccfg, 0x200), 0xF3FFFF3FF0001900u);
 
@@ -64,8 +63,7 @@ TEST_F(PppTest, Vc4ChannelLivesAtItsInnerNumber) {
               (std::vector<uint64_t>{0x2000, 0x10000000, 1, 1, 0}));
 
     // Disabled again: the watermarks of a disabled channel land at entry 1.
-    ASSERT_EQ(VQ6192_PPP_SetMpVc4En(kChip, 1, 0), 0u);
-    EXPECT_EQ(model.peek(kVc4Enable), 0x0u);
+    EXPECT_EQ((U64s{VQ6192_PPP_SetMpVc4En(kChip, 1, 0), model.peek(kVc4Enable)}), (U64s{0, 0x0u}));
     EXPECT_EQ(entry(kHdfccfg, 1), 0xFF0003300019u);  // drop 255, high 51, low 25
     model.poke(kVc4Enable, 0xD);                     // every VC-4 channel but 1
     const VQ6192_PPP_CHAN_S off{1, 1, 0, 0};
@@ -135,8 +133,7 @@ TEST_F(PppTest, ResetEngineWaitsAndTimeouts) {
     // The caller's channel is strobed, not the inner number of an enabled VC-4 channel.
     ppp().setResetBusy(1);
     model.poke(kVc4Enable, 0x4);
-    ASSERT_EQ(VQ6192_PPP_ResetPppChan(kChip, 2), 0u);
-    EXPECT_EQ(ppp().channelResets().back(), 2u);
+    EXPECT_EQ((U64s{VQ6192_PPP_ResetPppChan(kChip, 2), ppp().channelResets().back()}), (U64s{0, 2u}));
 }
 
 TEST_F(PppTest, LinkTypeEnablesAndLoopbackFields) {
@@ -214,8 +211,7 @@ TEST_F(PppTest, QueueWeightsAndWatermarksKeepTheirNeighbours) {
     ASSERT_EQ(VQ6192_PPP_SetPppQueWeight(kChip, 6, 4, 0x15), 0u);
     EXPECT_EQ(entry(kPppwgtcfg, 6), 0xFFFFFFF95FFFFFFFu);
     uint32_t w = 0;
-    ASSERT_EQ(VQ6192_PPP_GetPppQueWeight(kChip, 6, 4, &w), 0u);
-    EXPECT_EQ(w, 0x15u);
+    EXPECT_EQ((U64s{VQ6192_PPP_GetPppQueWeight(kChip, 6, 4, &w), w}), (U64s{0, 0x15u}));
 
     setEntry(kHdfccfg, 6, 0xFFFFFFFFFFFFFFFFull);
     const VQ6192_PPP_WATERMARK_S wm{0x12345, 0x6789A, 0xBCDEF};
