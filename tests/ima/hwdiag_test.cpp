@@ -250,25 +250,9 @@ TEST_F(AtmViewTest, PseudowireFailuresPrintInvalid) {
 }
 
 TEST_F(AtmViewTest, DropCountersInTheStatisticsLayout) {
-    // The 21 counters in their reading order, each register holding its order + 1.
-    const uint32_t regs[21] = {0xA400, 0xA402, 0xA404, 0xA406, 0xA416, 0xA418, 0xA40A,
-                               0xA40C, 0xA40E, 0xA410, 0xA412, 0xA408, 0xA41A, 0xA268,
-                               0xA26A, 0xA2C8, 0xA2C6, 0xA2C4, 0xA2C2, 0xA2F2, 0xA2F4};
-    for (uint32_t i = 0; i < 21; ++i) {
-        model.poke(regs[i], static_cast<uint16_t>(i + 1));
-    }
-    const std::string t = view(10, 0, 0);
-    EXPECT_EQ(t.rfind("    GetAtmDropStat()\n", 0), 0u) << t;
-    EXPECT_NE(
-        t.find(
-            "    | wRedDrop         :        1 | wFdDrop          :        2 | wPfdDrop         :        3 \n"
-            "    | wClpDrop         :        4 | wFdAll5Drop      :        5 | wPfdAll5Drop     :        6 "
-            "\n"),
-        std::string::npos)
-        << t;
-    EXPECT_NE(t.find("| wNoVldRx         :       20 | wNoVldTx         :       21 \n    PRINT_END\n"),
-              std::string::npos)
-        << t;
+    // The chip-wide ATM drop counters in their own report (its layout is the ATM diagnostic tests').
+    EXPECT_EQ(view(10, 0, 0).rfind("    GetAtmDropStat()\n    | wRedDrop         :        0 | wFdDrop", 0),
+              0u);
 }
 
 }  // namespace

@@ -185,13 +185,11 @@ TEST_F(CaptureTest, LinkAndBundleCountersComeFromEachMembersEntry) {
     for (uint32_t k = 0; k < 6 * 10; ++k) {
         setHalf(kMprgrppktcnt, k / 10 * 256 + 4, k % 10, static_cast<uint16_t>(0x1000 * (k / 10) + k % 10));
     }
-    setEntry(kMprpbytecnt, 4, 0xCAFEF00D);
-    setEntry(kMprxmbecnt, 4, 0x11112222);
+    setEntries(4, {{kMprpbytecnt, 0xCAFEF00D}, {kMprxmbecnt, 0x11112222}});
     for (uint32_t q = 0; q < 8; ++q) {
         setEntry(kMprxmmccnt, 32 + q, 0xFFFF0000u | (q + 1));
     }
-    setEntry(kMprpkt, 4, 0x01020304);
-    setEntry(kMprbyte, 4, 0x05060708);
+    setEntries(4, {{kMprpkt, 0x01020304}, {kMprbyte, 0x05060708}});
     VQ6192_MP_INGRESS_STAT_S in{};
     VQ6192_MP_EGRESS_STAT_S e{}, n{0, 0x77};
     ASSERT_EQ(VQ6192_PPP_GetMpIngressStat(kChip, 4, &in) | VQ6192_PPP_GetMpEgressStat(kChip, 4, &e) |

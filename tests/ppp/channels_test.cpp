@@ -53,8 +53,7 @@ TEST_F(PppTest, Vc4ChannelLivesAtItsInnerNumber) {
     // H 0x3FF00 (bits 20..39), L 6400 (0..19), Drop 0x3FFFF (40..59); bits 60..63 kept.
     EXPECT_EQ(entry(kHdfccfg, 0x200), 0xF3FFFF3FF0001900u);
 
-    setEntry(kTppucfg, 0x200, 0x1000);
-    setEntry(kRppucfg, 0x200, 0x08000000);
+    setEntries(0x200, {{kTppucfg, 0x1000}, {kRppucfg, 0x08000000}});
     const VQ6192_PPP_CHAN_S chan{2, 1, 0, 0};
     ASSERT_EQ(VQ6192_PPP_CreateVC4PppChan(kChip, &chan), 0u);
     // Tppucfg and Rppucfg: Chcen 0, Crcfe 1; ordinary channel 1 untouched.
@@ -97,8 +96,7 @@ TEST_F(PppTest, DeleteRestoresTheChannelAndResetsIt) {
 TEST_F(PppTest, DeleteWithoutTimeslotsAndTheVc4Delete) {
     for (const bool vc4 : {false, true}) {
         capture.clear();
-        setEntry(kLinkcfg, 3, 0x3FFF);
-        setEntry(kRppucfg, 3, 0x1FFFFFFF);
+        setEntries(3, {{kLinkcfg, 0x3FFF}, {kRppucfg, 0x1FFFFFFF}});
         ASSERT_EQ(vc4 ? VQ6192_PPP_DelVC4PppChan(kChip, 3, 2) : VQ6192_PPP_DelPppChanNoTS(kChip, 3), 0u);
         EXPECT_EQ(entry(kLinkcfg, 3), 0x33FEu);
         EXPECT_EQ(entry(kRppucfg, 3) >> 28, 1u) << "Crcfe kept";
@@ -157,9 +155,7 @@ TEST_F(PppTest, LinkTypeEnablesAndLoopbackFields) {
 }
 
 TEST_F(PppTest, CrcModeGoesToThreeIngressPlacesAndOneEgress) {
-    setEntry(kRppucfg, 40, 0x1FFFFFFF);
-    setEntry(kAfidcfg, 40, 0xFFF);
-    setEntry(kTppucfg, 40, 0x3FFF);
+    setEntries(40, {{kRppucfg, 0x1FFFFFFF}, {kAfidcfg, 0xFFF}, {kTppucfg, 0x3FFF}});
     model.poke(0x11200 + 2 * 40, 0xFFFF);
     ASSERT_EQ(VQ6192_PPP_SetPppCRCMode(kChip, 40, 2, 0), 0u);
     // Rppucfg Crcmod bits 24..25, Afidcfg Crcmod bits 1..2, CRC correction bits 3..4 = 2; egress untouched.
@@ -174,9 +170,7 @@ TEST_F(PppTest, CrcModeGoesToThreeIngressPlacesAndOneEgress) {
 }
 
 TEST_F(PppTest, PpuConfigWritesOnlyTheSelectedFields) {
-    setEntry(kRppucfg, 50, 0x1FFFFFFF);
-    setEntry(kTppucfg, 50, 0x3FFF);
-    setEntry(kAfidcfg, 50, 0xFFF);
+    setEntries(50, {{kRppucfg, 0x1FFFFFFF}, {kTppucfg, 0x3FFF}, {kAfidcfg, 0xFFF}});
     VQ6192_PPP_PPU_CFG_S cfg{}, sel{};
     cfg.bRxCrcMod = 1, cfg.bTxCrcMod = 2, cfg.dwRxMintu = 64;
     sel.bRxCrcMod = 1, sel.bTxCrcMod = 2;  // a multi-bit selector other than 1 selects nothing

@@ -79,6 +79,12 @@ class PppTest : public vqtest::ChipTest {
         }
         return v;
     }
+    // Entries of several tables at one index: {select, bits} each.
+    void setEntries(uint32_t index, std::initializer_list<std::pair<uint32_t, uint64_t>> list) {
+        for (const auto &[select, bits] : list) {
+            setEntry(select, index, bits);
+        }
+    }
     void setEntry(uint32_t select, uint32_t index, uint64_t bits) {
         vq6192::sim::TableEngine::Entry e{};
         for (uint32_t k = 0; k < 4; ++k) {
