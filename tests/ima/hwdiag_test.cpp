@@ -234,9 +234,6 @@ TEST_F(AtmViewTest, PseudowireLabelsAndSettings) {
         EXPECT_EQ(model.tables().writesExecuted(kAtmBlock), atmWrites) << "a view writes no entry";
         EXPECT_EQ(model.tables().writesExecuted(kEthBlock), ethWrites);
     }
-}
-
-TEST_F(AtmViewTest, PseudowireFailuresPrintInvalid) {
     // PW 2048 is refused by every read: the status is theirs, ORed.
     model.clearTrace();
     EXPECT_NE(

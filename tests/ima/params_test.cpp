@@ -131,9 +131,6 @@ TEST_F(ParamsTest, EntryIndexesByNumberAndWord) {
         EXPECT_EQ((U32s{VQ6192_utlTransIdxID(kChip, idOf(table), number, w, &index), index}), (U32s{0, want}))
             << table;
     }
-}
-
-TEST_F(ParamsTest, LinkVectors) {
     const IMA_TX_LINK tx[3] = {{0, 0, 200}, {31, 0, 5}, {7, 0, 9}};
     const uint16_t rx[3] = {3, 40, 31};
     // Transmit LIDs; receive vector of a symmetric group (the LIDs of the transmit records) and of an

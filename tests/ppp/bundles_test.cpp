@@ -179,9 +179,7 @@ TEST_F(BundleTest, SnFormatChange) {
             EXPECT_TRUE(writesTo(0x13080).empty()) << "the request register is not touched";
         }
     }
-}
-
-TEST_F(BundleTest, ReassemblyTimeoutArithmetic) {
+    // The reassembly timeout from the SN format.
     // 0x13260 (bundle 1 is bit 1: short sequence numbers), timeslots, timeout value.
     for (const auto &[sn, ts, value] :
          {std::array<uint32_t, 3>{0, 1, 176}, {0, 31, 55}, {0x0002, 3, 52}, {0x0002, 0, 10}, {0, 0, 50}}) {
@@ -247,9 +245,7 @@ TEST_F(BundleTest, DeleteReturnsTheBundleToTheDeleteDefaults) {
     for (uint32_t q = 0; q < 8; ++q) {
         EXPECT_EQ(entry(kMcfccfg, 64 + q), 0xF000000000000000ull | 3ull << 40 | 2ull << 20 | 1u) << q;
     }
-}
-
-TEST_F(BundleTest, RecountAddsTheMembersFoundInTheChip) {
+    // The recount adds the members found in the chip.
     for (const auto &[ch, link] : {std::pair<uint32_t, uint64_t>{1, 0x3 | 2u << 2},
                                    {2, 0x3 | 2u << 2},
                                    {3, 0x2 | 2u << 2} /* not a PPP link */,

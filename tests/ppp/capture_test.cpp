@@ -68,9 +68,7 @@ TEST_F(CaptureTest, DdrRecords) {
                     VQ6192_PPP_GetPppDdrCapPktDown(kChip, 5, 0, buf.data(), &len, &next),
                     VQ6192_PPP_GetPppFifoCapData(kChip, buf.data(), &flen)}),
               (U32s{kNoMem, kNoMem, kNoMem}));
-}
-
-TEST_F(CaptureTest, DdrCaptureRunControl) {
+    // The capture run control.
     poke({{0x13600, 0x0000}, {0x13602, 0xFFFE}});
     const auto w =
         vqtest::writes(traced([] { ASSERT_EQ(VQ6192_PPP_StartPppDdrCapPkt(kChip, 1, 8191), 0u); }));
@@ -125,9 +123,7 @@ TEST_F(CaptureTest, CobcCapture) {
         EXPECT_TRUE(std::equal(c.bytes.begin(), c.bytes.end(), buf.begin()));
         EXPECT_TRUE(c.message == nullptr || tracedLine(c.message));
     }
-}
-
-TEST_F(CaptureTest, CobcStartAndStop) {
+    // Start and stop.
     model.poke(0x11012, 0xF000);
     model.setTrace(true);
     ASSERT_EQ(VQ6192_PPP_StartCobcCap(kChip, 0x7FF), 0u);
