@@ -229,8 +229,7 @@ TEST_F(ControlTest, IcpCellsAndTestPatterns) {
             (1ull << 47) | (0x3Cull << 48) | (1ull << 15) | (0x1Full << 8) | 0xC3);
     uint16_t rxEn = 0, rxPtn = 0, txLid = 0, txEn = 0, txPtn = 0;
     ASSERT_EQ(VQ6192_IMA_GetTestPtn(kChip, 6, &rxEn, &rxPtn, &txLid, &txEn, &txPtn), 0u);
-    EXPECT_EQ((std::vector<uint16_t>{rxEn, rxPtn, txLid, txEn, txPtn}),
-              (std::vector<uint16_t>{1, 0x3C, 0x1F, 1, 0xC3}));
+    EXPECT_EQ((U32s{rxEn, rxPtn, txLid, txEn, txPtn}), (U32s{1, 0x3C, 0x1F, 1, 0xC3}));
 }
 
 TEST_F(ControlTest, TcLinkConfigurationAndFifo) {

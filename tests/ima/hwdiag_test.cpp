@@ -183,25 +183,24 @@ class AtmViewTest : public HwDiagTest {
 };
 
 std::string pwView(uint32_t labelType, uint32_t egLabel, uint32_t inLabel, int encap, uint32_t vpi,
-                   uint32_t vci, unsigned cw, unsigned snChk, unsigned snAdd, unsigned long cells,
-                   unsigned long wait) {
+                   uint32_t vci, unsigned cw, unsigned snChk, unsigned snAdd, unsigned cells, unsigned wait) {
     char s[1024];
     snprintf(s, sizeof s,
              "LABEL TYPE(0 unuse, 1 MPLS, other wrong)         :           %u\r\n"
-             "EGRESS LABEL       :           0x%x(%lu)\r\n"
-             "INGRESS LABEL      :           0x%x(%lu)\r\n"
+             "EGRESS LABEL       :           0x%x(%u)\r\n"
+             "INGRESS LABEL      :           0x%x(%u)\r\n"
              "ENCAP TYPE(0,3 N:1; 1 VPC 1:1; 2 VCC 1:1)         :           %d\r\n"
-             "EGRESS VPI         :           0x%x(%lu)\r\n"
-             "EGRESS VCI         :           0x%x(%lu)\r\n"
+             "EGRESS VPI         :           0x%x(%u)\r\n"
+             "EGRESS VCI         :           0x%x(%u)\r\n"
              "CW  ENABLE         :           %u\r\n"
              "SN CHECK ENABLE    :           %u\r\n"
              "SN ADD ENABLE      :           %u\r\n"
-             "MAX CELL NUM       :           %lu\r\n"
-             "MAX WAIT TIME(ms)  :           %lu\r\n",
-             labelType, egLabel, static_cast<unsigned long>(egLabel), inLabel,
-             static_cast<unsigned long>(inLabel), encap, vpi, static_cast<unsigned long>(vpi), vci,
-             static_cast<unsigned long>(vci), cw, snChk, snAdd, cells, wait);
-    return s + std::string("The Data is VALID\r\n");
+             "MAX CELL NUM       :           %u\r\n"
+             "MAX WAIT TIME(ms)  :           %u\r\n"
+             "The Data is VALID\r\n",
+             labelType, egLabel, egLabel, inLabel, inLabel, encap, vpi, vpi, vci, vci, cw, snChk, snAdd,
+             cells, wait);
+    return s;
 }
 
 TEST_F(AtmViewTest, PseudowireLabelsAndSettings) {

@@ -50,16 +50,6 @@ class ImaTest : public vqtest::ChipTest {
     void setBits(uint32_t block, uint32_t sel, uint32_t addr, uint32_t bit, uint32_t width, uint64_t v) {
         proc().setEntryBits(block, sel, addr, bit, width, v);
     }
-    // Several fields of one entry: {bit, width, value} each.
-    struct FieldValue {
-        uint32_t bit, width;
-        uint64_t value;
-    };
-    void setFields(uint32_t block, uint32_t sel, uint32_t addr, std::initializer_list<FieldValue> fs) {
-        for (const FieldValue &f : fs) {
-            setBits(block, sel, addr, f.bit, f.width, f.value);
-        }
-    }
     uint32_t word(uint32_t block, uint32_t sel, uint32_t addr) {
         return static_cast<uint32_t>(bits(block, sel, addr, 0, 32));
     }

@@ -45,17 +45,18 @@ TEST_F(MailboxTest, RunCmdPassesOnlyKnownCodes) {
 }
 
 TEST_F(MailboxTest, BusyRefusedAndWaits) {
-    const std::tuple<const char *, std::function<void(Proc &)>, uint32_t, uint64_t> cases[] = {
-        {"idle", [](Proc &) {}, 0, 0},
-        {"busy for 3 polls before", [](Proc &p) { p.holdBusy(3); }, 0, 300},
-        {"busy for ever", [](Proc &p) { p.holdBusy(Proc::kForever); }, kTimeout, 1000 + 100},
-        {"command runs 4 polls", [](Proc &p) { p.setCommandBusy(4); }, 0, 40},
-        {"command never ends", [](Proc &p) { p.setCommandBusy(50); }, kTimeout, 100},
-        {"refused", [](Proc &p) { p.refuse(1); }, kRefusedCmd, 0},
+    // Idle; busy for 3 polls before; busy for ever; the command runs 4 polls; never ends; refused.
+    const std::tuple<std::function<void(Proc &)>, uint32_t, uint64_t> cases[] = {
+        {[](Proc &) {}, 0, 0},
+        {[](Proc &p) { p.holdBusy(3); }, 0, 300},
+        {[](Proc &p) { p.holdBusy(Proc::kForever); }, kTimeout, 1000 + 100},
+        {[](Proc &p) { p.setCommandBusy(4); }, 0, 40},
+        {[](Proc &p) { p.setCommandBusy(50); }, kTimeout, 100},
+        {[](Proc &p) { p.refuse(1); }, kRefusedCmd, 0},
     };
     const uint32_t para[4] = {9, 0, 0, 0};
-    for (const auto &[what, fault, status, ticks] : cases) {
-        SCOPED_TRACE(what);
+    for (const auto &[fault, status, ticks] : cases) {
+        SCOPED_TRACE(ticks);
         proc().holdBusy(0);
         proc().setCommandBusy(0);
         proc().refuse(0);

@@ -162,9 +162,13 @@ TEST_F(ParamsTest, CaptureSubModes) {
 }
 
 TEST_F(ParamsTest, TcStateRecords) {
-    setFields(kTcB, kRxSta0, 11, {{0, 96, 0}, {80, 16, 0xBEEF}, {60, 2, 2}, {0, 8, 0x7A}});
-    setFields(kTcB, kRxSta1, 11, {{0, 16, 0x0101}, {80, 16, 0xCAFE}});
-    setFields(kTcB, kTxSta, 11, {{54, 32, 0x12345678}, {88, 8, 0x9C}});
+    setBits(kTcB, kRxSta0, 11, 80, 16, 0xBEEF);
+    setBits(kTcB, kRxSta0, 11, 60, 2, 2);
+    setBits(kTcB, kRxSta0, 11, 0, 8, 0x7A);
+    setBits(kTcB, kRxSta1, 11, 0, 16, 0x0101);
+    setBits(kTcB, kRxSta1, 11, 80, 16, 0xCAFE);
+    setBits(kTcB, kTxSta, 11, 54, 32, 0x12345678);
+    setBits(kTcB, kTxSta, 11, 88, 8, 0x9C);
     uint16_t rx0[15] = {}, rx1[6] = {};
     uint32_t tx[11] = {};
     ASSERT_EQ(VQ6192_IMA_GetTcLinkStatus(kChip, 11, rx0, rx1, nullptr, tx), 0u);
