@@ -22,11 +22,8 @@ using U64s = std::vector<uint64_t>;
 using Texts = std::vector<std::string>;
 
 // Status codes of chip 3 (module field 13).
-constexpr uint32_t kPara = 0x030D0001;
-constexpr uint32_t kTimeout = 0x030D0003;
-constexpr uint32_t kNoEnd = 0x030D0004;
-constexpr uint32_t kInUse = 0x030D0006;
-constexpr uint32_t kRefusedCmd = 0x030D0009;
+constexpr uint32_t kPara = 0x030D0001, kTimeout = 0x030D0003, kNoEnd = 0x030D0004, kInUse = 0x030D0006,
+                   kRefusedCmd = 0x030D0009;
 constexpr uint64_t kTickUs = 10000;
 
 // The four access blocks of the IMA tables: processor, receive, transmit and TC.

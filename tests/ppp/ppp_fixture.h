@@ -25,15 +25,10 @@ constexpr uint32_t kRppucfg = 0, kTppucfg = 1, kAfidcfg = 2, kRppustat = 3, kTpp
                    kCsptcfg1 = 43, kCsptcfg2 = 44, kSnctrlcfg = 45, kMprpmrrucfg = 48, kMprpkt = 50,
                    kMprbyte = 51;
 
-constexpr uint32_t kPppBlock = 0x8000;
-constexpr uint32_t kTsBlock = 0x10ab;
-constexpr uint32_t kVc4Enable = 0x10048;
-
+// Table blocks of the PPP and timeslot tables; the VC-4 PPP enable register.
+constexpr uint32_t kPppBlock = 0x8000, kTsBlock = 0x10ab, kVc4Enable = 0x10048;
 // Status codes of chip 3 (the fixture's chip) in module PPP.
-constexpr uint32_t kParaErr = 0x03040001;
-constexpr uint32_t kNoMem = 0x03040002;
-constexpr uint32_t kTimeout = 0x03040004;
-constexpr uint32_t kNoData = 0x03040007;
+constexpr uint32_t kParaErr = 0x03040001, kNoMem = 0x03040002, kTimeout = 0x03040004, kNoData = 0x03040007;
 
 using U32s = std::vector<uint32_t>;
 using U64s = std::vector<uint64_t>;
