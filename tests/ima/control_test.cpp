@@ -180,7 +180,7 @@ TEST_F(ControlTest, StateDecodingAndAccumulator) {
     EXPECT_EQ(rx2[8], 0u) << "read-clear, accumulator emptied";
 }
 
-TEST_F(ControlTest, ReadClearCounters) {
+TEST_F(ControlTest, ReadClearCountersIcpCellsAndTestPatterns) {
     const uint32_t lkcnt[4] = {0x00110022, 0x00330044, 123456, 0x00550066};
     for (uint32_t w = 0; w < 4; ++w) {
         setBits(kRxB, kLkCnt, 7 * 4 + w, 0, 32, lkcnt[w]);
@@ -202,9 +202,6 @@ TEST_F(ControlTest, ReadClearCounters) {
     EXPECT_EQ(
         (U32s{g.dwTxDiscardCells, g.dwTxUserCells, g.dwTxFillerCells, g.dwRxUserCells, g.dwRxFillerCells}),
         (U32s{11, 22, 33, 44, 55}));
-}
-
-TEST_F(ControlTest, IcpCellsAndTestPatterns) {
     for (uint32_t w = 0; w < 11; ++w) {
         setBits(kTxB, kTxIcp, 4 * 16 + w, 0, 32, 0xA0B0C0D0u + w);
     }

@@ -103,7 +103,7 @@ TEST_F(MailboxTest, InitImaStartsTheBlock) {
     EXPECT_EQ((U64s{VQ6192_Platform_GetVirtualTimeUs(), model.peek(0x5030)}), (U64s{100 * kTickUs, 0}));
 }
 
-TEST_F(MailboxTest, LinkParametersAndAutoProcessing) {
+TEST_F(MailboxTest, LinkParametersAutoProcessingAndUniLinks) {
     model.poke(0x4C10, 0xFF00);
     EXPECT_EQ((U64s{VQ6192_IMA_SetImaLinkParam(kChip, 2, 3, 5), model.peek(0x4C10)}), (U64s{0, 0xFFAEu}));
     for (auto args :
@@ -116,9 +116,6 @@ TEST_F(MailboxTest, LinkParametersAndAutoProcessing) {
         EXPECT_EQ((U64s{VQ6192_IMA_SetAutoProcEn(kChip, p[0], p[1]), model.peek(0x4452)}), (U64s{0, p[2]}));
     }
     expectRefused("mask past bit 10", [] { return VQ6192_IMA_SetAutoProcEn(kChip, 0x800, 1); });
-}
-
-TEST_F(MailboxTest, UniLinkAddAndDelete) {
     setBits(kTxB, kInGrp, 20, 0, 64, 0xFF);
     setBits(kTxB, kTxGpc, 20, 0, 32, 0xFFFF);
     ASSERT_EQ(VQ6192_IMA_AddTcLink(kChip, 33, 20, 20), 0u);
@@ -139,7 +136,7 @@ TEST_F(MailboxTest, UniLinkAddAndDelete) {
     EXPECT_EQ(capture.traceTexts(), Texts{"Err. VQ6192_IMA_DelTcLink(3,40)      ErrCode[0x30d0006]\r\n"});
 }
 
-TEST_F(MailboxTest, Vc4TransparentPort) {
+TEST_F(MailboxTest, Vc4TransparentPortAndTcReset) {
     poke({{0x4C22, 0xFC00}, {0x5028, 0xFFF0}});
     ASSERT_EQ(VQ6192_IMA_AddVc4(kChip, 1, 7), 0u);
     EXPECT_EQ(peek({0x4C22, 0x5028}), (U32s{0xFE07, 0xFFF2})) << "group 7, enable bit 9, 10..15 kept";
@@ -155,9 +152,6 @@ TEST_F(MailboxTest, Vc4TransparentPort) {
     // 84 receive reset pulses of 10 + 10 ticks, and the wait after the receive enables.
     EXPECT_EQ(VQ6192_Platform_GetVirtualTimeUs(), (10 + 84 * 20) * kTickUs);
     expectRefused("VC-4 4", [] { return VQ6192_IMA_AddVc4(kChip, 4, 7); });
-}
-
-TEST_F(MailboxTest, TcResetDrainsTheTransmitLink) {
     model.poke(0x5200, 0xFFFC);
     const uint16_t links[2] = {3, 4};
     const auto t = traced([&] { EXPECT_EQ(VQ6192_IMA_ResetTc(kChip, 3, 2, links), 0u); });

@@ -62,7 +62,7 @@ TEST_F(ParamsTest, RunningGroupParameters) {
     }
 }
 
-TEST_F(ParamsTest, Vc4PortRemoval) {
+TEST_F(ParamsTest, Vc4RemovalUniCountersAndLinkConfiguration) {
     poke({{0x4C24, 0xFFFF}, {0x5028, 0xFFFF}});
     setBits(kTxB, kInGrp, 170, 0, 256, 0);
     setBits(kTxB, kInGrp, 170, 168, 3, 7);
@@ -77,9 +77,6 @@ TEST_F(ParamsTest, Vc4PortRemoval) {
     proc().refuse(1);
     EXPECT_EQ(VQ6192_IMA_DelVc4(kChip, 2, 9), kRefusedCmd);
     EXPECT_EQ(proc().commands().size(), 85u) << "the first failure ends it";
-}
-
-TEST_F(ParamsTest, UniCountersAndLinkConfiguration) {
     setBits(kRxB, kGpCnt, 30 * 2, 0, 32, 0xFFFFFFFF);
     setBits(kRxB, kGpCnt, 30 * 2 + 1, 0, 32, 0x11);
     IMA_GRP_STAT g{1, 2, 3, 4, 5};
@@ -144,7 +141,7 @@ TEST_F(ParamsTest, EntryIndexesByNumberAndWord) {
     EXPECT_EQ(U32s(v, v + 5), (U32s{0x80000081, 0x80000081, 0x80000008, 7, 0}));
 }
 
-TEST_F(ParamsTest, CaptureSubModes) {
+TEST_F(ParamsTest, CaptureSubModesAndTcStateRecords) {
     const std::tuple<uint16_t, uint32_t, uint16_t, uint16_t> cases[] = {
         {0, 0x4C44, 0xFFFF, 0xC000 | (0x15 << 8) | 0x34},
         {2, 0x4C46, 0x03FF, 0x8000 | (0x1E << 10) | 0x3FF},
@@ -159,9 +156,6 @@ TEST_F(ParamsTest, CaptureSubModes) {
         model.poke(reg, before);
         EXPECT_EQ((U32s{VQ6192_IMA_SetImaCapture(kChip, &f), model.peek(reg)}), (U32s{0, after})) << subMode;
     }
-}
-
-TEST_F(ParamsTest, TcStateRecords) {
     setBits(kTcB, kRxSta0, 11, 80, 16, 0xBEEF);
     setBits(kTcB, kRxSta0, 11, 60, 2, 2);
     setBits(kTcB, kRxSta0, 11, 0, 8, 0x7A);

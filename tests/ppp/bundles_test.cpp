@@ -179,7 +179,6 @@ TEST_F(BundleTest, SnFormatChange) {
             EXPECT_TRUE(writesTo(0x13080).empty()) << "the request register is not touched";
         }
     }
-    // The reassembly timeout from the SN format.
     // 0x13260 (bundle 1 is bit 1: short sequence numbers), timeslots, timeout value.
     for (const auto &[sn, ts, value] :
          {std::array<uint32_t, 3>{0, 1, 176}, {0, 31, 55}, {0x0002, 3, 52}, {0x0002, 0, 10}, {0, 0, 50}}) {
@@ -190,7 +189,7 @@ TEST_F(BundleTest, SnFormatChange) {
     }
 }
 
-TEST_F(BundleTest, PerBundleFieldsKeepTheirNeighbours) {
+TEST_F(BundleTest, PerBundleFieldsAndMcWatermarks) {
     constexpr uint64_t kOnes = 0xFFFFFFFFFFFFFFFFull;
     expectEntryOps(
         {{PPP_OP(VQ6192_PPP_SetMpFragSize(c, 3, 4)), kFragcfg, 3, 0xFFFF, 0xFFE4},
@@ -203,9 +202,6 @@ TEST_F(BundleTest, PerBundleFieldsKeepTheirNeighbours) {
           0xFFFFFFF95FFFFFFF},  // bits 28..34
          {PPP_OP(VQ6192_PPP_SetMpRxWaterMark(c, 3, 0x3FFBF, 0)), kMprxmmpcfg1, 3, kOnes, 0xFFFFFFFFFEFC0000},
          {PPP_OP(VQ6192_PPP_SetPppCsptEnable(c, 3, 1, 0)), kCsptcfg2, 3, 0x1FF, 0xFF}});
-}
-
-TEST_F(BundleTest, EgressMcWatermarksQueueByQueue) {
     for (uint32_t q = 0; q < 8; ++q) {
         setEntry(kMcfccfg, 8 * 2 + q, 0xF000000000000000ull);
     }
@@ -245,7 +241,6 @@ TEST_F(BundleTest, DeleteReturnsTheBundleToTheDeleteDefaults) {
     for (uint32_t q = 0; q < 8; ++q) {
         EXPECT_EQ(entry(kMcfccfg, 64 + q), 0xF000000000000000ull | 3ull << 40 | 2ull << 20 | 1u) << q;
     }
-    // The recount adds the members found in the chip.
     for (const auto &[ch, link] : {std::pair<uint32_t, uint64_t>{1, 0x3 | 2u << 2},
                                    {2, 0x3 | 2u << 2},
                                    {3, 0x2 | 2u << 2} /* not a PPP link */,

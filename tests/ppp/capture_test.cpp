@@ -68,7 +68,6 @@ TEST_F(CaptureTest, DdrRecords) {
                     VQ6192_PPP_GetPppDdrCapPktDown(kChip, 5, 0, buf.data(), &len, &next),
                     VQ6192_PPP_GetPppFifoCapData(kChip, buf.data(), &flen)}),
               (U32s{kNoMem, kNoMem, kNoMem}));
-    // The capture run control.
     poke({{0x13600, 0x0000}, {0x13602, 0xFFFE}});
     const auto w =
         vqtest::writes(traced([] { ASSERT_EQ(VQ6192_PPP_StartPppDdrCapPkt(kChip, 1, 8191), 0u); }));
@@ -123,7 +122,6 @@ TEST_F(CaptureTest, CobcCapture) {
         EXPECT_TRUE(std::equal(c.bytes.begin(), c.bytes.end(), buf.begin()));
         EXPECT_TRUE(c.message == nullptr || tracedLine(c.message));
     }
-    // Start and stop.
     model.poke(0x11012, 0xF000);
     model.setTrace(true);
     ASSERT_EQ(VQ6192_PPP_StartCobcCap(kChip, 0x7FF), 0u);
@@ -201,7 +199,7 @@ TEST_F(CaptureTest, LinkAndBundleCountersComeFromEachMembersEntry) {
                     0x2222, 1, 8, 0x01020304, 0x05060708, 0x77}));
 }
 
-TEST_F(CaptureTest, GlobalCountersRegisterByRegister) {
+TEST_F(CaptureTest, GlobalCountersAndFifoFlags) {
     // Egress: fields in structure order.
     poke({{0x12014, 1},  {0x12012, 2},  {0x1201A, 3},  {0x12018, 4},  {0x12016, 5},  {0x1200E, 6},
           {0x12010, 7},  {0x12040, 8},  {0x12200, 9},  {0x12030, 10}, {0x12032, 11}, {0x12004, 0xFFFF},
@@ -224,9 +222,6 @@ TEST_F(CaptureTest, GlobalCountersRegisterByRegister) {
     EXPECT_EQ((U32s{in.wRppuRsrCnt, in.wTppuTsrCnt, in.dwRpHdlcCnt, in.dwRpPppDropCnt, in.wRpFragErrCnt,
                     in.wRxmRerrCnt, in.wTxmTppuCnt, in.wRxmTdisDropCnt}),
               (U32s{0xA1, 0xA6, 0x01010100, 0x010F010E, 0xB9, 0xC5, 0x5555, 0x6666}));
-}
-
-TEST_F(CaptureTest, CrcAndFifoFlags) {
     poke({{0x11400 + 2 * 12, 0x11},
           {0x11500 + 2 * 12, 0x22},
           {0x11700 + 2 * 12, 0x33},

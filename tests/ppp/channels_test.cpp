@@ -154,7 +154,7 @@ TEST_F(PppTest, LinkTypeEnablesAndLoopbackFields) {
     EXPECT_TRUE(tracedLine("VQ6192_PPP_SetPppMRU : ulPppChanNo:[20] ulMRU:[2036]\n"));
 }
 
-TEST_F(PppTest, CrcModeGoesToThreeIngressPlacesAndOneEgress) {
+TEST_F(PppTest, CrcModeAndPpuConfiguration) {
     setEntries(40, {{kRppucfg, 0x1FFFFFFF}, {kAfidcfg, 0xFFF}, {kTppucfg, 0x3FFF}});
     model.poke(0x11200 + 2 * 40, 0xFFFF);
     ASSERT_EQ(VQ6192_PPP_SetPppCRCMode(kChip, 40, 2, 0), 0u);
@@ -167,9 +167,6 @@ TEST_F(PppTest, CrcModeGoesToThreeIngressPlacesAndOneEgress) {
     uint32_t eg = 9, in = 9;
     EXPECT_EQ(VQ6192_PPP_GetPppCRCMode(kChip, 40, 1, &eg) | VQ6192_PPP_GetPppCRCMode(kChip, 40, 0, &in), 0u);
     EXPECT_EQ((U32s{eg, in}), (U32s{1, 2}));
-}
-
-TEST_F(PppTest, PpuConfigWritesOnlyTheSelectedFields) {
     setEntries(50, {{kRppucfg, 0x1FFFFFFF}, {kTppucfg, 0x3FFF}, {kAfidcfg, 0xFFF}});
     VQ6192_PPP_PPU_CFG_S cfg{}, sel{};
     cfg.bRxCrcMod = 1, cfg.bTxCrcMod = 2, cfg.dwRxMintu = 64;
@@ -232,15 +229,12 @@ TEST_F(PppTest, TableFailuresAreOredAndLaterStepsStillRun) {
     EXPECT_EQ(capture.traceTexts().back(), "Err. VQ6192_PPP_CreatePppChanNoTS Return:[0x30c0003]\n");
 }
 
-TEST_F(PppTest, PfcAndAcfcGettersReadTheirOwnBits) {
+TEST_F(PppTest, LinkGettersAndEgressQueueEnable) {
     setEntry(kLinkcfg, 11, 0x37FF ^ 0x0C00);  // ACFC (bit 11) on, PFC (bit 10) off
     uint32_t pfc = 9, acfc = 9;
     ASSERT_EQ(VQ6192_PPP_GetPppPFCEnable(kChip, 11, &pfc) | VQ6192_PPP_GetPppACFCEnable(kChip, 11, &acfc),
               0u);
     EXPECT_EQ((U32s{pfc, acfc}), (U32s{0, 1}));
-}
-
-TEST_F(PppTest, EgressQueueEnableOfALinkAndAFailedRead) {
     setEntry(kQmencfg, 5, 0xFF);
     ASSERT_EQ(VQ6192_PPP_SetPPPQmEnable(kChip, 41, 0, 0), 0u);
     EXPECT_EQ(entry(kQmencfg, 5), 0xFDu);  // link 41: entry 5, bit 1
@@ -255,7 +249,7 @@ TEST_F(PppTest, EgressQueueEnableOfALinkAndAFailedRead) {
     EXPECT_EQ(entry(kQmencfg, 256 + 12), 0xFFu);
 }
 
-TEST_F(PppTest, ModuleRegistersKeepTheirNeighbours) {
+TEST_F(PppTest, ModuleRegistersAndGetters) {
     for (const RegCase &c : std::initializer_list<RegCase>{
              {PPP_OP(VQ6192_PPP_SetMpMode(c, 0)), 0x1004A, 0xFFFF, 0xFFFE},
              {PPP_OP(VQ6192_PPP_SetMpAbortThld(c, 0x5A)), 0x130D4, 0xFFFF, 0xFF5A},
@@ -281,9 +275,6 @@ TEST_F(PppTest, ModuleRegistersKeepTheirNeighbours) {
         ASSERT_EQ(c.op(kChip), 0u) << c.name;
         EXPECT_EQ(model.peek(c.addr), c.after) << c.name;
     }
-}
-
-TEST_F(PppTest, ModuleGettersReadTheirRegisters) {
     poke({{0x1306A, 0x5678}, {0x1306C, 0x1234}, {0x130D4, 0xFF7F}});
     uint32_t cnt = 0, ppp = 9, mp = 9;
     uint16_t thld = 0;
