@@ -17,13 +17,13 @@ namespace imatest {
 using vq6192::sim::BusAccess;
 using vq6192::sim::BusOp;
 using Proc = vq6192::sim::ImaProcessor;
+using U32s = std::vector<uint32_t>;
+using U64s = std::vector<uint64_t>;
+using Texts = std::vector<std::string>;
 
 // Status codes of chip 3 (module field 13).
-constexpr uint32_t kPara = 0x030D0001;
-constexpr uint32_t kTimeout = 0x030D0003;
-constexpr uint32_t kNoEnd = 0x030D0004;
-constexpr uint32_t kInUse = 0x030D0006;
-constexpr uint32_t kRefusedCmd = 0x030D0009;
+constexpr uint32_t kPara = 0x030D0001, kTimeout = 0x030D0003, kNoEnd = 0x030D0004, kInUse = 0x030D0006,
+                   kRefusedCmd = 0x030D0009;
 constexpr uint64_t kTickUs = 10000;
 
 // The four access blocks of the IMA tables: processor, receive, transmit and TC.
@@ -47,16 +47,6 @@ class ImaTest : public vqtest::ChipTest {
     void setBits(uint32_t block, uint32_t sel, uint32_t addr, uint32_t bit, uint32_t width, uint64_t v) {
         proc().setEntryBits(block, sel, addr, bit, width, v);
     }
-    // Several fields of one entry: {bit, width, value} each.
-    struct FieldValue {
-        uint32_t bit, width;
-        uint64_t value;
-    };
-    void setFields(uint32_t block, uint32_t sel, uint32_t addr, std::initializer_list<FieldValue> fs) {
-        for (const FieldValue &f : fs) {
-            setBits(block, sel, addr, f.bit, f.width, f.value);
-        }
-    }
     uint32_t word(uint32_t block, uint32_t sel, uint32_t addr) {
         return static_cast<uint32_t>(bits(block, sel, addr, 0, 32));
     }
@@ -68,17 +58,16 @@ class ImaTest : public vqtest::ChipTest {
         return n;
     }
 
-    // Refused with `status`, "ParaErr.\r\n" traced (or nothing when quiet) and no register touched.
-    void expectRefused(const char *what, const std::function<uint32_t()> &op, bool quiet = false,
-                       uint32_t status = kPara) {
+    // Refused with `status`, `text` traced (nothing when null) and no register touched.
+    void expectRefused(const std::string &what, const std::function<uint32_t()> &op,
+                       const char *text = "ParaErr.\r\n", uint32_t status = kPara) {
         SCOPED_TRACE(what);
         capture.clear();
         uint32_t rc = 0;
         const auto t = traced([&] { rc = op(); });
         EXPECT_EQ(rc, status);
         EXPECT_TRUE(t.empty()) << t.size() << " bus accesses";
-        EXPECT_EQ(capture.traceTexts(),
-                  quiet ? std::vector<std::string>{} : std::vector<std::string>{"ParaErr.\r\n"});
+        EXPECT_EQ(capture.traceTexts(), text ? Texts{text} : Texts{});
     }
 
     void SetUp() override {

@@ -15,18 +15,19 @@ constexpr uint32_t kTsIngress = 0;
 constexpr uint32_t kTsEgress = 1;
 
 TEST_F(PppTest, TypicalRequestPppChannelOnE1Tributary5) {
-    // Neighbouring bits set everywhere, the engines closed.
-    const uint32_t sels[] = {kTppucfg, kRppucfg, kLinkcfg, kHdlccfg1};
-    const uint64_t before[] = {0x3FFF, 0x1FFFFFFF, 0x3FFE, 0x6};
-    // Tppucfg Chcen (bit 12) and Rppucfg Chcen (bit 27) opened; Linkpppen and Mprxmlinktype0: PPP link.
-    const uint64_t after[] = {0x2FFF, 0x17FFFFFF, 0x3FFF, 0x7};
-    for (int k = 0; k < 4; ++k) {
-        setEntry(sels[k], 37, before[k]);
+    // Select, before (neighbours set, engines closed), after: Tppucfg Chcen (bit 12) and Rppucfg Chcen
+    // (bit 27) opened; Linkpppen and Mprxmlinktype0: PPP link.
+    const uint64_t rows[][3] = {{kTppucfg, 0x3FFF, 0x2FFF},
+                                {kRppucfg, 0x1FFFFFFF, 0x17FFFFFF},
+                                {kLinkcfg, 0x3FFE, 0x3FFF},
+                                {kHdlccfg1, 6, 7}};
+    for (const auto &[sel, before, after] : rows) {
+        setEntry(static_cast<uint32_t>(sel), 37, before);
     }
     const VQ6192_PPP_CHAN_S chan{5, 37, 0xFFFFFFFEu, 3};
     ASSERT_EQ(VQ6192_PPP_CreatePppChan(kChip, &chan), 0u);
-    for (int k = 0; k < 4; ++k) {
-        EXPECT_EQ(entry(sels[k], 37), after[k]) << sels[k];
+    for (const auto &[sel, before, after] : rows) {
+        EXPECT_EQ(entry(static_cast<uint32_t>(sel), 37), after) << sel;
     }
     // One entry per timeslot 1..31 in both directions: En, MLPPP module, 64 kbit/s, channel 37.
     for (uint32_t ts = 0; ts < 32; ++ts) {
@@ -48,13 +49,11 @@ TEST_F(PppTest, CreateOnAnE1TheTimeslotLayerRefusesOrsItsStatus) {
 
 TEST_F(PppTest, Vc4ChannelLivesAtItsInnerNumber) {
     setEntry(kHdfccfg, 0x200, 0xF000000000000000ull);
-    ASSERT_EQ(VQ6192_PPP_SetMpVc4En(kChip, 1, 1), 0u);
-    EXPECT_EQ(model.peek(kVc4Enable), 0x2u);
+    EXPECT_EQ((U64s{VQ6192_PPP_SetMpVc4En(kChip, 1, 1), model.peek(kVc4Enable)}), (U64s{0, 0x2u}));
     // H 0x3FF00 (bits 20..39), L 6400 (0..19), Drop 0x3FFFF (40..59); bits 60..63 kept.
     EXPECT_EQ(entry(kHdfccfg, 0x200), 0xF3FFFF3FF0001900u);
 
-    setEntry(kTppucfg, 0x200, 0x1000);
-    setEntry(kRppucfg, 0x200, 0x08000000);
+    setEntries(0x200, {{kTppucfg, 0x1000}, {kRppucfg, 0x08000000}});
     const VQ6192_PPP_CHAN_S chan{2, 1, 0, 0};
     ASSERT_EQ(VQ6192_PPP_CreateVC4PppChan(kChip, &chan), 0u);
     // Tppucfg and Rppucfg: Chcen 0, Crcfe 1; ordinary channel 1 untouched.
@@ -63,32 +62,29 @@ TEST_F(PppTest, Vc4ChannelLivesAtItsInnerNumber) {
               (std::vector<uint64_t>{0x2000, 0x10000000, 1, 1, 0}));
 
     // Disabled again: the watermarks of a disabled channel land at entry 1.
-    ASSERT_EQ(VQ6192_PPP_SetMpVc4En(kChip, 1, 0), 0u);
-    EXPECT_EQ(model.peek(kVc4Enable), 0x0u);
+    EXPECT_EQ((U64s{VQ6192_PPP_SetMpVc4En(kChip, 1, 0), model.peek(kVc4Enable)}), (U64s{0, 0x0u}));
     EXPECT_EQ(entry(kHdfccfg, 1), 0xFF0003300019u);  // drop 255, high 51, low 25
-}
-
-TEST_F(PppTest, Vc4ChannelRefusedWhileItsEnableIsOff) {
-    model.poke(kVc4Enable, 0xD);  // every VC-4 channel but 1
-    const VQ6192_PPP_CHAN_S chan{1, 1, 0, 0};
-    PPP_REFUSED(VQ6192_PPP_CreateVC4PppChan(kChip, &chan), "usVc4Enable == VQ6192_PPP_ENABLE");
+    model.poke(kVc4Enable, 0xD);                     // every VC-4 channel but 1
+    const VQ6192_PPP_CHAN_S off{1, 1, 0, 0};
+    PPP_REFUSED(VQ6192_PPP_CreateVC4PppChan(kChip, &off), "usVc4Enable == VQ6192_PPP_ENABLE");
 }
 
 TEST_F(PppTest, DeleteRestoresTheChannelAndResetsIt) {
-    const uint32_t sels[] = {kHdlccfg1, kLinkcfg, kRppucfg, kTppucfg, kAfidcfg};
-    const uint64_t before[] = {0x7, 0x3FFF, 0x1FFFFFFF, 0x3FFF, 0xFFF};
-    for (int k = 0; k < 5; ++k) {
-        setEntry(sels[k], 9, before[k]);
+    // Hdlccfg1: ingress off, plain HDLC, loopback kept. Linkcfg: ACFC, PFC and PPP off. Rppucfg: Rxmtu 2036,
+    // Crcmod 0, Chcen 0, Crcfe kept. Tppucfg: Crcfe 0, Chcen 0. Afidcfg: Crcmod 0.
+    const uint64_t rows[][3] = {{kHdlccfg1, 0x7, 0x4},
+                                {kLinkcfg, 0x3FFF, 0x33FE},
+                                {kRppucfg, 0x1FFFFFFF, 0x14FFA7FF},
+                                {kTppucfg, 0x3FFF, 0x0FFF},
+                                {kAfidcfg, 0xFFF, 0xFF9}};
+    for (const auto &[sel, before, after] : rows) {
+        setEntry(static_cast<uint32_t>(sel), 9, before);
     }
     ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 7, 9, 1, 0x6, 3), 0u);
     model.setTrace(true);
     ASSERT_EQ(VQ6192_PPP_DelPppChan(kChip, 9, 7, 0x6), 0u);
-
-    // Hdlccfg1: ingress off, plain HDLC, loopback kept. Linkcfg: ACFC, PFC and PPP off. Rppucfg: Rxmtu 2036,
-    // Crcmod 0, Chcen 0, Crcfe kept. Tppucfg: Crcfe 0, Chcen 0. Afidcfg: Crcmod 0.
-    const uint64_t after[] = {0x4, 0x33FE, 0x14FFA7FF, 0x0FFF, 0xFF9};
-    for (int k = 0; k < 5; ++k) {
-        EXPECT_EQ(entry(sels[k], 9), after[k]) << sels[k];
+    for (const auto &[sel, before, after] : rows) {
+        EXPECT_EQ(entry(static_cast<uint32_t>(sel), 9), after) << sel;
     }
     EXPECT_EQ((U32s{tsEntry(kTsIngress, 7, 1), tsEntry(kTsIngress, 7, 2), tsEntry(kTsEgress, 7, 1),
                     tsEntry(kTsEgress, 7, 2)}),
@@ -100,8 +96,7 @@ TEST_F(PppTest, DeleteRestoresTheChannelAndResetsIt) {
 TEST_F(PppTest, DeleteWithoutTimeslotsAndTheVc4Delete) {
     for (const bool vc4 : {false, true}) {
         capture.clear();
-        setEntry(kLinkcfg, 3, 0x3FFF);
-        setEntry(kRppucfg, 3, 0x1FFFFFFF);
+        setEntries(3, {{kLinkcfg, 0x3FFF}, {kRppucfg, 0x1FFFFFFF}});
         ASSERT_EQ(vc4 ? VQ6192_PPP_DelVC4PppChan(kChip, 3, 2) : VQ6192_PPP_DelPppChanNoTS(kChip, 3), 0u);
         EXPECT_EQ(entry(kLinkcfg, 3), 0x33FEu);
         EXPECT_EQ(entry(kRppucfg, 3) >> 28, 1u) << "Crcfe kept";
@@ -136,8 +131,7 @@ TEST_F(PppTest, ResetEngineWaitsAndTimeouts) {
     // The caller's channel is strobed, not the inner number of an enabled VC-4 channel.
     ppp().setResetBusy(1);
     model.poke(kVc4Enable, 0x4);
-    ASSERT_EQ(VQ6192_PPP_ResetPppChan(kChip, 2), 0u);
-    EXPECT_EQ(ppp().channelResets().back(), 2u);
+    EXPECT_EQ((U64s{VQ6192_PPP_ResetPppChan(kChip, 2), ppp().channelResets().back()}), (U64s{0, 2u}));
 }
 
 TEST_F(PppTest, LinkTypeEnablesAndLoopbackFields) {
@@ -160,35 +154,27 @@ TEST_F(PppTest, LinkTypeEnablesAndLoopbackFields) {
     EXPECT_TRUE(tracedLine("VQ6192_PPP_SetPppMRU : ulPppChanNo:[20] ulMRU:[2036]\n"));
 }
 
-TEST_F(PppTest, CrcModeGoesToThreeIngressPlacesAndOneEgress) {
-    setEntry(kRppucfg, 40, 0x1FFFFFFF);
-    setEntry(kAfidcfg, 40, 0xFFF);
-    setEntry(kTppucfg, 40, 0x3FFF);
+TEST_F(PppTest, CrcModeAndPpuConfiguration) {
+    setEntries(40, {{kRppucfg, 0x1FFFFFFF}, {kAfidcfg, 0xFFF}, {kTppucfg, 0x3FFF}});
     model.poke(0x11200 + 2 * 40, 0xFFFF);
     ASSERT_EQ(VQ6192_PPP_SetPppCRCMode(kChip, 40, 2, 0), 0u);
-    EXPECT_EQ(entry(kRppucfg, 40), 0x1EFFFFFFu);       // Crcmod bits 24..25 = 2
-    EXPECT_EQ(entry(kAfidcfg, 40), 0xFFDu);            // Crcmod bits 1..2 = 2
-    EXPECT_EQ(model.peek(0x11200 + 2 * 40), 0xFFF7u);  // CRC correction bits 3..4 = 2
-    EXPECT_EQ(entry(kTppucfg, 40), 0x3FFFu) << "egress untouched";
+    // Rppucfg Crcmod bits 24..25, Afidcfg Crcmod bits 1..2, CRC correction bits 3..4 = 2; egress untouched.
+    EXPECT_EQ(
+        (U64s{entry(kRppucfg, 40), entry(kAfidcfg, 40), model.peek(0x11200 + 2 * 40), entry(kTppucfg, 40)}),
+        (U64s{0x1EFFFFFF, 0xFFD, 0xFFF7, 0x3FFF}));
     ASSERT_EQ(VQ6192_PPP_SetPppCRCMode(kChip, 40, 1, 1), 0u);
     EXPECT_EQ(entry(kTppucfg, 40), 0x3FF7u);  // Crcmod bits 2..3 = 1
     uint32_t eg = 9, in = 9;
     EXPECT_EQ(VQ6192_PPP_GetPppCRCMode(kChip, 40, 1, &eg) | VQ6192_PPP_GetPppCRCMode(kChip, 40, 0, &in), 0u);
     EXPECT_EQ((U32s{eg, in}), (U32s{1, 2}));
-}
-
-TEST_F(PppTest, PpuConfigWritesOnlyTheSelectedFields) {
-    setEntry(kRppucfg, 50, 0x1FFFFFFF);
-    setEntry(kTppucfg, 50, 0x3FFF);
-    setEntry(kAfidcfg, 50, 0xFFF);
+    setEntries(50, {{kRppucfg, 0x1FFFFFFF}, {kTppucfg, 0x3FFF}, {kAfidcfg, 0xFFF}});
     VQ6192_PPP_PPU_CFG_S cfg{}, sel{};
     cfg.bRxCrcMod = 1, cfg.bTxCrcMod = 2, cfg.dwRxMintu = 64;
     sel.bRxCrcMod = 1, sel.bTxCrcMod = 2;  // a multi-bit selector other than 1 selects nothing
     const uint64_t writesBefore = model.tables().writesExecuted(kPppBlock);
     ASSERT_EQ(VQ6192_PPP_SetPppPpuCfg(kChip, 50, &cfg, &sel), 0u);
     // Rppucfg bits 24..25 = 1, Rxmintu untouched.
-    EXPECT_EQ((std::vector<uint64_t>{entry(kRppucfg, 50), entry(kTppucfg, 50)}),
-              (std::vector<uint64_t>{0x1DFFFFFF, 0x3FFF}));
+    EXPECT_EQ(entries({kRppucfg, kTppucfg}, 50), (U64s{0x1DFFFFFF, 0x3FFF}));
     EXPECT_EQ(model.tables().writesExecuted(kPppBlock) - writesBefore, 1u);
 
     // Every field, through the getter.
@@ -203,8 +189,7 @@ TEST_F(PppTest, PpuConfigWritesOnlyTheSelectedFields) {
     // Afidcfg: Rxafi 11, Mpv 3..10, Bytefe 0. Tppucfg: Chcen 12, Txaifs 11, Txifs 10, Txcfcs 9,
     // Txfmod 5..8, Fillmod 4, Crcmod 2..3, Die 1, Bytefe 0.
     // Rppucfg: Chcen 27, Fillmod 26, Crcmod 24..25, Die 23, Rxpldet 22, Rxmtu 11..21, Rxmintu 0..10.
-    EXPECT_EQ((std::vector<uint64_t>{entry(kAfidcfg, 51), entry(kTppucfg, 51), entry(kRppucfg, 51)}),
-              (std::vector<uint64_t>{0xD29, 0x1F3B, 0xEEEE00A}));
+    EXPECT_EQ(entries({kAfidcfg, kTppucfg, kRppucfg}, 51), (U64s{0xD29, 0x1F3B, 0xEEEE00A}));
     EXPECT_EQ(model.peek(0x11200 + 2 * 51) >> 3 & 3u, 2u);
     VQ6192_PPP_PPU_CFG_S back{};
     ASSERT_EQ(VQ6192_PPP_GetPppPpuCfg(kChip, 51, &back), 0u);
@@ -217,17 +202,12 @@ TEST_F(PppTest, QueueWeightsAndWatermarksKeepTheirNeighbours) {
     ASSERT_EQ(VQ6192_PPP_SetPppQueWeight(kChip, 6, 4, 0x15), 0u);
     EXPECT_EQ(entry(kPppwgtcfg, 6), 0xFFFFFFF95FFFFFFFu);
     uint32_t w = 0;
-    ASSERT_EQ(VQ6192_PPP_GetPppQueWeight(kChip, 6, 4, &w), 0u);
-    EXPECT_EQ(w, 0x15u);
+    EXPECT_EQ((U64s{VQ6192_PPP_GetPppQueWeight(kChip, 6, 4, &w), w}), (U64s{0, 0x15u}));
 
     setEntry(kHdfccfg, 6, 0xFFFFFFFFFFFFFFFFull);
     const VQ6192_PPP_WATERMARK_S wm{0x12345, 0x6789A, 0xBCDEF};
     ASSERT_EQ(VQ6192_PPP_SetPppTxLinkWaterMark(kChip, 6, &wm), 0u);
     EXPECT_EQ(entry(kHdfccfg, 6), 0xFBCDEF123456789Au);  // drop 40..59, high 20..39, low 0..19
-    VQ6192_PPP_WATERMARK_S back{};
-    ASSERT_EQ(VQ6192_PPP_GetPppTxLinkWaterMark(kChip, 6, &back), 0u);
-    EXPECT_EQ((U32s{back.dwWaterMarkH, back.dwWaterMarkL, back.dwWaterMarkDrop}),
-              (U32s{0x12345, 0x6789A, 0xBCDEF}));
 }
 
 TEST_F(PppTest, TableFailuresAreOredAndLaterStepsStillRun) {
@@ -244,79 +224,65 @@ TEST_F(PppTest, TableFailuresAreOredAndLaterStepsStillRun) {
     setEntry(kRppucfg, 15, 0x08000000);
     model.tables().holdBusy(kPppBlock, 500);  // the first table access of the create fails
     EXPECT_EQ(VQ6192_PPP_CreatePppChanNoTS(kChip, 15, 1), kTableTimeout);
-    EXPECT_EQ((std::vector<uint64_t>{entry(kRppucfg, 15), entry(kLinkcfg, 15)}),
-              (std::vector<uint64_t>{0, 1}));
+    EXPECT_EQ(entries({kRppucfg, kLinkcfg}, 15), (U64s{0, 1}));
     EXPECT_EQ(failCounters()[3], 2u) << "both time-outs counted in the chip record";
     EXPECT_EQ(capture.traceTexts().back(), "Err. VQ6192_PPP_CreatePppChanNoTS Return:[0x30c0003]\n");
 }
 
-TEST_F(PppTest, PfcGetterReadsThePfcBit) {
-    setEntry(kLinkcfg, 11, 0);
-    ASSERT_EQ(VQ6192_PPP_SetPppACFCEnable(kChip, 11, 1), 0u);
-    ASSERT_EQ(VQ6192_PPP_SetPppPFCEnable(kChip, 11, 0), 0u);
+TEST_F(PppTest, LinkGettersAndEgressQueueEnable) {
+    setEntry(kLinkcfg, 11, 0x37FF ^ 0x0C00);  // ACFC (bit 11) on, PFC (bit 10) off
     uint32_t pfc = 9, acfc = 9;
-    ASSERT_EQ(VQ6192_PPP_GetPppPFCEnable(kChip, 11, &pfc), 0u);
-    ASSERT_EQ(VQ6192_PPP_GetPppACFCEnable(kChip, 11, &acfc), 0u);
-    EXPECT_EQ(pfc, 0u);
-    EXPECT_EQ(acfc, 1u);
-}
-
-TEST_F(PppTest, EgressQueueEnableOfALinkAndAFailedRead) {
+    ASSERT_EQ(VQ6192_PPP_GetPppPFCEnable(kChip, 11, &pfc) | VQ6192_PPP_GetPppACFCEnable(kChip, 11, &acfc),
+              0u);
+    EXPECT_EQ((U32s{pfc, acfc}), (U32s{0, 1}));
     setEntry(kQmencfg, 5, 0xFF);
     ASSERT_EQ(VQ6192_PPP_SetPPPQmEnable(kChip, 41, 0, 0), 0u);
     EXPECT_EQ(entry(kQmencfg, 5), 0xFDu);  // link 41: entry 5, bit 1
+    // Failed reads, of the link's entry and of a bundle's SN format first: nothing written.
     model.tables().holdBusy(kPppBlock, vq6192::sim::TableEngine::kForever);
-    EXPECT_EQ(VQ6192_PPP_SetPPPQmEnable(kChip, 41, 0, 1), kNoData);
+    EXPECT_EQ((U32s{VQ6192_PPP_SetPPPQmEnable(kChip, 41, 0, 1), VQ6192_PPP_SetPPPQmEnable(kChip, 12, 1, 1)}),
+              (U32s{kNoData, kNoData}));
     model.tables().holdBusy(kPppBlock, 0);
-    EXPECT_EQ(entry(kQmencfg, 5), 0xFDu) << "nothing written after the failed read";
-    // A bundle: the SN format read comes first and its failure is reported the same way.
-    model.tables().holdBusy(kPppBlock, vq6192::sim::TableEngine::kForever);
-    EXPECT_EQ(VQ6192_PPP_SetPPPQmEnable(kChip, 12, 1, 1), kNoData);
-    model.tables().holdBusy(kPppBlock, 0);
+    EXPECT_EQ(entry(kQmencfg, 5), 0xFDu);
     EXPECT_EQ(entry(kQmencfg, 256 + 12), 0u);
     ASSERT_EQ(VQ6192_PPP_SetPPPQmEnable(kChip, 12, 1, 1), 0u);
     EXPECT_EQ(entry(kQmencfg, 256 + 12), 0xFFu);
 }
 
-TEST_F(PppTest, ModuleRegistersKeepTheirNeighbours) {
-    expectRegOps({{PPP_OP(VQ6192_PPP_SetMpMode(c, 0)), 0x1004A, 0xFFFF, 0xFFFE},
-                  {PPP_OP(VQ6192_PPP_SetMpAbortThld(c, 0x5A)), 0x130D4, 0xFFFF, 0xFF5A},
-                  {PPP_OP(VQ6192_PPP_SetPppUnidentifyMode(c, 1)), 0x13004, 0xFFFF, 0xFFFD},
-                  {PPP_OP(VQ6192_PPP_SetPppESPTEnable(c, 0)), 0x13008, 0xFFFF, 0xFFFE},
-                  {PPP_OP(VQ6192_PPP_SetPppDCNEnable(c, 1)), 0x13006, 0xFFFE, 0xFFFF},
-                  {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13066, 0xFFFF, 0xFFFE},
-                  {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13068, 0xFFFF, 0xC021},
-                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x1301E, 0, 0x1234},
-                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13020, 0, 0x5678},
-                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13022, 0, 0x9ABC},
-                  {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13024, 0, 0xDEF0},
-                  {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12022, 0xF000, 0xFFFF},
-                  {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12024, 0xFFFF, 0xF001},
-                  {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 0, 3)), 0x12000, 0xFFFD, 0xFFFE},
-                  {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 1, 2)), 0x12000, 0xFFFE, 0xFFFD},
-                  {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11000, 0xFFF0, 0xFFF4},
-                  {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11002, 0xFFFF, 0xFFFB},
-                  {PPP_OP(VQ6192_PPP_SetMpMaxFragNum(c, 127)), 0x130C6, 0xFF80, 0xFFFF},
-                  {PPP_OP(VQ6192_PPP_SetCobcMode(c, 5, 2)), 0x1120A, 0xFFFF, 0xFFFD},
-                  {PPP_OP(VQ6192_PPP_SetPppTestConfig(c, 9, 0x21, 0x57)), 0x13402, 0, 9}});
-}
-
-TEST_F(PppTest, ModuleGettersReadTheirRegisters) {
-    model.poke(0x1306A, 0x5678);
-    model.poke(0x1306C, 0x1234);
-    uint32_t cnt = 0;
-    ASSERT_EQ(VQ6192_PPP_GetPppRxCfgPrtcCnt(kChip, &cnt), 0u);
-    EXPECT_EQ(cnt, 0x12345678u);
-    uint32_t ppp = 9, mp = 9;
-    model.setTrace(true);
-    ASSERT_EQ(VQ6192_PPP_GetPppMpSchMode(kChip, &ppp, &mp), 0u);
-    EXPECT_EQ(ppp, 0u);
-    EXPECT_EQ(mp, 1u);
-    EXPECT_TRUE(model.trace().empty()) << "the scheduling mode is not read from the chip";
-    model.poke(0x130D4, 0xFF7F);
+TEST_F(PppTest, ModuleRegistersAndGetters) {
+    for (const RegCase &c : std::initializer_list<RegCase>{
+             {PPP_OP(VQ6192_PPP_SetMpMode(c, 0)), 0x1004A, 0xFFFF, 0xFFFE},
+             {PPP_OP(VQ6192_PPP_SetMpAbortThld(c, 0x5A)), 0x130D4, 0xFFFF, 0xFF5A},
+             {PPP_OP(VQ6192_PPP_SetPppUnidentifyMode(c, 1)), 0x13004, 0xFFFF, 0xFFFD},
+             {PPP_OP(VQ6192_PPP_SetPppESPTEnable(c, 0)), 0x13008, 0xFFFF, 0xFFFE},
+             {PPP_OP(VQ6192_PPP_SetPppDCNEnable(c, 1)), 0x13006, 0xFFFE, 0xFFFF},
+             {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13066, 0xFFFF, 0xFFFE},
+             {PPP_OP(VQ6192_PPP_SetPppCfgPrtcEn(c, 0xC021, 0)), 0x13068, 0xFFFF, 0xC021},
+             {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x1301E, 0, 0x1234},
+             {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13020, 0, 0x5678},
+             {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13022, 0, 0x9ABC},
+             {PPP_OP(VQ6192_PPP_SetPppDCNConfig(c, 0x12345678, 0x9ABCDEF0)), 0x13024, 0, 0xDEF0},
+             {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12022, 0xF000, 0xFFFF},
+             {PPP_OP(VQ6192_PPP_SetPppDFifoWaterMark(c, 4095, 1)), 0x12024, 0xFFFF, 0xF001},
+             {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 0, 3)), 0x12000, 0xFFFD, 0xFFFE},
+             {PPP_OP(VQ6192_PPP_SetPppMpSchMode(c, 1, 2)), 0x12000, 0xFFFE, 0xFFFD},
+             {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11000, 0xFFF0, 0xFFF4},
+             {PPP_OP(VQ6192_PPP_SetMpVc4Scrambler(c, 2, 1, 0)), 0x11002, 0xFFFF, 0xFFFB},
+             {PPP_OP(VQ6192_PPP_SetMpMaxFragNum(c, 127)), 0x130C6, 0xFF80, 0xFFFF},
+             {PPP_OP(VQ6192_PPP_SetCobcMode(c, 5, 2)), 0x1120A, 0xFFFF, 0xFFFD},
+             {PPP_OP(VQ6192_PPP_SetPppTestConfig(c, 9, 0x21, 0x57)), 0x13402, 0, 9}}) {
+        model.poke(c.addr, static_cast<uint16_t>(c.before));
+        ASSERT_EQ(c.op(kChip), 0u) << c.name;
+        EXPECT_EQ(model.peek(c.addr), c.after) << c.name;
+    }
+    poke({{0x1306A, 0x5678}, {0x1306C, 0x1234}, {0x130D4, 0xFF7F}});
+    uint32_t cnt = 0, ppp = 9, mp = 9;
     uint16_t thld = 0;
-    ASSERT_EQ(VQ6192_PPP_GetMpAbortThld(kChip, &thld), 0u);
-    EXPECT_EQ(thld, 0x7Fu);
+    ASSERT_EQ(VQ6192_PPP_GetPppRxCfgPrtcCnt(kChip, &cnt) | VQ6192_PPP_GetMpAbortThld(kChip, &thld), 0u);
+    EXPECT_EQ((U32s{cnt, thld}), (U32s{0x12345678, 0x7F}));
+    EXPECT_TRUE(traced([&] { ASSERT_EQ(VQ6192_PPP_GetPppMpSchMode(kChip, &ppp, &mp), 0u); }).empty())
+        << "the scheduling mode is not read from the chip";
+    EXPECT_EQ((U32s{ppp, mp}), (U32s{0, 1}));
 }
 
 }  // namespace

@@ -1,19 +1,16 @@
-// PPP module initialisation, and argument refusals across the module: the condition traced, the
-// status returned and nothing written.
+// PPP module initialisation, channel numbering against the VC-4 PPP enable register, and argument
+// refusals across the module: the condition traced, the status returned and nothing written.
 #include "ppp_fixture.h"
 
 namespace {
 
 using namespace ppptest;
 
-TEST_F(PppTest, InitOtherThanMode1DoesNothing) {
-    model.setTrace(true);
-    EXPECT_EQ(VQ6192_PPP_InitPppModule(kChip, 2), 0u);
-    EXPECT_EQ(VQ6192_PPP_InitPppModule(kChip, 0), 0u);
-    EXPECT_TRUE(model.trace().empty());
-}
-
 TEST_F(PppTest, InitWritesTheModuleDefaults) {
+    EXPECT_TRUE(traced([] {
+                    EXPECT_EQ(VQ6192_PPP_InitPppModule(kChip, 2) | VQ6192_PPP_InitPppModule(kChip, 0), 0u);
+                }).empty())
+        << "modes other than 1 do nothing";
     poke({{0x1220C, 0xFFFF}, {0x11010, 0xFC00}, {0x11200 + 2 * 84, 0}});
     ASSERT_EQ(VQ6192_PPP_InitPppModule(kChip, 1), 0u);
     // MP mode 1; PPP scheduling 0 and MP scheduling 3 (low bit 1); every VC-4 channel disabled again; 255;
@@ -25,14 +22,11 @@ TEST_F(PppTest, InitWritesTheModuleDefaults) {
     // VC-4 channel 1 while enabled: watermarks 0, ACFC and PFC on at its inner number.
     EXPECT_EQ(entries({kHdfccfg, kLinkcfg}, 0x200), (U64s{0, 0xC00}));
     // Channels below 256 also carry the test enable of the test frame reception.
-    for (const auto &[ch, link, skyeye] : Rows<3>{{0, 0x1C00, 0x20},
-                                                  {40, 0x1C00, 0x28},
-                                                  {255, 0x1C00, 0x3F},
-                                                  {256, 0xC00, 0x20},
-                                                  {511, 0xC00, 0x3F}}) {
+    const uint32_t chans[][3] = {
+        {0, 0x1C00, 0x20}, {40, 0x1C00, 0x28}, {255, 0x1C00, 0x3F}, {256, 0xC00, 0x20}, {511, 0xC00, 0x3F}};
+    for (const auto &[ch, link, skyeye] : chans) {
         // Watermarks drop 1200 (40..59), high 1000 (20..39), low 800 (0..19).
-        EXPECT_EQ(entries({kHdfccfg, kLinkcfg, kMpskyeyecfg}, static_cast<uint32_t>(ch)),
-                  (U64s{0x4B0003E800320, link, skyeye}))
+        EXPECT_EQ(entries({kHdfccfg, kLinkcfg, kMpskyeyecfg}, ch), (U64s{0x4B0003E800320, link, skyeye}))
             << ch;
     }
     for (uint32_t b : {0u, 9u, 255u}) {
@@ -64,7 +58,6 @@ TEST_F(PppTest, RefusalsTraceTheConditionAndTouchNothing) {
     PPP_REFUSED(VQ6192_PPP_SetLinkToPpp(c, 1, 2), "ulEnable <= VQ6192_PPP_ENABLE");
     PPP_REFUSED(VQ6192_PPP_SetPppMRU(c, 1, 2037), "ulMRU <= VQ6192_MAX_PPP_MRU");
     PPP_REFUSED(VQ6192_PPP_SetPppLoopEnable(c, 1, 1, 1), "ucPppDirect < VQ6192_BASE_SRV_DIRECT_EGRESS");
-    PPP_REFUSED(VQ6192_PPP_SetPppLoopEnable(c, 1, 2, 1), "ucPppDirect < VQ6192_BASE_SRV_DIRECT_EGRESS");
     PPP_REFUSED(VQ6192_PPP_SetPppDFifoWaterMark(c, 100, 0), "ulWaterMarkL > VQ6192_PPP_DISABLE");
     PPP_REFUSED(VQ6192_PPP_SetPppDFifoWaterMark(c, 100, 100), "ulWaterMarkL < ulWaterMarkH");
     PPP_REFUSED(VQ6192_PPP_SetPppDFifoWaterMark(c, 4096, 10), "ulWaterMarkH < VQ6192_MAX_DFIFO_ALM_LC");
@@ -75,7 +68,6 @@ TEST_F(PppTest, RefusalsTraceTheConditionAndTouchNothing) {
     PPP_REFUSED(VQ6192_PPP_SetPppCsptEnable(c, 1, 2, 1), "enChanType < VQ6192_PPP_CHNTYPE_BUTT");
     PPP_REFUSED(VQ6192_PPP_SetPppCsptEnable(c, 256, 0, 1), "ulChanNo < VQ6192_SCH_MP_MAX");
     PPP_REFUSED(VQ6192_PPP_SetMpVc4En(c, 4, 1), "ulVc4PppChanNo < VQ6192_SCH_C4_PPP_MAX");
-    PPP_REFUSED(VQ6192_PPP_SetPppPpuCfg(c, 1, nullptr, nullptr), "rstPpuCfg != NULL");
     PPP_REFUSED(VQ6192_PPP_SetPPPQmEnable(c, 1, 2, 1), "ulType < VQ6192_PPP_CHNTYPE_BUTT");
     PPP_REFUSED(VQ6192_PPP_AddPppChanToMp(c, 1, 256, 2), "ulMpChanNo < VQ6192_SCH_MP_MAX");
     PPP_REFUSED(VQ6192_PPP_AddPppChanToMp(c, 1, 2, 3), "ucDirect < VQ6192_BASE_SRV_DIRECT_MAX");
@@ -99,11 +91,51 @@ TEST_F(PppTest, RefusalsTraceTheConditionAndTouchNothing) {
     PPP_REFUSED(VQ6192_PPP_GetPppDdrCapPkt(c, 32, 0, 0, buf, &u16, &next), "ulSlot < VQ6192_DDR_CAP_MAX");
     PPP_REFUSED(VQ6192_PPP_GetPppDdrCapPkt(c, 1, 0, 2, buf, &u16, &next),
                 "ulDirect < VQ6192_BASE_SRV_DIRECT_BOTH");
-    PPP_REFUSED(VQ6192_PPP_GetPppDdrCapPkt(c, 1, 0, 0, buf, nullptr, &next), "pusLen != NULL");
     PPP_REFUSED(VQ6192_PPP_CapturePppFifoPkt(c, 300, 1, buf, &u), "ulChanNo < VQ6192_SCH_MP_MAX");
     PPP_REFUSED(VQ6192_PPP_StartCobcCap(c, 4096), "usHdlcChnl < VQ6192_HDLC_MAX");
-    PPP_REFUSED(VQ6192_PPP_GetPppMRU(c, 1, nullptr), "pulMRU != NULL");
     PPP_REFUSED(VQ6192_PPP_GetPppCRCMode(c, 1, 2, &u), "ucDirect < VQ6192_BASE_SRV_DIRECT_BOTH");
+}
+
+TEST_F(PppTest, EnabledVc4ChannelsLiveAtMultiplesOf512) {
+    // VC-4 enables, channel, inner number.
+    const uint32_t forward[][3] = {{0x2, 1, 0x200}, {0x0, 1, 1},     {0x1, 0, 0},
+                                   {0x0, 0, 0},     {0xF, 3, 0x600}, {0xF, 4, 4},
+                                   {0xF, 511, 511}, {0xFFF0, 2, 2},  {0x4, 2, 0x400}};
+    for (const auto &[enables, channel, inner] : forward) {
+        model.poke(kVc4Enable, static_cast<uint16_t>(enables));
+        for (uint32_t dir : {0u, 1u, 2u}) {
+            EXPECT_EQ(VQ6192_PPP_CalcPppChnl(kChip, channel, dir), inner) << enables << " " << channel;
+        }
+    }
+    // VC-4 enables, inner number, channel.
+    const uint32_t inverse[][3] = {{0x2, 0x200, 1},     {0x0, 0x200, 0x200}, {0x8, 0x600, 3},
+                                   {0x8, 0x601, 0x601}, {0xF, 0x800, 0x800}, {0xF, 0x100, 0x100},
+                                   {0xF, 5, 5},         {0x1, 0, 0}};
+    for (const auto &[enables, inner, channel] : inverse) {
+        model.poke(kVc4Enable, static_cast<uint16_t>(enables));
+        EXPECT_EQ(VQ6192_PPP_ReCalcPppChnl(kChip, inner, 0), channel) << enables << " " << inner;
+    }
+    // Round trip over the whole channel space with all four VC-4 channels enabled.
+    model.poke(kVc4Enable, 0xF);
+    for (uint32_t ch = 0; ch < VQ6192_NONE_SCH_PPP_MAX; ++ch) {
+        EXPECT_EQ(VQ6192_PPP_ReCalcPppChnl(kChip, VQ6192_PPP_CalcPppChnl(kChip, ch, 0), 0), ch);
+    }
+    // The enable register is read every time; egress numbers of ordinary channels are traced.
+    capture.clear();
+    model.poke(kVc4Enable, 0x1);
+    const auto t = traced([] {
+        VQ6192_PPP_CalcPppChnl(kChip, 0, 1);  // VC-4 channel: no trace
+        VQ6192_PPP_CalcPppChnl(kChip, 7, 1);
+        VQ6192_PPP_CalcPppChnl(kChip, 7, 0);
+        VQ6192_PPP_ReCalcPppChnl(kChip, 7, 1);
+    });
+    ASSERT_EQ(t.size(), 4u);
+    for (const auto &a : t) {
+        EXPECT_EQ(a.addr, kVc4Enable);
+    }
+    EXPECT_EQ(capture.traceTexts(),
+              (std::vector<std::string>{"VQ6192_PPP_CalcPppChnl bSpecialChnl TRUE!\n",
+                                        "VQ6192_PPP_ReCalcPppChnl bSpecialChnl TRUE!\n"}));
 }
 
 }  // namespace

@@ -22,25 +22,19 @@ constexpr uint32_t kRppucfg = 0, kTppucfg = 1, kAfidcfg = 2, kRppustat = 3, kTpp
                    kPppwgtcfg = 22, kMpwgtcfg = 23, kMprpbytecnt = 27, kMplooptimestp = 29, kMprxmmccnt = 31,
                    kMpskyeyecfg = 32, kMptesttxen = 33, kHdlccfg1 = 34, kHdlccfg2 = 35, kMprxmmpcfg1 = 36,
                    kMprxmhdlcpktcnt = 38, kMprxmbecnt = 39, kMprgrpcfg = 41, kMprgrppktcnt = 42,
-                   kCsptcfg1 = 43, kCsptcfg2 = 44, kSnctrlcfg = 45, kMprpmrrucfg = 48, kMptestrefstat = 49,
-                   kMprpkt = 50, kMprbyte = 51;
+                   kCsptcfg1 = 43, kCsptcfg2 = 44, kSnctrlcfg = 45, kMprpmrrucfg = 48, kMprpkt = 50,
+                   kMprbyte = 51;
 
-constexpr uint32_t kPppBlock = 0x8000;
-constexpr uint32_t kTsBlock = 0x10ab;
-constexpr uint32_t kVc4Enable = 0x10048;
-
+// Table blocks of the PPP and timeslot tables; the VC-4 PPP enable register.
+constexpr uint32_t kPppBlock = 0x8000, kTsBlock = 0x10ab, kVc4Enable = 0x10048;
 // Status codes of chip 3 (the fixture's chip) in module PPP.
-constexpr uint32_t kParaErr = 0x03040001;
-constexpr uint32_t kNoMem = 0x03040002;
-constexpr uint32_t kTimeout = 0x03040004;
-constexpr uint32_t kNoData = 0x03040007;
+constexpr uint32_t kParaErr = 0x03040001, kNoMem = 0x03040002, kTimeout = 0x03040004, kNoData = 0x03040007;
 
 using U32s = std::vector<uint32_t>;
 using U64s = std::vector<uint64_t>;
 // Rows of a table-driven test, N numbers each, bound by name in the loop.
 template <size_t N>
 using Rows = std::initializer_list<std::array<uint64_t, N>>;
-using Reg = std::pair<uint32_t, uint32_t>;
 
 // A call on chip c and its text, for table rows {name, op, ...}.
 #define PPP_REFUSED(call, condition) \
@@ -80,6 +74,12 @@ class PppTest : public vqtest::ChipTest {
         }
         return v;
     }
+    // Entries of several tables at one index: {select, bits} each.
+    void setEntries(uint32_t index, std::initializer_list<std::pair<uint32_t, uint64_t>> list) {
+        for (const auto &[select, bits] : list) {
+            setEntry(select, index, bits);
+        }
+    }
     void setEntry(uint32_t select, uint32_t index, uint64_t bits) {
         vq6192::sim::TableEngine::Entry e{};
         for (uint32_t k = 0; k < 4; ++k) {
@@ -97,26 +97,18 @@ class PppTest : public vqtest::ChipTest {
         return model.tables().entry(kTsBlock, select, (e1 << 5) | ts)[0];
     }
     vq6192::sim::PppBlock &ppp() { return model.block<vq6192::sim::PppBlock>(); }
-    std::vector<vq6192::sim::BusAccess> busWrites() { return vqtest::writes(model.trace()); }
-    // Traced "ParaErr. [ ... ]" lines.
-    std::vector<std::string> paraErrs() {
-        std::vector<std::string> out;
-        for (const auto &t : capture.traces) {
-            if (t.level == VQ6192_PRINT_PARA_WRONG) {
-                out.push_back(t.text);
-            }
-        }
-        return out;
-    }
     // A call refused with the parameter error: the condition traced and no register written.
     void expectRefused(const char *call, const std::function<uint32_t()> &op, const std::string &condition) {
         SCOPED_TRACE(call);
         capture.clear();
-        model.setTrace(true);
-        model.clearTrace();
-        EXPECT_EQ(op(), kParaErr);
-        EXPECT_TRUE(busWrites().empty());
-        EXPECT_EQ(paraErrs(), std::vector<std::string>{"ParaErr. [ " + condition + " ]\r\n"});
+        EXPECT_TRUE(vqtest::writes(traced([&] { EXPECT_EQ(op(), kParaErr); })).empty());
+        std::vector<std::string> paraErrs;
+        for (const auto &t : capture.traces) {
+            if (t.level == VQ6192_PRINT_PARA_WRONG) {
+                paraErrs.push_back(t.text);
+            }
+        }
+        EXPECT_EQ(paraErrs, std::vector<std::string>{"ParaErr. [ " + condition + " ]\r\n"});
     }
     void expectEntryOps(std::initializer_list<EntryCase> cases) {
         for (const EntryCase &c : cases) {
@@ -127,14 +119,6 @@ class PppTest : public vqtest::ChipTest {
             EXPECT_EQ(entry(c.select, c.index), c.after);
         }
     }
-    void expectRegOps(std::initializer_list<RegCase> cases) {
-        for (const RegCase &c : cases) {
-            SCOPED_TRACE(c.name);
-            model.poke(c.addr, static_cast<uint16_t>(c.before));
-            ASSERT_EQ(c.op(kChip), 0u);
-            EXPECT_EQ(model.peek(c.addr), c.after);
-        }
-    }
     uint64_t virtualUs() { return VQ6192_Platform_GetVirtualTimeUs(); }
     bool tracedLine(const std::string &text) {
         const auto t = capture.traceTexts();
@@ -143,7 +127,7 @@ class PppTest : public vqtest::ChipTest {
     // The values written to one register, in order.
     U32s writesTo(uint32_t addr) {
         U32s out;
-        for (const auto &a : busWrites()) {
+        for (const auto &a : vqtest::writes(model.trace())) {
             if (a.addr == addr) {
                 out.push_back(a.value);
             }
