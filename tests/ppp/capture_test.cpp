@@ -236,24 +236,37 @@ TEST_F(CaptureTest, GlobalCountersAndFifoFlags) {
     EXPECT_EQ((U32s{crc[0], crc[1], crc[2], cur.bCrcFifoFull, cur.bCrcFifoEmpty, his.bCrcFifoHisFull,
                     his.bCrcFifoHisEmpty}),
               (U32s{0x11, 0x22, 0x33, 1, 0, 1, 9}));
-    // Register and value; bits expected in the current and the history word.
-    const uint32_t rows[][4] = {
-        {0x1304C, 0x0008, 1u << 31, 0}, {0x1304E, 0x0001, 0, 1u << 29}, {0x13204, 0x0030, 0, 3u << 26},
-        {0x13204, 0x0001, 1u << 25, 0}, {0x13050, 0x0004, 1u << 23, 0}, {0x13052, 0x0002, 0, 1u << 24},
-        {0x130D6, 0x0020, 1u << 20, 0}, {0x130D8, 0x0001, 0, 1u << 16}, {0x130DA, 0x0200, 1u << 14, 0},
-        {0x130DC, 0x0010, 0, 1u << 14}, {0x130DA, 0x0001, 1u << 5, 0},  {0x130DC, 0x0001, 0, 1u << 6}};
-    for (const auto &[addr, value, cw, hw] : rows) {
-        SCOPED_TRACE(testing::Message() << std::hex << addr << " " << value);
-        model.reset();
-        model.poke(addr, static_cast<uint16_t>(value));
-        VQ6192_PPP_FIFO_STATUS_S c{};
-        VQ6192_PPP_FIFO_HIS_STATUS_S h{};
-        c.bReserved = 0x15, h.bReserved = 0x0A;
-        ASSERT_EQ(VQ6192_PPP_GetPppFifoStatus(kChip, &c, &h), 0u);
-        uint32_t got[2] = {};
-        std::memcpy(&got[0], &c, 4);
-        std::memcpy(&got[1], &h, 4);
-        EXPECT_EQ((U32s{got[0], got[1]}), (U32s{cw | 0x15u, hw | 0x0Au}));
+    // The documented flag table: flag bit, its current source and its latched source (register and bit,
+    // register 0 where the word has none). Each source alone raises its flag in its word only.
+    const uint32_t flags[][5] = {
+        {31, 0x1304C, 3, 0x1304E, 1}, {30, 0x1304C, 2, 0, 0},       {29, 0x1304C, 1, 0x1304E, 0},
+        {28, 0x1304C, 0, 0, 0},       {27, 0, 0, 0x13204, 5},       {26, 0, 0, 0x13204, 4},
+        {25, 0x13204, 0, 0, 0},       {24, 0x13050, 3, 0x13052, 1}, {23, 0x13050, 2, 0, 0},
+        {22, 0x13050, 1, 0x13052, 0}, {21, 0x13050, 0, 0, 0},       {20, 0x130D6, 5, 0x130D8, 2},
+        {19, 0x130D6, 4, 0, 0},       {18, 0x130D6, 3, 0x130D8, 1}, {17, 0x130D6, 2, 0, 0},
+        {16, 0x130D6, 1, 0x130D8, 0}, {15, 0x130D6, 0, 0, 0},       {14, 0x130DA, 9, 0x130DC, 4},
+        {13, 0x130DA, 8, 0, 0},       {12, 0x130DA, 7, 0x130DC, 3}, {11, 0x130DA, 6, 0, 0},
+        {10, 0x130DA, 5, 0x130DC, 2}, {9, 0x130DA, 4, 0, 0},        {8, 0x130DA, 3, 0x130DC, 1},
+        {7, 0x130DA, 2, 0, 0},        {6, 0x130DA, 1, 0x130DC, 0},  {5, 0x130DA, 0, 0, 0}};
+    for (const auto &[flag, curAddr, curBit, hisAddr, hisBit] : flags) {
+        for (const bool history : {false, true}) {
+            const uint32_t addr = history ? hisAddr : curAddr;
+            if (addr == 0) {
+                continue;
+            }
+            SCOPED_TRACE(testing::Message() << "flag " << flag << (history ? " latched" : " current"));
+            model.reset();
+            model.poke(addr, static_cast<uint16_t>(1u << (history ? hisBit : curBit)));
+            VQ6192_PPP_FIFO_STATUS_S c{};
+            VQ6192_PPP_FIFO_HIS_STATUS_S h{};
+            c.bReserved = 0x15, h.bReserved = 0x0A;  // bits 0..4 keep the caller's values
+            ASSERT_EQ(VQ6192_PPP_GetPppFifoStatus(kChip, &c, &h), 0u);
+            uint32_t got[2] = {};
+            std::memcpy(&got[0], &c, 4);
+            std::memcpy(&got[1], &h, 4);
+            EXPECT_EQ((U32s{got[0], got[1]}),
+                      (U32s{(history ? 0 : 1u << flag) | 0x15u, (history ? 1u << flag : 0) | 0x0Au}));
+        }
     }
 }
 
