@@ -467,7 +467,9 @@ VQ6192_API uint32_t VQ6192_DUMP_Dump(uint32_t chip, int32_t groupFilter) {
     if (rc != 0) {
         return rc;
     }
-    return VQ6192_DUMP_DumpTbl(chip, groupFilter) | VQ6192_DUMP_WriteFile(chip);
+    // The tables, then the final flush: two statements, as `|` leaves the order of its calls open.
+    const uint32_t tables = VQ6192_DUMP_DumpTbl(chip, groupFilter);
+    return tables | VQ6192_DUMP_WriteFile(chip);
 }
 
 VQ6192_API uint32_t VQ6192_DUMP_F(uint32_t chip, int32_t groupFilter) {

@@ -236,7 +236,9 @@ VQ6192_API uint32_t VQ6192_IMA_AddTcLink(uint32_t chip, uint32_t link, uint32_t 
     if (rc != 0) {
         return rc;
     }
-    return VQ6192_tcAddTxLink(chip, link, grp) | VQ6192_tcAddRxLink(chip, link, grp);
+    // Transmit side first, then receive: two statements, as `|` leaves the order of its calls open.
+    rc = VQ6192_tcAddTxLink(chip, link, grp);
+    return rc | VQ6192_tcAddRxLink(chip, link, grp);
 }
 
 VQ6192_API uint32_t VQ6192_IMA_DelTcLink(uint32_t chip, uint32_t link) {

@@ -88,8 +88,8 @@ VQ6192_API uint32_t VQ6192_IMA_SetTcLinkParam(uint32_t chip, uint32_t n, const u
         }
         if (tx != nullptr) {
             Entry txe, rxe;
-            const uint32_t rd =
-                readEntry(chip, tbl::kTcTxCfg, link, txe) | readEntry(chip, tbl::kTcRxCfg, link, rxe);
+            uint32_t rd = readEntry(chip, tbl::kTcTxCfg, link, txe);
+            rd |= readEntry(chip, tbl::kTcRxCfg, link, rxe);
             rc |= rd;
             if (rd != 0) {
                 continue;
@@ -246,7 +246,8 @@ VQ6192_API uint32_t VQ6192_tcGetTxLinkFifoState(uint32_t chip, uint32_t link, ui
         return paraErr(chip);
     }
     Entry txc, rxc;
-    uint32_t rc = readEntry(chip, tbl::kTcTxCfg, link, txc) | readEntry(chip, tbl::kTcRxCfg, link, rxc);
+    uint32_t rc = readEntry(chip, tbl::kTcTxCfg, link, txc);
+    rc |= readEntry(chip, tbl::kTcRxCfg, link, rxc);
     if (rc != 0) {
         return rc;
     }
