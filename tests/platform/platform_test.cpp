@@ -137,6 +137,12 @@ TEST(Semaphore, IsBinaryAndHonoursInjectedFailures) {
     EXPECT_EQ((Oks{take(0), give(), take(600)}), (Oks{true, true, false}));
     VQ6192_Platform_FailSemGives(0, 1);  // an injected give failure still releases
     EXPECT_EQ((Oks{take(0), give(), take(0), give()}), (Oks{true, false, true, true}));
+    // Created taken (initial 0): a take fails until the first give.
+    alignas(16) unsigned char taken[VQ6192_SEM_BLOCK_SIZE] = {};
+    ASSERT_EQ(vq::DrvSemBCreate(taken, 0), 0u);
+    EXPECT_EQ((Oks{vq::iof_sema_timewait(taken, 0) == 0, vq::iof_sema_post(taken) == 0,
+                   vq::iof_sema_timewait(taken, 0) == 0, vq::DrvSemDelete(taken) == 0}),
+              (Oks{false, true, true, true}));
     VQ6192_Platform_FailSemCreates(0, 1);
     alignas(16) unsigned char other[VQ6192_SEM_BLOCK_SIZE] = {};
     EXPECT_NE(vq::DrvSemBCreate(other, 1), 0u);
