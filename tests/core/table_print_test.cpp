@@ -51,11 +51,14 @@ TEST(TablePrint, FieldsSideBySideWithoutATail) {
     vq::tblSprintf(text, 2, "Beta", 1, 2, nullptr, &column);
     EXPECT_EQ(column, 54u);
     vq::tblSprintf(text, 0xABCDEF, "GammaGammaGamma", 10, 20, nullptr, &column);  // would pass column 80
+    EXPECT_EQ(column, 54u);
+    vq::tblSprintf(text, 0xABCDE, "Delta", 0, 1, nullptr, &column);  // ends at column 80: stays on the line
     EXPECT_EQ(std::string(buf.c_str()),
               "Alpha(0:1)       = 0x1     "
               "Beta(1:2)        = 0x2     "
-              "\r\nGammaGammaGamma(10:20)= 0xabcdef                      ");
-    EXPECT_EQ(column, 54u);
+              "\r\nGammaGammaGamma(10:20)= 0xabcdef                      "
+              "Delta(0:1)       = 0xabcde ");
+    EXPECT_EQ(column, 81u);
     EXPECT_EQ(vq::tblSprintf(text, 7, "Last", 0, 3, "end", &column),
               28u);  // "Last(0:3)" padded, "= 0x7 end\r\n"
     EXPECT_EQ(column, 0u);
