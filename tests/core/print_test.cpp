@@ -62,7 +62,7 @@ TEST_F(PrintTest, TracePointIsGatedByTheModuleFlag) {
     VQ6192_Printf(kChip, VQ6192_MODULE_ATM, VQ6192_PRINT_EXCEPTION1_INFO, "Err. step %d\r\n", 2);
     VQ6192_Set_Printf_Flag(kChip, VQ6192_MODULE_ATM, 0);
     VQ6192_Printf(kChip, VQ6192_MODULE_ATM, VQ6192_PRINT_EXCEPTION1_INFO, "silenced\r\n");
-    VQ6192_Printf(kChip, 23, VQ6192_PRINT_PARA_WRONG, "no such module\r\n");
+    VQ6192_Printf(kChip, 23, 0xFFFFFFFFu, "no such module\r\n");  // every level: no flag word to look at
     VQ6192_Printf(100000, 1, VQ6192_PRINT_PARA_WRONG, "no such chip\r\n");
     // A line is cut at 511 characters.
     VQ6192_Printf(kChip, VQ6192_MODULE_SDH, VQ6192_PRINT_EXCEPTION1_INFO, "%s",

@@ -260,6 +260,8 @@ TEST_F(FramerStatus, OverheadInsertionModes) {
         // Type 1: mode 0 leaves both words; mode 1 sets +2 bit 7 and +4 bit 1 with the enable in bit 0.
         {1, 0, 1, 1, 0x1234, 0x5678, 0x1234, 0x5678},
         {1, 1, 0, 1, 0x0000, 0x0000, 0x00C0, 0x0043},
+        {1, 1, 1, 0, 0xFFFF, 0xFFFF, 0xFFBF, 0xFFFE},
+        {1, 2, 0, 1, 0xFFFF, 0xFFFF, 0xFF7F, 0xFFFD},
         // Type 2: value into bit 0 in mode 1, never touches +4; mode 2 writes nothing.
         {2, 1, 1, 1, 0x0000, 0x0000, 0x0007, 0x0000},
         {2, 0, 1, 0, 0x00FF, 0x00FF, 0x00F9, 0x00FF},
