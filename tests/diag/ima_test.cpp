@@ -106,10 +106,20 @@ TEST_F(ImaDiagTest, HardwareRefusalsAndParameters) {
 
 TEST_F(ImaDiagTest, HardwareTablePrints) {
     for (uint32_t lid = 0; lid < 32; ++lid) {
-        proc().setEntryBits(Proc::kTxBlock, 3, 6 * 32 + lid, 0, 9, lid == 8 ? 0x14F : 511);
+        proc().setEntryBits(Proc::kTxBlock, 3, 6 * 32 + lid, 0, 9, 0x100 + lid);
     }
     EXPECT_EQ(MCARD_IMA_DiagHardwareGetImatx(kChip, 4, 6, buf.data()), 0);
-    EXPECT_EQ(lines().at(1), "1: tx_ch0  = 1ff | 09: tx_ch08 = 14f | 17: tx_ch16 = 1ff | 25: tx_ch24 = 1ff");
+    const std::vector<std::string> map = lines();
+    EXPECT_EQ(std::vector<std::string>(map.begin() + 1, map.begin() + 9),
+              (std::vector<std::string>{
+                  "1: tx_ch0  = 100 | 09: tx_ch08 = 108 | 17: tx_ch16 = 110 | 25: tx_ch24 = 118",
+                  "2: tx_ch1  = 101 | 10: tx_ch09 = 109 | 18: tx_ch17 = 111 | 26: tx_ch25 = 119",
+                  "3: tx_ch2  = 102 | 11: tx_ch10 = 10a | 19: tx_ch18 = 112 | 27: tx_ch26 = 11a",
+                  "4: tx_ch3  = 103 | 12: tx_ch11 = 10b | 20: tx_ch19 = 113 | 28: tx_ch27 = 11b",
+                  "5: tx_ch4  = 104 | 13: tx_ch12 = 10c | 21: tx_ch20 = 114 | 29: tx_ch28 = 11c",
+                  "6: tx_ch5  = 105 | 14: tx_ch13 = 10d | 22: tx_ch21 = 115 | 30: tx_ch29 = 11d",
+                  "7: tx_ch6  = 106 | 15: tx_ch14 = 10e | 23: tx_ch22 = 116 | 31: tx_ch30 = 11e",
+                  "8: tx_ch7  = 107 | 16: tx_ch15 = 10f | 24: tx_ch23 = 117 | 32: tx_ch31 = 11f"}));
     proc().setEntryBits(Proc::kTxBlock, 6, 6, 0, 64, (1ull << 17) | (1ull << 32));
     EXPECT_EQ(MCARD_IMA_DiagHardwareGetImatx(kChip, 7, 6, buf.data()), 0);
     // Row r, column c is link 16c + r: link 17 in row 1 column 1, link 32 in row 0 column 2.

@@ -222,6 +222,8 @@ TEST_F(ControlTest, ReadClearCountersIcpCellsAndTestPatterns) {
     const uint16_t link[1] = {9};
     EXPECT_EQ((U32s{VQ6192_IMA_GetRxTestPtn(kChip, 0, 1, link, ptn), ptn[0]}), (U32s{0, 12}))
         << "word 2, top byte";
+    const uint16_t pastTheLinks[1] = {336};
+    EXPECT_EQ(VQ6192_IMA_GetRxTestPtn(kChip, 0, 1, pastTheLinks, ptn), 0x030D0001u);
     setBits(kPpB, kGps, 6 * 8 + 1, 0, 64,
             (1ull << 47) | (0x3Cull << 48) | (1ull << 15) | (0x1Full << 8) | 0xC3);
     uint16_t rxEn = 0, rxPtn = 0, txLid = 0, txEn = 0, txPtn = 0;

@@ -36,6 +36,9 @@ TEST_F(PppTest, TypicalRequestPppChannelOnE1Tributary5) {
     }
     EXPECT_TRUE(tracedLine(
         "VQ6192_PPP_CreatePppChan : Set E1:[5] TS:[0xfffffffe] To PPP:[37] Speed:[3] Return:[0x0]\n"));
+    for (const std::string &line : capture.traceTexts()) {
+        EXPECT_NE(line.rfind("Err. ", 0), 0u) << line;  // a success reports no failed step
+    }
 }
 
 TEST_F(PppTest, CreateOnAnE1TheTimeslotLayerRefusesOrsItsStatus) {

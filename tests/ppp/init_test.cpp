@@ -81,6 +81,7 @@ TEST_F(PppTest, RefusalsTraceTheConditionAndTouchNothing) {
     PPP_REFUSED(VQ6192_PPP_SetMpSnFormat(c, 2, 0, 2), "enSnFormatDown < VQ6192_MP_SN_BUTT");
     PPP_REFUSED(VQ6192_PPP_SetMpSnCtrl(c, 2, 1, 128, 0), "ulMpCtrlNum < VQ6192_MAX_MP_CTRL_NUM");
     PPP_REFUSED(VQ6192_PPP_SetMpSnCtrl(c, 2, 1, 1, 8), "ulMcNum < VQ6192_MAX_MC_QUE_NUM");
+    PPP_REFUSED(VQ6192_PPP_SetMpSnCtrl(c, 2, 2, 1, 0), "ulEnable <= VQ6192_PPP_ENABLE");
     PPP_REFUSED(VQ6192_PPP_SetMpMaxFragNum(c, 128), "ulMaxFragNum < VQ6192_MAX_MP_FRAG_NUM");
     PPP_REFUSED(VQ6192_PPP_SetMpQueWeight(c, 2, 8, 1), "ulMcQueNo < VQ6192_MAX_MC_QUE_NUM");
     PPP_REFUSED(VQ6192_PPP_SetMpQueWeight(c, 2, 1, 128), "ulQueWeight < VQ6192_MAX_MP_QUE_WEIGHT");
@@ -94,6 +95,11 @@ TEST_F(PppTest, RefusalsTraceTheConditionAndTouchNothing) {
     PPP_REFUSED(VQ6192_PPP_CapturePppFifoPkt(c, 300, 1, buf, &u), "ulChanNo < VQ6192_SCH_MP_MAX");
     PPP_REFUSED(VQ6192_PPP_StartCobcCap(c, 4096), "usHdlcChnl < VQ6192_HDLC_MAX");
     PPP_REFUSED(VQ6192_PPP_GetPppCRCMode(c, 1, 2, &u), "ucDirect < VQ6192_BASE_SRV_DIRECT_BOTH");
+    // Null pointers are refused with the text of their condition too.
+    PPP_REFUSED(VQ6192_PPP_SetPppPpuCfg(c, 1, nullptr, nullptr), "rstPpuCfg != NULL");
+    PPP_REFUSED(VQ6192_PPP_GetPppDdrCapPkt(c, 1, 0, 0, buf, nullptr, &next), "pusLen != NULL");
+    PPP_REFUSED(VQ6192_PPP_GetPppFifoCapData(c, buf, nullptr), "pulLen != NULL");
+    PPP_REFUSED(VQ6192_PPP_GetPppMRU(c, 1, nullptr), "pulMRU != NULL");
 }
 
 TEST_F(PppTest, EnabledVc4ChannelsLiveAtMultiplesOf512) {
