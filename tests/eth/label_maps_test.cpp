@@ -153,6 +153,7 @@ TEST_F(Maps, ProtocolPairsInEachDirection) {
     EXPECT_EQ(VQ6192_ETH_GetSrvPPPPro2EthType(kChip, 17, 1, &ppp, &type, &active), 0u);
     EXPECT_EQ((U32s{ppp, type, active}), (U32s{0x0021, 0x0800, 1}));
     ETH_REFUSED(VQ6192_ETH_GetSrvPPPPro2EthType(kChip, 1, 2, &ppp, &type, &active));
+    ETH_REFUSED(VQ6192_ETH_GetSrvPPPPro2EthType(kChip, 32, 0, &ppp, &type, &active));
     ETH_REFUSED(VQ6192_ETH_SetSrvPPPPro2EthType(kChip, 32, 0, 1, 1, 1));
     ETH_REFUSED(VQ6192_ETH_SetSrvPPPPro2EthType(kChip, 1, 3, 1, 1, 1));
 }
