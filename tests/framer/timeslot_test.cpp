@@ -46,16 +46,18 @@ TEST_F(TimeslotTest, E1EntriesForEveryServiceTypeSpeedAndDirection) {
     }
 }
 
-TEST_F(TimeslotTest, AllTimeslotsOfTheLastE1AndDeletionBackToTheClearedEntry) {
-    const uint32_t next = entry(kIngressSelect, 336, 0);
-    ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 335, 100, 3, 0xFFFFFFFFu, 3), 0u);
-    EXPECT_EQ(entry(kIngressSelect, 336, 0), next) << "timeslot 31 is the last one written";
-    ASSERT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 1, 335, 0x0000FFFFu), 0u);
-    ASSERT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 3, 335, 0xFFFFFFFFu), 0u) << "direction 3 clears nothing";
+TEST_F(TimeslotTest, AllTimeslotsAndDeletionBackToTheClearedEntry) {
+    // The next tributary's timeslot 0 follows timeslot 31 in the table: it stays as it was.
+    const uint32_t next = entry(kIngressSelect, 335, 0);
+    ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 334, 100, 3, 0xFFFFFFFFu, 3), 0u);
+    EXPECT_EQ(entry(kIngressSelect, 335, 0), next) << "timeslot 31 is the last one written";
+    ASSERT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 1, 334, 0x0000FFFFu), 0u);
+    ASSERT_EQ(VQ6192_Framer_DeleteSrcE1(kChip, 3, 334, 0xFFFFFFFFu), 0u) << "direction 3 clears nothing";
     for (uint32_t ts = 0; ts < 32; ++ts) {
-        EXPECT_EQ(ints(entry(kIngressSelect, 335, ts), entry(kEgressSelect, 335, ts)),
+        EXPECT_EQ(ints(entry(kIngressSelect, 334, ts), entry(kEgressSelect, 334, ts)),
                   ints(0x9864, ts < 16 ? 0x7800 : 0x9864));
     }
+    EXPECT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 2, 335, 100, 3, 0xFFFFFFFFu, 3), 0u) << "the last E1";
 }
 
 TEST_F(TimeslotTest, SelectionRefusalsTouchNothing) {
