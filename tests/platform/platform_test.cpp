@@ -1,5 +1,6 @@
 // The platform layer: bounded functions, memory accounting and injection, semaphores, delays, the
 // virtual clock and the log.
+#include <dlfcn.h>
 #include <signal.h>
 #include <sys/time.h>
 
@@ -74,6 +75,7 @@ TEST(Bounded, TextBuilderNeverPassesTheBuffer) {
     EXPECT_EQ(buf[0], '\0') << "a one-byte buffer holds the empty text";
     vq::TextBuilder none(nullptr);
     EXPECT_EQ(none.add("ignored").length(), 0u);
+    EXPECT_FALSE(vq::TextBuilder(buf.data(), 0).add("x").failed()) << "no room is not a formatting failure";
 }
 
 TEST(Memory, AccountsPerTagAndInjectsFailures) {
@@ -223,6 +225,21 @@ TEST(Clock, VirtualClockTotalsEveryWaitAndHostHooksTakeTheRest) {
 
 void onAlarm(int) {}
 
+// The requests of every real sleep of the process, so that a resumed sleep can be told from a
+// restarted one.
+std::vector<timespec> g_sleepRequests;
+
+}  // namespace
+
+extern "C" int nanosleep(const timespec *req, timespec *rem) {
+    g_sleepRequests.push_back(*req);
+    static const auto real =
+        reinterpret_cast<int (*)(const timespec *, timespec *)>(dlsym(RTLD_NEXT, "nanosleep"));
+    return real(req, rem);
+}
+
+namespace {
+
 TEST(Clock, RealDelayResumesAfterASignal) {
     // The one real sleep of the suite: 30 ms, interrupted after 5 ms by a signal whose handler does
     // not restart system calls. The delay must still last its whole time.
@@ -235,11 +252,17 @@ TEST(Clock, RealDelayResumesAfterASignal) {
     itimerval timer{};
     timer.it_value.tv_usec = 5000;
     ASSERT_EQ(setitimer(ITIMER_REAL, &timer, nullptr), 0);
+    g_sleepRequests.clear();
     auto start = std::chrono::steady_clock::now();
     vq::DrvDelayUs(30000);
     auto elapsed = std::chrono::steady_clock::now() - start;
     sigaction(SIGALRM, &old, nullptr);
     EXPECT_GE(elapsed, std::chrono::milliseconds(30));
+    // Resumed with what was left, not started again.
+    ASSERT_GE(g_sleepRequests.size(), 2u);
+    EXPECT_EQ((std::vector<long>{g_sleepRequests[0].tv_sec, g_sleepRequests[0].tv_nsec}),
+              (std::vector<long>{0, 30000000}));
+    EXPECT_LT(g_sleepRequests[1].tv_nsec, 30000000) << "the second request is the remainder";
 }
 
 TEST(Log, MaskFiltersAndSinkReceivesTheFormattedLine) {
