@@ -131,6 +131,9 @@ TEST_F(ChipDiag, WithoutABuffer) {
         {"getchipstatus", [] { return getchipstatus(kChip, nullptr); }, false, 0},
         {"getpllpowerdown, bad pll", [] { return getpllpowerdown(kChip, 4, nullptr); }, false, 0},
         {"getddrfifostats", [] { return getddrfifostats(kChip, nullptr); }, false, 0},
+        {"getddrteststats", [] { return getddrteststats(kChip, nullptr); }, false, 0},
+        {"getsdstxclksel", [] { return getsdstxclksel(kChip, nullptr); }, true, 0},
+        {"getsrvpowerdownen", [] { return getsrvpowerdownen(kChip, nullptr); }, true, 0},
         {"getsrvpdstat", [] { return getsrvpdstat(kChip, nullptr); }, true, 0},
     });
     // The version comes from its two registers, nothing else.
