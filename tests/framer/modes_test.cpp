@@ -148,6 +148,7 @@ TEST_F(FramerInit, WholeRegisterEffectForEachModeAndLineType) {
         model.poke(0x2034, 0x00FF);
         model.poke(0x22002, 0x00FF);
         model.poke(0x20800, 0x8000);  // bit 15 lies outside the 15-bit delay field
+        model.poke(0x2A000, 0x2000);  // bit 13 beside the one-bit field at 12
         ASSERT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, c.tdm), 0u);
         VQ6192_Platform_ResetVirtualTime();
         const auto written =
@@ -167,7 +168,7 @@ TEST_F(FramerInit, WholeRegisterEffectForEachModeAndLineType) {
         }
         EXPECT_EQ(ints(model.peek(0x2034), model.peek(0x20800), model.peek(0x20802), model.peek(0x22002),
                        model.peek(0x2A000), model.peek(0x20006)),
-                  ints(0x00F0, 0x8000 | c.delay0, c.delay1, 0x00F0, 0x1000, c.line));
+                  ints(0x00F0, 0x8000 | c.delay0, c.delay1, 0x00F0, 0x3000, c.line));
         for (uint32_t slot = 0; slot < 12; ++slot) {
             uint8_t type = 0;
             EXPECT_EQ((Ints{VQ6192_SDH_GetSDHMap(kChip, slot / 3, slot % 3, &type), type}),

@@ -65,6 +65,21 @@ std::map<uint32_t, uint16_t> expectedRegisters(uint32_t line, uint32_t tdm, uint
     return regs;
 }
 
+// The exported tables are the documented ones, dashes as 0xFFFF; rows that no mode accepts included.
+TEST(SdhMapTables, ExportedTablesAreTheDocumentedOnes) {
+    for (uint32_t type = 0; type < 14; ++type) {
+        for (uint32_t col = 0; col < 20; ++col) {
+            for (uint32_t vc4 : {0u, 1u}) {
+                const int want = mapCfg(vc4, type, col);
+                const uint16_t got =
+                    (vc4 == 0 ? g_aausVQ6192SDHMapCfg0 : g_aausVQ6192SDHMapCfg123)[type][col];
+                EXPECT_EQ(got, want < 0 ? 0xFFFF : want)
+                    << "VC-4 " << vc4 << " type " << type << " column " << col;
+            }
+        }
+    }
+}
+
 // Map type read back after setting each type on a fresh chip, per line mode, TDM mode and VC-4
 // (0, or 1..3); -1: the setter refuses it.
 const int kReadBack[2][2][2][14] = {

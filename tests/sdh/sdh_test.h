@@ -103,6 +103,10 @@ class SdhTest : public vqtest::ChipTest {
             Out out = static_cast<Out>(0xEEEE);
             ASSERT_EQ(c.get(kChip, &out), 0u) << c.name;
             EXPECT_EQ(out, c.value) << c.name;
+            // Read again with the neighbours clear, so that a getter reading another bit sees 0.
+            model.poke(c.reg, static_cast<uint16_t>(c.value << c.bit));
+            ASSERT_EQ(c.get(kChip, &out), 0u) << c.name;
+            EXPECT_EQ(out, c.value) << c.name << ", neighbours clear";
         }
     }
 };
