@@ -198,7 +198,12 @@ TEST_F(TrafficTest, CbrRatesDropThresholdsAndExcessBandwidth) {
     for (uint32_t period : {1u, 5u, 3968253u}) {
         EXPECT_EQ(VQ6192_ATM_SetAtmShVcByPeriod(kChip, 0, 0, period), kPara) << period;
     }
-    EXPECT_EQ(VQ6192_ATM_SetAtmShVc(kChip, 0, 16, 100), kPara);
+    uint32_t out = 0;
+    EXPECT_EQ(
+        (V32{VQ6192_ATM_SetAtmShVc(kChip, 0, 16, 100), VQ6192_ATM_SetAtmShVcByPeriod(kChip, 0, 16, 6),
+             VQ6192_ATM_GetAtmShVc(kChip, 0, 16, &out), VQ6192_ATM_GetAtmShVcPeriod(kChip, 0, 16, &out)}),
+        V32(4, kPara))
+        << "class 16";
     EXPECT_TRUE(model.trace().empty());
     ASSERT_EQ(VQ6192_ATM_SetAtmShVcByPeriod(kChip, 1, 2, 3968252), 0u);
     uint32_t period = 0;
