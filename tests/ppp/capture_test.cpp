@@ -62,6 +62,11 @@ TEST_F(CaptureTest, DdrRecords) {
     EXPECT_TRUE(std::equal(frame.begin(), frame.begin() + 150, buf.begin()));
     EXPECT_EQ(VQ6192_PPP_GetPppDdrCapPktDown(kChip, 10, 0, buf.data(), &len, &next), kNoData);
     EXPECT_TRUE(tracedLine("NO BEGIN!"));
+    // A start block claiming 63 valid bytes holds 56 from byte 8: the copy stops at the block's end.
+    ppp().putCaptureBlock(region(11), {0x83F0});
+    ppp().putCaptureBlock(region(11) + 64, {0x4000});
+    ASSERT_EQ(VQ6192_PPP_GetPppDdrCapPktDown(kChip, 11, 0, buf.data(), &len, &next), 0u);
+    EXPECT_EQ(len, 56u);
 
     VQ6192_Platform_FailAllocs(0, 3);  // the work buffers refused
     EXPECT_EQ((U32s{VQ6192_PPP_GetPppDdrCapPktUp(kChip, 5, 0, buf.data(), &len, &next),

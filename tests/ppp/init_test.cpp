@@ -133,9 +133,10 @@ TEST_F(PppTest, EnabledVc4ChannelsLiveAtMultiplesOf512) {
         VQ6192_PPP_CalcPppChnl(kChip, 0, 1);  // VC-4 channel: no trace
         VQ6192_PPP_CalcPppChnl(kChip, 7, 1);
         VQ6192_PPP_CalcPppChnl(kChip, 7, 0);
+        VQ6192_PPP_CalcPppChnl(kChip, 7, 2);  // only direction 1 traces
         VQ6192_PPP_ReCalcPppChnl(kChip, 7, 1);
     });
-    ASSERT_EQ(t.size(), 4u);
+    ASSERT_EQ(t.size(), 5u);
     for (const auto &a : t) {
         EXPECT_EQ(a.addr, kVc4Enable);
     }
