@@ -177,6 +177,8 @@ TEST_F(Ports, WeightsAndPortControls) {
         model.poke(addr, static_cast<uint16_t>(before));
         EXPECT_EQ(VQ6192_ETH_SetETH1WRRWeight(kChip, cls, 0x5A), 0u);
         EXPECT_EQ(model.peek(addr), after) << cls;
+        uint32_t weight = 0;
+        EXPECT_EQ((U32s{VQ6192_ETH_GetETH1WRRWeight(kChip, cls, &weight), weight}), (U32s{0, 0x5A})) << cls;
     }
     ETH_REFUSED(VQ6192_ETH_SetETH1WRRWeight(kChip, 4, 1));
     model.poke(0x80C2, 0xE000);
@@ -195,7 +197,10 @@ TEST_F(Ports, SelfTestRun) {
     EXPECT_EQ(peek({0x80BA, 0x9020, 0x9026}), (U32s{0xFF18, 0xA5, 1500}));
     const uint16_t en[4] = {1, 2, 3, 0x8000};
     EXPECT_EQ(VQ6192_ETH_SetSelfTestChnlEn(kChip, en), 0u);
-    EXPECT_EQ(model.peek(0x901E), 0x8000);
+    EXPECT_EQ(peek({0x9018, 0x901A, 0x901C, 0x901E, 0x9020}), (U32s{1, 2, 3, 0x8000, 0xA5})) << "four words";
+    uint16_t enBack[4] = {};
+    EXPECT_EQ((U32s{VQ6192_ETH_GetSelfTestChnlEn(kChip, enBack), enBack[0], enBack[3]}),
+              (U32s{0, 1, 0x8000}));
     uint8_t head[64];
     for (int i = 0; i < 64; ++i) {
         head[i] = static_cast<uint8_t>(i + 1);

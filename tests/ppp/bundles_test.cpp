@@ -144,6 +144,10 @@ TEST_F(BundleTest, ResetHandshakesCodesAndWaits) {
         ppp().setResetBusy(1);
         ppp().refuseGroupReset(60, false);
     }
+    // Every queue of the bundle counts, its first one too.
+    ppp().fillQueue(60, 0, 5, static_cast<uint32_t>(F));
+    EXPECT_EQ(VQ6192_PPP_ResetMpBundle(kChip, 60, 3), kTimeout);
+    ppp().fillQueue(60, 0, 0, 0);
     // Only the bundle's own queues count: the next bundle's first queue never drains.
     ppp().fillQueue(61, 0, 5, static_cast<uint32_t>(F));
     VQ6192_Platform_ResetVirtualTime();
