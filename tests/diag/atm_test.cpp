@@ -121,6 +121,11 @@ TEST_F(AtmDiagTest, OamCellAndPseudowireRecords) {
     ASSERT_EQ(getatmpwe3per(kChip, 6, buf.data()), 0u);
     const std::string first = "Sequence number of the previous packet in the upstream direction : 0x1(1)\n";
     EXPECT_EQ(text().substr(0, first.size()), first);
+    setAtmEntry(model, 34, 0, {0x0001, 0, 0, 0, 0x0040});
+    ASSERT_EQ(getatmpwe3perall(kChip, buf.data()), 0u);
+    const std::string all = text();
+    EXPECT_LT(all.find("| \n|   0|"), all.find("| \n|   6|")) << "PW 0's row, then PW 6's";
+    EXPECT_NE(all.find("| \n|   6|"), std::string::npos);
 
     model.poke(0xA6C2, 1);
     ASSERT_EQ(getpw3fifostats(kChip, buf.data()), 0u);

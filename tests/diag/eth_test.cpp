@@ -77,9 +77,10 @@ TEST_F(EthDiag, ProtocolPairsAndPacketReports) {
     EXPECT_EQ(run([](char *b) { return ppppro2type(kChip, b); }),
               "  Ingress\n" + pairs + "  Egress\n" + pairs);
 
-    eth().receive({0xC0, 0x21, 0x05});
+    eth().receive({0xC0, 0x21, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14});  // sixteen bytes a line
     EXPECT_EQ(run([](char *b) { return readpppprotocolpkt(kChip, b); }),
-              " rdwDataLen    :    0x3(3 )\n c0  21  05 \n");
+              " rdwDataLen    :    0x11(17 )\n"
+              " c0  21  00  01  02  03  04  05  06  07  08  09  0a  0b  0c  0d \n 0e \n");
     eth().capture({0x00, 0x11, 0x22, 0x81});
     uint32_t rc = 1;
     EXPECT_EQ(run([](char *b) { return Vq6192CapEthPkt(kChip, 1, b); }, &rc),
