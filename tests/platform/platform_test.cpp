@@ -188,9 +188,11 @@ TEST(Semaphore, ChipLockOnHostSemaphoresIsCreatedFreeAndBinary) {
 TEST(DumpFiles, WithoutFileFunctionsEachHookDoesNothingAndReturns0) {
     VQ6192_Platform_SetFileHooks(nullptr);
     uintptr_t handle = 0;
-    EXPECT_EQ(vq6192_fileopen_func("f", "wb", &handle) | vq6192_filewrite_func("abc", 1, 3, handle) |
-                  vq6192_fileclose_func(&handle),
-              0u);
+    // A braced list calls them in order: the write takes the handle the open left.
+    EXPECT_EQ(
+        (std::vector<uint32_t>{vq6192_fileopen_func("f", "wb", &handle),
+                               vq6192_filewrite_func("abc", 1, 3, handle), vq6192_fileclose_func(&handle)}),
+        (std::vector<uint32_t>{0, 0, 0}));
     EXPECT_EQ(handle, 0u);
 }
 
