@@ -25,6 +25,7 @@ TEST_F(LockTest, LockFailuresSkipOrFinishTheAccess) {
         return 0u;
     };
     const auto d = [] { return VQ6192_WriteRegDirect(kChip, 0x10, 0x4321); };
+    const auto wi = [] { return VQ6192_WriteRegIndirect(kChip, 0x10, 0x55); };
     const auto a = [] { return VQ6192_GetArbitrateFunc(kChip, 0x10, 0x20); };
     struct Row {
         const char *what;
@@ -45,7 +46,7 @@ TEST_F(LockTest, LockFailuresSkipOrFinishTheAccess) {
          {sem + "0x55", "WriteRegIndirect " + sem + "0x55"}, {0, 1, 0, 0}, false},
         {"indirect, take fails", true, [] { VQ6192_Platform_FailSemTakes(0, 1); }, r, 0, 0x1234,
          {sem + "0x0", "ReadRegIndirect GetArbitrateFunc " + sem + "0x0"}, {0, 1, 0, 0}, false},
-        {"indirect, take fails", true, [] { VQ6192_Platform_FailSemTakes(0, 1); }, w, 0, 0x1234,
+        {"indirect, take fails", true, [] { VQ6192_Platform_FailSemTakes(0, 1); }, wi, 0, 0x1234,
          {sem + "0x55", "WriteRegIndirect " + sem + "0x55"}, {0, 1, 0, 0}, false},
         // With a host read function the release result is ignored and the value still comes back.
         {"give fails", false, [] { VQ6192_Platform_FailSemGives(0, 1); }, r, 0x1234, 0x1234,

@@ -59,6 +59,12 @@ TEST(TablePrint, FieldsSideBySideWithoutATail) {
               "\r\nGammaGammaGamma(10:20)= 0xabcdef                      "
               "Delta(0:1)       = 0xabcde ");
     EXPECT_EQ(column, 81u);
+    // A caller's own column counts as well: at column 1 a field past column 80 starts a new line.
+    std::string wide(256, '\0');
+    vq::TextBuilder wideText(wide.data(), wide.size());
+    uint32_t one = 1;
+    vq::tblSprintf(wideText, 1, std::string(70, 'W').c_str(), 0, 1, nullptr, &one);
+    EXPECT_EQ(wide.substr(0, 3), "\r\nW");
     EXPECT_EQ(vq::tblSprintf(text, 7, "Last", 0, 3, "end", &column),
               28u);  // "Last(0:3)" padded, "= 0x7 end\r\n"
     EXPECT_EQ(column, 0u);
