@@ -23,7 +23,8 @@ class MemFiles {
     std::map<std::string, std::vector<uint8_t>> files;
     std::vector<std::string> calls;  // "open NAME MODE", "write SIZE COUNT", "close"
 
-    // Failures: opens with this mode fail ("" none) or give handle 0; write number n (0-based, -1 none)
+    // Failures: opens with this mode fail ("" none) or open nothing, leaving the handle as the caller set
+    // it (0 from the library); write number n (0-based, -1 none)
     // fails; closes fail (the file is closed all the same).
     std::string failOpenMode;
     std::string zeroHandleMode;
@@ -51,8 +52,7 @@ class MemFiles {
             return 1;
         }
         if (mode == f.zeroHandleMode) {
-            *handle = 0;
-            return 0;
+            return 0;  // opens nothing and leaves the caller's handle as it was
         }
         if (std::strcmp(mode, "wb") == 0) {
             f.files[name].clear();
