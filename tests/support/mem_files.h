@@ -24,8 +24,8 @@ class MemFiles {
     std::vector<std::string> calls;  // "open NAME MODE", "write SIZE COUNT", "close"
 
     // Failures: opens with this mode fail ("" none) or open nothing, leaving the handle as the caller set
-    // it (0 from the library); write number n (0-based, -1 none)
-    // fails; closes fail (the file is closed all the same).
+    // it (0 from the library); write number n (0-based, -1 none) fails; closes fail (the file is closed
+    // all the same).
     std::string failOpenMode;
     std::string zeroHandleMode;
     int failWriteAt = -1;
