@@ -160,6 +160,16 @@ TEST_F(ImaDiagTest, HardwareSnapshotLayouts) {
     EXPECT_EQ(*(head + 1), "-------- ------------- --- --- -------- ---------- -------- ---------");
     EXPECT_EQ(*(head + 6), "  4:        0             1   1   0        0          3        0      beef");
 
+    // Receive ICP buffer of link 2: twelve words, octets 6..53, low byte first.
+    for (uint32_t w = 0; w < 12; ++w) {
+        proc().setEntryBits(Proc::kRxBlock, 5, 2 * 16 + w, 0, 32, 0x04030201u + 0x04040404u * w);
+    }
+    EXPECT_EQ(MCARD_IMA_DiagHardwareGetImarx(kChip, 6, 2, buf.data()), 0);
+    EXPECT_EQ(
+        (std::vector<std::string>{lines().at(0), lines().at(5), lines().at(11)}),
+        (std::vector<std::string>{"  ICP octet 06 ~ 09:   01 02 03 04", "  ICP octet 26 ~ 29:   15 16 17 18",
+                                  "  ICP octet 50 ~ 53:   2D 2E 2F 30"}));
+
     // Transmit ICP buffer: octets 11..51, the bytes outside the cell as reserved.
     for (uint32_t w = 0; w < 11; ++w) {
         proc().setEntryBits(Proc::kTxBlock, 1, 16 + w, 0, 32, 0x11223344u);
