@@ -164,6 +164,9 @@ TEST_F(Channels, Vc4ChannelWithSectionOverhead) {
     ASSERT_EQ(VQ6192_CES_DelE3CesChan(kChip, 340, 4), 0u);
     ASSERT_EQ(VQ6192_Framer_GetE3TsCfg(kChip, 0, 4, &chnl, &type, &speed, &en), 0u);
     EXPECT_EQ(en, 0);
+
+    const VQ6192_CES_CHAN_S lastPort = {3, 351, 0, 1};
+    EXPECT_EQ(VQ6192_CES_CreateVC4CesChan(kChip, &lastPort, 0), 0u) << "VC-4 3 takes a channel too";
 }
 
 // A step that fails stops the operation with error 4, names the callee, and keeps the earlier steps.
