@@ -40,6 +40,8 @@ TEST_F(EthDiag, ReportsByteForByte) {
          "        setpmugreglbattr() FAIL\n", 0x03050001},
         {[](char *b) { return setserdeschnlreset(kChip, 3, 1, b); }, "        setserdeschnlreset() FAIL\n",
          0x03050001},
+        {[](char *b) { return setpmuipglbattr(kChip, 4, 5, 0x1234, 0x100, 7, 0, b); },
+         "        setpmuipglbattr() FAIL\n", 0x03050001},  // flags take a byte
         {[](char *b) { return seteth1portsendmode(kChip, 1, b); },
          "seteth1portsendmode(UCHAR byMode)\n"
          "     UCHAR byMode   : 0:Select single-fed and single-receiving; 1:Select dual-fed and "

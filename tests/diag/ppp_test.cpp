@@ -45,6 +45,10 @@ TEST_F(PppDiagTest, ValueAndStructureReports) {
 TEST_F(PppDiagTest, SetterLayouts) {
     EXPECT_EQ(setpppppucfg(kChip, 4, 0x3 | 1u << 9, 1500, 0, buf.data()), 0u);
     EXPECT_EQ(text(), "        setpppppucfg() is OK\n");
+    VQ6192_PPP_PPU_CFG_S correct{};
+    EXPECT_EQ(setpppppucfg(kChip, 4, 1u << 10, 0, 0, buf.data()), 0u);  // bits 10..11: the correction field
+    EXPECT_EQ((std::vector<uint32_t>{VQ6192_PPP_GetPppPpuCfg(kChip, 4, &correct), correct.bCorrect}),
+              (std::vector<uint32_t>{0, 1}));
     // Packed bits 21..31 select nothing.
     const uint64_t writes = model.tables().writesExecuted(0x8000);
     EXPECT_EQ(setpppppucfg(kChip, 4, 0xFFE00000u, 0, 0, buf.data()), 0u);
