@@ -6,6 +6,7 @@
 #include "diag/diag_test.h"
 #include "vq6192/ces.h"
 #include "vq6192/eth.h"
+#include "vq6192/framer.h"
 
 namespace diagtest {
 namespace {
@@ -79,6 +80,11 @@ TEST_F(CesCommands, ConfigurationOverview) {
               "CH     ENABLE   E1  TIMESLOT    LABEL_EN  TYPE  LABEL_IN    LABEL_E\n"
               " 3       1    0x2   0xe             1      0    0x500       0x777   \n"
               "-----------------------------------------------------------------\n");
+    // A T1 line has 24 timeslots: an entry in timeslot 24 is not the channel's.
+    ASSERT_EQ(VQ6192_Framer_SetFrmTDMMode(kChip, 1), 0u);
+    ASSERT_EQ(VQ6192_Framer_SelectSrcE1(kChip, 0, 2, 3, 3, 1u << 24, 3), 0u);
+    ASSERT_EQ(DbgGetCesConfig(kChip, 3, 4, buf.data()), 0u);
+    EXPECT_NE(text().find(" 3       1    0x2   0xe "), std::string::npos) << text();
 }
 
 }  // namespace
