@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "diag/registry.h"
 #include "support/test_support.h"
 
 namespace diagtest {
@@ -17,6 +18,20 @@ inline const std::string kLSep = "\n--------------------------------------------
 inline std::string framed(const std::string &title, const std::string &lines,
                           const std::string &sep = kNSep) {
     return sep + "        " + title + "\n" + sep + lines + sep;
+}
+
+// A registry command's arguments: the chip first, the others zero, arrays at their shortest.
+inline std::vector<vq::diag::ArgValue> argsOf(const vq::diag::Command &cmd, uint32_t chip) {
+    std::vector<vq::diag::ArgValue> args(cmd.argc);
+    for (size_t k = 0; k < args.size(); ++k) {
+        args[k].kind = cmd.kinds[k];
+        args[k].bytes.resize(vq::diag::kMinArrayElems);
+        args[k].u16.resize(vq::diag::kMinArrayElems);
+    }
+    if (!args.empty()) {
+        args[0].u32 = chip;
+    }
+    return args;
 }
 
 // Several outputs in one comparison: EXPECT_EQ(ints(mode, value), ints(1, 0x5A)).

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "diag/diag_test.h"
 #include "diag/registry.h"
 #include "support/test_support.h"
 #include "vq6192/atm.h"
@@ -15,24 +16,13 @@
 
 namespace {
 
+using diagtest::argsOf;
+
 class DiagRegistry : public vqtest::ChipTest {
   protected:
     void TearDown() override {
         std::fill(std::begin(g_conndata), std::end(g_conndata), ATM_CONN_DATA{});
         ChipTest::TearDown();
-    }
-    // A command's arguments: the chip first, the others zero, arrays at their shortest.
-    static std::vector<vq::diag::ArgValue> argsOf(const vq::diag::Command &cmd, uint32_t chip) {
-        std::vector<vq::diag::ArgValue> args(cmd.argc);
-        for (size_t k = 0; k < args.size(); ++k) {
-            args[k].kind = cmd.kinds[k];
-            args[k].bytes.resize(vq::diag::kMinArrayElems);
-            args[k].u16.resize(vq::diag::kMinArrayElems);
-        }
-        if (!args.empty()) {
-            args[0].u32 = chip;
-        }
-        return args;
     }
 };
 

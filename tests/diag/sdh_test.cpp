@@ -73,11 +73,7 @@ TEST_F(SdhDiagTest, NullBufferQueriesNothing) {
         if (std::string(cmd.module) != "SDH" && std::string(cmd.module) != "TELECOM") {
             continue;
         }
-        std::vector<vq::diag::ArgValue> args(cmd.argc);
-        for (size_t i = 0; i < cmd.argc; ++i) {
-            args[i].kind = cmd.kinds[i];
-        }
-        args[0].u32 = kChip;
+        std::vector<vq::diag::ArgValue> args = argsOf(cmd, kChip);
         EXPECT_EQ(cmd.invoke(args.data(), nullptr), 0u) << cmd.name;
         EXPECT_TRUE(model.trace().empty()) << cmd.name;
         model.clearTrace();
